@@ -1,0 +1,87 @@
+#include "devicequeries.h"
+
+#include "datakey.h"
+#include "datakind.h"
+#include "idocaccessor.h"
+
+namespace {
+
+DeviceEntry unpack(const QVariantMap& data)
+{
+    return {data.value(DataKey::deviceLabel()).toString(),
+            data.value(DataKey::deviceModelName()).toString(),
+            data.value(DataKey::deviceVersion()).toString(),
+            data.value(DataKey::deviceIPAddress()).toString(),
+            data.value(DataKey::deviceMacAddress()).toString(),
+            data.value(DataKey::roomNumber()).toInt()};
+}
+
+std::optional<DeviceEntry> readDevice(IDocAccessor& doc, QVariantMap selector)
+{
+    if (!doc.getData(DataKind::Device, selector)) {
+        return std::nullopt;
+    }
+    return unpack(selector);
+}
+
+} // namespace
+
+int deviceCount(IDocAccessor& doc)
+{
+    QVariantMap data;
+    doc.getData(DataKind::DeviceCount, data);
+    return data.value(DataKey::count()).toInt();
+}
+
+std::optional<DeviceEntry> deviceAt(IDocAccessor& doc, int index)
+{
+    return readDevice(doc, {{DataKey::index(), index}});
+}
+
+std::optional<DeviceEntry> deviceByAddress(IDocAccessor& doc, const QString& ipAddress)
+{
+    return readDevice(doc, {{DataKey::deviceIPAddress(), ipAddress}});
+}
+
+QList<DeviceEntry> devicesInRoom(IDocAccessor& doc, int room)
+{
+    QList<QVariantMap> maps;
+    doc.getDataList(DataKind::Device, {{DataKey::roomNumber(), room}}, maps);
+    QList<DeviceEntry> devices;
+    devices.reserve(maps.size());
+    for (const QVariantMap& map : maps) {
+        devices.append(unpack(map));
+    }
+    return devices;
+}
+
+bool addDevice(IDocAccessor& doc, const FoundDevice& device)
+{
+    QVariantMap data{{DataKey::deviceModelName(), device.modelName},
+                     {DataKey::deviceLabel(), device.label},
+                     {DataKey::deviceVersion(), device.version},
+                     {DataKey::deviceIPAddress(), device.ipAddress},
+                     {DataKey::deviceMacAddress(), device.macAddress},
+                     {DataKey::deviceSearchType(), device.searchType}};
+    if (!device.password.isEmpty()) {
+        data.insert(DataKey::devicePassword(), device.password);
+    }
+    return doc.addData(DataKind::Device, data);
+}
+
+bool setDeviceRoom(IDocAccessor& doc, const QString& ipAddress, int room)
+{
+    return doc.setData(DataKind::Device,
+                       {{DataKey::deviceIPAddress(), ipAddress}, {DataKey::roomNumber(), room}});
+}
+
+bool setDeviceLabel(IDocAccessor& doc, const QString& ipAddress, const QString& label)
+{
+    return doc.setData(DataKind::Device,
+                       {{DataKey::deviceIPAddress(), ipAddress}, {DataKey::deviceLabel(), label}});
+}
+
+bool identifyDevice(IDocAccessor& doc, const QString& ipAddress)
+{
+    return doc.doAction(DataKind::Identify, {{DataKey::deviceIPAddress(), ipAddress}});
+}

@@ -1,0 +1,3 @@
+#include "idocaccessor.h"
+
+IDocAccessor::~IDocAccessor() = default;

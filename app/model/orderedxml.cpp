@@ -1,0 +1,67 @@
+#include "orderedxml.h"
+
+namespace {
+
+bool isAllowed(char16_t unit)
+{
+    return unit >= 0x20 ? unit < 0xFFFE : unit == u'\t' || unit == u'\n' || unit == u'\r';
+}
+
+bool isCarried(QStringView text, qsizetype at)
+{
+    const QChar unit = text.at(at);
+    if (unit.isHighSurrogate()) {
+        return at + 1 < text.size() && text.at(at + 1).isLowSurrogate();
+    }
+    if (unit.isLowSurrogate()) {
+        return at > 0 && text.at(at - 1).isHighSurrogate();
+    }
+    return isAllowed(unit.unicode());
+}
+
+QString carried(QStringView text)
+{
+    QString kept;
+    kept.reserve(text.size());
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        if (isCarried(text, at)) {
+            kept.append(text.at(at));
+        }
+    }
+    return kept;
+}
+
+} // namespace
+
+OrderedXml::OrderedXml()
+    : m_writer(&m_text)
+{
+    m_writer.setAutoFormatting(true);
+    m_writer.setAutoFormattingIndent(1);
+}
+
+void OrderedXml::start(const QString& element)
+{
+    m_writer.writeStartElement(element);
+}
+
+void OrderedXml::attribute(const QString& name, QStringView value)
+{
+    m_writer.writeAttribute(name, carried(value));
+}
+
+void OrderedXml::attribute(const QString& name, int value)
+{
+    m_writer.writeAttribute(name, QString::number(value));
+}
+
+void OrderedXml::end()
+{
+    m_writer.writeEndElement();
+}
+
+QString OrderedXml::text() const
+{
+    // The writer begins the first element on a new line when no declaration stands before it.
+    return m_text.trimmed() + QLatin1Char('\n');
+}

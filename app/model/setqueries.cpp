@@ -1,0 +1,49 @@
+#include "setqueries.h"
+
+#include "datakey.h"
+#include "datakind.h"
+#include "idocaccessor.h"
+
+namespace {
+
+QVariantMap selector(int deviceSet, int scene, const QString& ipAddress)
+{
+    return {{DataKey::deviceSetNumber(), deviceSet},
+            {DataKey::sceneNumber(), scene},
+            {DataKey::deviceIPAddress(), ipAddress}};
+}
+
+} // namespace
+
+std::optional<DeviceSetInfo> deviceSetRecord(IDocAccessor& doc, int deviceSet, int scene,
+                                             const QString& ipAddress)
+{
+    QVariantMap data = selector(deviceSet, scene, ipAddress);
+    if (!doc.getData(DataKind::DeviceSet, data)) {
+        return std::nullopt;
+    }
+    return DeviceSetInfo{deviceSet, scene, ipAddress,
+                         data.value(DataKey::deviceSetRemove()).toBool(),
+                         data.value(DataKey::speakerPosition()).toString()};
+}
+
+bool addToDeviceSet(IDocAccessor& doc, int deviceSet, int scene, const QString& ipAddress,
+                    bool remove)
+{
+    QVariantMap data = selector(deviceSet, scene, ipAddress);
+    data.insert(DataKey::deviceSetRemove(), remove);
+    return doc.addData(DataKind::DeviceSet, data);
+}
+
+bool setSpeakerPosition(IDocAccessor& doc, int deviceSet, int scene, const QString& ipAddress,
+                        const QString& position)
+{
+    QVariantMap data = selector(deviceSet, scene, ipAddress);
+    data.insert(DataKey::speakerPosition(), position);
+    return doc.setData(DataKind::DeviceSet, data);
+}
+
+void clearDeviceSets(IDocAccessor& doc)
+{
+    doc.clearData(DataKind::DeviceSet);
+}

@@ -1,0 +1,37 @@
+#include "basepage.h"
+
+BasePage::BasePage(const QString& title, int pageNumber, IPageController* controller,
+                   IDocAccessor* doc, QWidget* parent)
+    : QWidget(parent)
+    , m_title(title)
+    , m_pageNumber(pageNumber)
+    , m_controller(controller)
+    , m_doc(doc)
+{
+}
+
+const QString& BasePage::title() const
+{
+    return m_title;
+}
+
+int BasePage::pageNumber() const
+{
+    return m_pageNumber;
+}
+
+void BasePage::enterFrom(int /*previousPageNumber*/) {}
+
+void BasePage::restoreFromDocument() {}
+
+void BasePage::storeToDocument() {}
+
+IPageController& BasePage::controller() const
+{
+    return *m_controller;
+}
+
+IDocAccessor& BasePage::doc() const
+{
+    return *m_doc;
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ipage.h"
+
+#include <QWidget>
+
+class IDocAccessor;
+class IPageController;
+
+/// Base of every page: its title, its number, and the two interfaces that a page works through.
+/// Entering, restoring and storing do nothing until a page overrides them.
+class BasePage : public QWidget, public IPage
+{
+    Q_OBJECT
+
+public:
+    /// Neither `controller` nor `doc` is owned; both outlive the page.
+    BasePage(const QString& title, int pageNumber, IPageController* controller, IDocAccessor* doc,
+             QWidget* parent);
+
+    const QString& title() const override;
+    int pageNumber() const override;
+    void enterFrom(int previousPageNumber) override;
+    void restoreFromDocument() override;
+    void storeToDocument() override;
+
+protected:
+    IPageController& controller() const;
+    IDocAccessor& doc() const;
+
+private:
+    QString m_title;
+    int m_pageNumber;
+    IPageController* m_controller;
+    IDocAccessor* m_doc;
+};

@@ -1,0 +1,3 @@
+#include "ipagecontroller.h"
+
+IPageController::~IPageController() = default;

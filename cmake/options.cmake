@@ -1,0 +1,24 @@
+# What every target is compiled with, in one place.
+add_library(tessel_options INTERFACE)
+
+target_compile_definitions(tessel_options INTERFACE
+    QT_NO_KEYWORDS
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_URL_CAST_FROM_STRING
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+if(MSVC)
+    target_compile_options(tessel_options INTERFACE /W4 /utf-8 $<$<BOOL:${TESSEL_WERROR}>:/WX>)
+else()
+    target_compile_options(tessel_options INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+        $<$<BOOL:${TESSEL_WERROR}>:-Werror>)
+endif()
+
+if(TESSEL_SANITIZE)
+    set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_compile_options(${sanitizers})
+    add_link_options(${sanitizers})
+endif()

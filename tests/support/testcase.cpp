@@ -1,0 +1,21 @@
+#include "testcase.h"
+
+#include <QApplication>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+void TestCase::init()
+{
+    // The offscreen platform says of itself that it lacks these two; nothing else is exempt.
+    QTest::failOnWarning(QRegularExpression(
+        QStringLiteral(R"(^(?!This plugin does not support (propagateSizeHints|raise)\(\)))")));
+}
+
+int runTestCase(TestCase& test, int argc, char** argv)
+{
+    const QTemporaryDir home;
+    qputenv("HOME", home.path().toLocal8Bit());
+    const QApplication application(argc, argv);
+    return QTest::qExec(&test, argc, argv);
+}
