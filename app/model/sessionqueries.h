@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QSize>
+
+class IDocAccessor;
+
+/// Typed queries over what belongs to the run of the program rather than to the hall.
+
+/// The index of the chosen network interface, 0 when none has been chosen.
+int nicIndex(IDocAccessor& doc);
+void setNicIndex(IDocAccessor& doc, int index);
+
+/// The page shown when the work was saved, 0 to 8.
+int pageIndex(IDocAccessor& doc);
+void setPageIndex(IDocAccessor& doc, int index);
+
+/// The size of the window when the work was saved; invalid when it was never set.
+QSize windowSize(IDocAccessor& doc);
+void setWindowSize(IDocAccessor& doc, const QSize& size);
