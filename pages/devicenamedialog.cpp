@@ -1,0 +1,72 @@
+#include "devicenamedialog.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpressionValidator>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int maxNameLength = 64;
+constexpr int editWidth = 300;
+
+QString namePattern()
+{
+    return QStringLiteral(R"([A-Za-z0-9\-]+)");
+}
+
+} // namespace
+
+DeviceNameDialog::DeviceNameDialog(const QString& name, QWidget* parent)
+    : QDialog(parent)
+{
+    setWindowTitle(tr("Change Name"));
+    createWidgets();
+    layOut();
+    connect(m_nameEdit, SIGNAL(textChanged(QString)), this, SLOT(nameChanged()));
+    connect(m_okButton, SIGNAL(clicked()), this, SLOT(accept()));
+    connect(m_cancelButton, SIGNAL(clicked()), this, SLOT(reject()));
+    m_nameEdit->setText(name);
+    m_nameEdit->selectAll();
+    nameChanged();
+}
+
+QString DeviceNameDialog::name() const
+{
+    return m_nameEdit->text();
+}
+
+void DeviceNameDialog::nameChanged()
+{
+    m_okButton->setEnabled(!m_nameEdit->text().isEmpty());
+}
+
+void DeviceNameDialog::createWidgets()
+{
+    m_nameEdit = new QLineEdit(this);
+    m_nameEdit->setObjectName(QStringLiteral("nameEdit"));
+    m_nameEdit->setMaxLength(maxNameLength);
+    m_nameEdit->setMinimumWidth(editWidth);
+    m_nameEdit->setValidator(
+        new QRegularExpressionValidator(QRegularExpression(namePattern()), m_nameEdit));
+    m_okButton = new QPushButton(tr("OK"), this);
+    m_okButton->setObjectName(QStringLiteral("okButton"));
+    m_okButton->setDefault(true);
+    m_cancelButton = new QPushButton(tr("Cancel"), this);
+    m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
+}
+
+void DeviceNameDialog::layOut()
+{
+    auto* label = new QLabel(tr("Enter device name"), this);
+    label->setBuddy(m_nameEdit);
+    auto* buttons = new QDialogButtonBox(this);
+    buttons->addButton(m_okButton, QDialogButtonBox::AcceptRole);
+    buttons->addButton(m_cancelButton, QDialogButtonBox::RejectRole);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(label);
+    layout->addWidget(m_nameEdit);
+    layout->addWidget(buttons);
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QDialog>
+
+class QLineEdit;
+class QPushButton;
+
+/// Asks for a new name of one device: letters, digits and hyphens, up to 64 characters.
+/// Accepted only with a name that is not empty.
+class DeviceNameDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Opens on `name`, the device's present label, selected so that typing replaces it.
+    explicit DeviceNameDialog(const QString& name, QWidget* parent = nullptr);
+
+    /// What stands in the line edit.
+    QString name() const;
+
+private Q_SLOTS:
+    void nameChanged();
+
+private:
+    void createWidgets();
+    void layOut();
+
+    QLineEdit* m_nameEdit = nullptr;
+    QPushButton* m_okButton = nullptr;
+    QPushButton* m_cancelButton = nullptr;
+};

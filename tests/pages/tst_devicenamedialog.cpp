@@ -1,0 +1,129 @@
+#include "devicenamedialog.h"
+#include "testcase.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+class TestDeviceNameDialog : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void saysWhatItAsksFor();
+    void opensOnThePresentName();
+    void okIsOfferedOnlyForANameThatIsNotEmpty();
+    void opensWithOkDisabledForAnEmptyLabel();
+    void onlyLettersDigitsAndHyphensCanBeTyped();
+    void aNameEndsAtSixtyFourCharacters();
+    void okAndReturnAccept();
+    void cancelAndEscapeReject();
+    void returnOnAnEmptyNameDoesNotAccept();
+};
+
+namespace {
+
+struct Opened
+{
+    explicit Opened(const QString& name)
+        : dialog(name)
+    {
+        dialog.show();
+    }
+
+    DeviceNameDialog dialog;
+    QLineEdit* edit = dialog.findChild<QLineEdit*>(QStringLiteral("nameEdit"));
+    QPushButton* ok = dialog.findChild<QPushButton*>(QStringLiteral("okButton"));
+    QPushButton* cancel = dialog.findChild<QPushButton*>(QStringLiteral("cancelButton"));
+};
+
+} // namespace
+
+void TestDeviceNameDialog::saysWhatItAsksFor()
+{
+    const Opened opened(QStringLiteral("Hub-A"));
+    QCOMPARE(opened.dialog.windowTitle(), QStringLiteral("Change Name"));
+    const auto* label = opened.dialog.findChild<QLabel*>();
+    QCOMPARE(label->text(), QStringLiteral("Enter device name"));
+    QCOMPARE(label->buddy(), opened.edit);
+    QCOMPARE(opened.ok->text(), QStringLiteral("OK"));
+    QCOMPARE(opened.cancel->text(), QStringLiteral("Cancel"));
+}
+
+void TestDeviceNameDialog::opensOnThePresentName()
+{
+    const Opened opened(QStringLiteral("Hub-A"));
+    QCOMPARE(opened.edit->text(), QStringLiteral("Hub-A"));
+    QVERIFY(opened.ok->isEnabled());
+    QTest::keyClick(opened.edit, Qt::Key_B);
+    QCOMPARE(opened.dialog.name(), QStringLiteral("b"));
+}
+
+void TestDeviceNameDialog::okIsOfferedOnlyForANameThatIsNotEmpty()
+{
+    const Opened opened(QStringLiteral("A"));
+    QTest::keyClick(opened.edit, Qt::Key_Backspace);
+    QVERIFY(!opened.ok->isEnabled());
+    QTest::keyClick(opened.edit, Qt::Key_7);
+    QVERIFY(opened.ok->isEnabled());
+}
+
+void TestDeviceNameDialog::opensWithOkDisabledForAnEmptyLabel()
+{
+    const Opened opened((QString()));
+    QVERIFY(!opened.ok->isEnabled());
+}
+
+void TestDeviceNameDialog::onlyLettersDigitsAndHyphensCanBeTyped()
+{
+    const Opened opened(QStringLiteral("x"));
+    QTest::keyClicks(opened.edit, QStringLiteral("Az_0 9-./\"9"));
+    QCOMPARE(opened.dialog.name(), QStringLiteral("Az09-9"));
+}
+
+void TestDeviceNameDialog::aNameEndsAtSixtyFourCharacters()
+{
+    const Opened opened((QString()));
+    QTest::keyClicks(opened.edit, QString(70, u'n'));
+    QCOMPARE(opened.dialog.name(), QString(64, u'n'));
+}
+
+void TestDeviceNameDialog::okAndReturnAccept()
+{
+    Opened byMouse(QStringLiteral("Hub-A"));
+    QSignalSpy accepted(&byMouse.dialog, SIGNAL(accepted()));
+    QTest::mouseClick(byMouse.ok, Qt::LeftButton);
+    QCOMPARE(accepted.size(), 1);
+
+    Opened byKey(QStringLiteral("Hub-A"));
+    QSignalSpy acceptedByKey(&byKey.dialog, SIGNAL(accepted()));
+    QTest::keyClick(byKey.edit, Qt::Key_Return);
+    QCOMPARE(acceptedByKey.size(), 1);
+}
+
+void TestDeviceNameDialog::cancelAndEscapeReject()
+{
+    Opened byMouse(QStringLiteral("Hub-A"));
+    QSignalSpy rejected(&byMouse.dialog, SIGNAL(rejected()));
+    QTest::mouseClick(byMouse.cancel, Qt::LeftButton);
+    QCOMPARE(rejected.size(), 1);
+
+    Opened byKey(QStringLiteral("Hub-A"));
+    QSignalSpy rejectedByKey(&byKey.dialog, SIGNAL(rejected()));
+    QTest::keyClick(byKey.edit, Qt::Key_Escape);
+    QCOMPARE(rejectedByKey.size(), 1);
+}
+
+void TestDeviceNameDialog::returnOnAnEmptyNameDoesNotAccept()
+{
+    Opened opened((QString()));
+    QSignalSpy finished(&opened.dialog, SIGNAL(finished(int)));
+    QTest::keyClick(opened.edit, Qt::Key_Return);
+    QCOMPARE(finished.size(), 0);
+    QVERIFY(opened.dialog.isVisible());
+}
+
+TESSEL_TEST_MAIN(TestDeviceNameDialog)
+#include "tst_devicenamedialog.moc"
