@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+
+class QLabel;
+class QWidget;
+
+/// A label for the explanations above a page's content: plain text that wraps at words.
+QLabel* textLabel(const QString& text, QWidget* parent);
