@@ -1,0 +1,88 @@
+#include "scriptedpeer.h"
+
+namespace {
+
+constexpr quint16 commandPort = 49280;
+
+} // namespace
+
+ScriptedPeer::ScriptedPeer(const QString& address)
+    : m_address(address)
+{
+    connect(&m_server, SIGNAL(newConnection()), this, SLOT(takeConnection()));
+}
+
+bool ScriptedPeer::listen()
+{
+    return m_server.listen(hostAddress(), commandPort);
+}
+
+void ScriptedPeer::answerWith(const QList<QByteArray>& answers)
+{
+    m_answers = answers;
+}
+
+void ScriptedPeer::send(const QByteArray& bytes)
+{
+    m_socket->write(bytes);
+}
+
+void ScriptedPeer::hangUp()
+{
+    m_socket->disconnectFromHost();
+}
+
+void ScriptedPeer::switchOff()
+{
+    m_server.close();
+    if (m_socket != nullptr) {
+        m_socket->abort();
+    }
+}
+
+const QString& ScriptedPeer::address() const
+{
+    return m_address;
+}
+
+QHostAddress ScriptedPeer::hostAddress() const
+{
+    return QHostAddress(m_address);
+}
+
+const QByteArray& ScriptedPeer::received() const
+{
+    return m_received;
+}
+
+int ScriptedPeer::lines() const
+{
+    return int(m_received.count('\n'));
+}
+
+int ScriptedPeer::connections() const
+{
+    return m_connections;
+}
+
+bool ScriptedPeer::isOnline() const
+{
+    return m_socket != nullptr && m_socket->state() == QAbstractSocket::ConnectedState;
+}
+
+void ScriptedPeer::takeConnection()
+{
+    m_socket = m_server.nextPendingConnection();
+    ++m_connections;
+    connect(m_socket, SIGNAL(readyRead()), this, SLOT(takeBytes()));
+}
+
+void ScriptedPeer::takeBytes()
+{
+    auto* const socket = qobject_cast<QTcpSocket*>(sender());
+    m_received += socket->readAll();
+    while (m_answered < lines() && m_answered < m_answers.size()) {
+        socket->write(m_answers.at(m_answered));
+        ++m_answered;
+    }
+}
