@@ -1,0 +1,111 @@
+#include "devicetable.h"
+
+#include "identifybutton.h"
+#include "rowdelegate.h"
+
+#include <QHeaderView>
+
+namespace {
+
+/// `widget` itself, or what it consists of, where the Tab key stops.
+QList<QWidget*> tabStops(QWidget* widget)
+{
+    QList<QWidget*> stops;
+    if (widget && (widget->focusPolicy() & Qt::TabFocus)) {
+        stops.append(widget);
+    } else if (widget) {
+        for (QWidget* part : widget->findChildren<QWidget*>()) {
+            if (part->focusPolicy() & Qt::TabFocus) {
+                stops.append(part);
+            }
+        }
+    }
+    return stops;
+}
+
+} // namespace
+
+DeviceTable::DeviceTable(const QStringList& headers, int addressColumn, QWidget* parent)
+    : QTreeWidget(parent)
+    , m_addressColumn(addressColumn)
+{
+    setHeaderLabels(headers);
+    setRootIsDecorated(false);
+    setItemDelegate(new RowDelegate(this));
+    header()->setSortIndicator(labelColumn, Qt::AscendingOrder);
+    connect(model(), SIGNAL(modelAboutToBeReset()), this, SLOT(forgetRows()));
+    connect(model(), SIGNAL(layoutChanged()), this, SLOT(chainTabOrder()));
+}
+
+void DeviceTable::setRows(const QList<QStringList>& rows, const Decorate& decorate)
+{
+    const bool sorted = isSortingEnabled();
+    setSortingEnabled(false);
+    clear();
+    addRows(rows);
+    if (sorted) {
+        sortItems(labelColumn, Qt::AscendingOrder);
+    }
+    // Only now the widgets: each one added among rows still coming would lay all of them out.
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        addIdentifyButton(topLevelItem(i));
+        if (decorate) {
+            decorate(topLevelItem(i));
+        }
+    }
+    setSortingEnabled(sorted);
+    chainTabOrder();
+}
+
+QTreeWidgetItem* DeviceTable::rowOf(const QString& ipAddress) const
+{
+    return m_rows.value(ipAddress);
+}
+
+QString DeviceTable::addressOf(const QTreeWidgetItem* row) const
+{
+    return row->text(m_addressColumn);
+}
+
+void DeviceTable::forgetRows()
+{
+    m_rows.clear();
+}
+
+void DeviceTable::chainTabOrder()
+{
+    // Widgets made late would come after everything else in the window, and stay in the order of
+    // their making when the rows are sorted anew.
+    QWidget* last = this;
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        for (int column = 0; column < columnCount(); ++column) {
+            for (QWidget* stop : tabStops(itemWidget(topLevelItem(i), column))) {
+                setTabOrder(last, stop);
+                last = stop;
+            }
+        }
+    }
+}
+
+void DeviceTable::addRows(const QList<QStringList>& rows)
+{
+    QList<QTreeWidgetItem*> items;
+    items.reserve(rows.size());
+    for (const QStringList& texts : rows) {
+        items.append(new QTreeWidgetItem(texts));
+    }
+    addTopLevelItems(items);
+    for (QTreeWidgetItem* item : items) {
+        if (!m_rows.contains(addressOf(item))) {
+            m_rows.insert(addressOf(item), item);
+        }
+    }
+}
+
+void DeviceTable::addIdentifyButton(QTreeWidgetItem* row)
+{
+    auto* button = new IdentifyButton(addressOf(row), this);
+    button->setAccessibleName(tr("Identify %1").arg(row->text(labelColumn)));
+    connect(button, SIGNAL(clicked(QString)), this, SIGNAL(identifyClicked(QString)));
+    setItemWidget(row, identifyColumn, button);
+}

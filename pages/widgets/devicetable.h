@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QHash>
+#include <QTreeWidget>
+
+#include <functional>
+
+/// A table of devices: one row per device with its label in column 0, an identify button in
+/// column 1 and its IP address in a column that the page names; the address finds the row again.
+class DeviceTable : public QTreeWidget
+{
+    Q_OBJECT
+
+public:
+    using Decorate = std::function<void(QTreeWidgetItem* row)>;
+
+    static constexpr int labelColumn = 0;
+    static constexpr int identifyColumn = 1;
+
+    /// The table has one column per header.
+    DeviceTable(const QStringList& headers, int addressColumn, QWidget* parent = nullptr);
+
+    /// Replaces all rows; each holds the texts of its columns, column 1 empty. With sorting
+    /// enabled the rows are then in ascending order of column 0, otherwise in the order given.
+    ///
+    /// `decorate` is called once per row, in the order in which the rows are shown and with all
+    /// of them there, for the texts and the item widgets that only the page knows. Sorting is off
+    /// meanwhile. The cost is linear in the rows, shown or not.
+    void setRows(const QList<QStringList>& rows, const Decorate& decorate = {});
+
+    /// The first row of the device with this address; null when there is none.
+    QTreeWidgetItem* rowOf(const QString& ipAddress) const;
+
+    QString addressOf(const QTreeWidgetItem* row) const;
+
+Q_SIGNALS:
+    /// A row's identify button was pressed.
+    void identifyClicked(const QString& ipAddress);
+
+private Q_SLOTS:
+    void forgetRows();
+    void chainTabOrder();
+
+private:
+    void addRows(const QList<QStringList>& rows);
+    void addIdentifyButton(QTreeWidgetItem* row);
+
+    QHash<QString, QTreeWidgetItem*> m_rows;
+    int m_addressColumn;
+};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QFocusEvent>
+
+class QPainter;
+class QRect;
+class QWidget;
+
+/// Decides whether a self-painted control shows where the keyboard is: after Tab and after keys,
+/// but not after the mouse, whose user sees the pointer.
+class FocusMark
+{
+public:
+    void focusIn(const QFocusEvent* event);
+    void keyUsed() { m_wanted = true; }
+    void mouseUsed() { m_wanted = false; }
+
+    /// Whether `widget`, the owner of this mark, shows it now.
+    bool isShown(const QWidget* widget) const;
+
+private:
+    bool m_wanted = false;
+};
+
+/// Draws a ring just inside `rect`, black outside and white inside, so that it stands out from
+/// light and dark surroundings alike.
+void drawFocusRing(QPainter& painter, const QRect& rect);

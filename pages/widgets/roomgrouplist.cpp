@@ -1,0 +1,69 @@
+#include "roomgrouplist.h"
+
+#include "roomcolor.h"
+#include "rowdelegate.h"
+
+#include <QHeaderView>
+
+namespace {
+
+/// Keeps a cell in its room's colour also while its row is selected.
+class RoomDelegate : public RowDelegate
+{
+public:
+    using RowDelegate::RowDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        RowDelegate::initStyleOption(option, index);
+        option->state &= ~QStyle::State_Selected;
+    }
+};
+
+QTreeWidgetItem* createRow(const RoomGroup& group)
+{
+    auto* row = new QTreeWidgetItem(
+        {QString::number(group.number), QString::number(group.sceneNumber), group.roomText});
+    row->setBackground(RoomGroupList::roomColumn, roomGroupColor(group.roomText, Qt::white));
+    row->setForeground(RoomGroupList::roomColumn, QColor(Qt::white));
+    return row;
+}
+
+} // namespace
+
+RoomGroupList::RoomGroupList(const QStringList& headers, const QList<int>& widths, QWidget* parent)
+    : QTreeWidget(parent)
+{
+    setHeaderLabels(headers);
+    setRootIsDecorated(false);
+    setAccessibleName(tr("Room combinations"));
+    setItemDelegate(new RowDelegate(this));
+    setItemDelegateForColumn(roomColumn, new RoomDelegate(this));
+    for (int column = 0; column < widths.size(); ++column) {
+        setColumnWidth(column, widths.at(column));
+    }
+}
+
+void RoomGroupList::setGroups(const QList<RoomGroup>& groups)
+{
+    clear();
+    QList<QTreeWidgetItem*> rows;
+    rows.reserve(groups.size());
+    for (const RoomGroup& group : groups) {
+        rows.append(createRow(group));
+    }
+    addTopLevelItems(rows);
+}
+
+int RoomGroupList::currentRow() const
+{
+    return indexOfTopLevelItem(currentItem());
+}
+
+void RoomGroupList::selectRow(int row)
+{
+    if (QTreeWidgetItem* item = topLevelItem(row)) {
+        setCurrentItem(item);
+    }
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "roomgroup.h"
+
+#include <QTreeWidget>
+
+/// The list of all combined rooms of all layouts: the running number, the layout's number, and
+/// the room numbers in white on the colour of the first of them. Further columns are the page's.
+class RoomGroupList : public QTreeWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr int numberColumn = 0;
+    static constexpr int layoutColumn = 1;
+    static constexpr int roomColumn = 2;
+
+    /// One column per header; `widths` are those of the first columns, in pixels.
+    RoomGroupList(const QStringList& headers, const QList<int>& widths, QWidget* parent = nullptr);
+
+    /// Replaces all rows. No row is current afterwards; where one was, itemSelectionChanged() is
+    /// emitted meanwhile, with currentRow() -1.
+    void setGroups(const QList<RoomGroup>& groups);
+
+    /// The current row, from 0; -1 for none.
+    int currentRow() const;
+
+    /// Makes a row current and selects it; a row that does not exist changes nothing.
+    void selectRow(int row);
+};
