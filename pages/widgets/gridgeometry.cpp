@@ -1,5 +1,10 @@
 #include "gridgeometry.h"
 
+bool GridGeometry::contains(QPoint cell)
+{
+    return QRect(0, 0, cellsPerSide, cellsPerSide).contains(cell);
+}
+
 QRect GridGeometry::cellRect(QPoint cell) const
 {
     return {pitch() * cell.x() + gap, pitch() * cell.y() + gap, cellSize, cellSize};
@@ -7,12 +12,9 @@ QRect GridGeometry::cellRect(QPoint cell) const
 
 std::optional<QPoint> GridGeometry::cellAt(QPoint position) const
 {
-    const int farEdge = pitch() * cellsPerSide;
-    if (pitch() <= 0 || position.x() > farEdge || position.y() > farEdge) {
+    if (pitch() <= 0 || position.x() % pitch() < gap || position.y() % pitch() < gap) {
         return std::nullopt;
     }
-    if (position.x() % pitch() < gap || position.y() % pitch() < gap) {
-        return std::nullopt;
-    }
-    return QPoint(position.x() / pitch(), position.y() / pitch());
+    const QPoint cell(position.x() / pitch(), position.y() / pitch());
+    return contains(cell) ? std::optional(cell) : std::nullopt;
 }

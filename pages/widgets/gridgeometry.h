@@ -11,6 +11,9 @@ struct GridGeometry
 {
     static constexpr int cellsPerSide = 8;
 
+    /// Whether a cell lies on the grid.
+    static bool contains(QPoint cell);
+
     int gap = 0;      ///< between two cells and around the outer edge
     int cellSize = 0; ///< side of one cell
 
@@ -23,7 +26,6 @@ struct GridGeometry
     /// The square of a cell (x = column, y = row, from 0).
     QRect cellRect(QPoint cell) const;
 
-    /// The cell at a position; nothing on a gap line or beyond the grid. Without gaps the far
-    /// edge counts as a hit, so a caller checks that the cell lies on the grid.
+    /// The cell at a position; nothing on a gap line or beyond the grid.
     std::optional<QPoint> cellAt(QPoint position) const;
 };
