@@ -1,0 +1,7 @@
+#include "basehttpsequence.h"
+
+BaseHttpSequence::BaseHttpSequence(const QString& address, QObject* parent)
+    : QObject(parent)
+    , m_address(address)
+{
+}
