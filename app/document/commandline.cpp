@@ -1,0 +1,71 @@
+#include "commandline.h"
+
+#include "acceptancerule.h"
+
+namespace {
+
+constexpr int noNic = -1; // how the starting program says that it has chosen no interface
+constexpr qsizetype requiredFields = 5;
+
+QString withoutQuotes(QString text)
+{
+    return text.remove(QLatin1Char('"'));
+}
+
+DeviceData deviceFrom(const QStringList& fields)
+{
+    DeviceData device;
+    device.modelName = withoutQuotes(fields.at(0));
+    device.label = withoutQuotes(fields.at(1));
+    device.version = withoutQuotes(fields.at(2));
+    device.ipAddress = fields.at(3);
+    device.macAddress = fields.at(4);
+    device.searchType = fields.value(5);
+    device.password = fields.value(6);
+    return device;
+}
+
+} // namespace
+
+CommandLine readCommandLine(const QStringList& arguments)
+{
+    CommandLine commandLine;
+    for (const QString& argument : arguments) {
+        if (const std::optional<int> index = nicIndexFromArgument(argument)) {
+            commandLine.nicIndex = *index;
+        }
+        if (const std::optional<DeviceData> device = deviceFromArgument(argument)) {
+            commandLine.devices.append(*device);
+        }
+    }
+    return commandLine;
+}
+
+std::optional<int> nicIndexFromArgument(const QString& argument)
+{
+    const QStringList parts = argument.split(QLatin1Char(':'));
+    if (parts.size() != 2 || parts.first().compare(u"-N", Qt::CaseInsensitive) != 0) {
+        return std::nullopt;
+    }
+    bool ok = false;
+    const int index = parts.last().toInt(&ok);
+    return ok && index != noNic ? std::optional(index) : std::nullopt;
+}
+
+std::optional<DeviceData> deviceFromArgument(const QString& argument)
+{
+    const QString prefix = QStringLiteral("-D:");
+    if (!argument.startsWith(prefix, Qt::CaseInsensitive)) {
+        return std::nullopt;
+    }
+    const QStringList fields = argument.sliced(prefix.size()).split(QLatin1Char('/'));
+    if (fields.size() < requiredFields) {
+        return std::nullopt;
+    }
+    const DeviceData device = deviceFrom(fields);
+    if (!isDeviceAccepted(device.version, device.modelName) ||
+        device.macAddress == u"00:00:00:00:00:00") {
+        return std::nullopt;
+    }
+    return device;
+}

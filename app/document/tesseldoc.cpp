@@ -1,0 +1,83 @@
+#include "tesseldoc.h"
+
+#include "commandline.h"
+#include "datakey.h"
+#include "datakind.h"
+#include "deviceidentify.h"
+#include "kindoperations.h"
+
+#include <QCoreApplication>
+
+TesselDoc::TesselDoc(QObject* parent)
+    : QObject(parent)
+{
+    const CommandLine commandLine = readCommandLine(QCoreApplication::arguments());
+    m_data.nicIndex = commandLine.nicIndex;
+    for (const DeviceData& device : commandLine.devices) {
+        m_data.devices.append(device);
+    }
+}
+
+TesselDoc::~TesselDoc()
+{
+    for (const DeviceData& device : m_data.devices.all()) {
+        deleteIdentifiers(device);
+    }
+}
+
+bool TesselDoc::setData(int kind, const QVariantMap& data)
+{
+    const auto set = operationsOf(kind).set;
+    return set != nullptr && set(m_data, data);
+}
+
+bool TesselDoc::getData(int kind, QVariantMap& data)
+{
+    const auto get = operationsOf(kind).get;
+    return get != nullptr && get(m_data, data);
+}
+
+bool TesselDoc::clearData(int kind)
+{
+    const auto clear = operationsOf(kind).clear;
+    if (clear == nullptr) {
+        return false;
+    }
+    clear(m_data);
+    return true;
+}
+
+bool TesselDoc::addData(int kind, const QVariantMap& data)
+{
+    const auto add = operationsOf(kind).add;
+    return add != nullptr && add(m_data, data);
+}
+
+bool TesselDoc::doAction(int kind, const QVariantMap& data)
+{
+    if (kind != DataKind::Identify || !data.contains(DataKey::deviceIPAddress())) {
+        return false;
+    }
+    DeviceData* device = m_data.devices.find(data.value(DataKey::deviceIPAddress()).toString());
+    if (device == nullptr) {
+        return false;
+    }
+    startIdentify(*device, this);
+    return true;
+}
+
+bool TesselDoc::getDataList(int kind, const QVariantMap& selector, QList<QVariantMap>& list)
+{
+    const auto getList = operationsOf(kind).list;
+    return getList != nullptr && getList(m_data, selector, list);
+}
+
+bool TesselDoc::saveResume(const QString& /*path*/)
+{
+    return false;
+}
+
+bool TesselDoc::loadResume(const QString& /*path*/)
+{
+    return false;
+}
