@@ -1,0 +1,98 @@
+#include "discoveryresponder.h"
+
+#include "discoveryreply.h"
+
+#include <QNetworkDatagram>
+#include <QUdpSocket>
+
+namespace {
+
+// A receiver's socket keeps about 166 replies that it has not read yet: send fewer, then pause.
+constexpr int mostAtOnce = 100;
+constexpr int paceMs = 10;
+
+} // namespace
+
+DiscoveryResponder::DiscoveryResponder(const QList<SimulatedDevice*>& devices,
+                                       const QString& listenAddress, QObject* parent)
+    : QObject(parent)
+    , m_devices(devices)
+    , m_listenAddress(listenAddress)
+{
+    m_pace.setInterval(paceMs);
+    connect(&m_pace, SIGNAL(timeout()), this, SLOT(sendSome()));
+}
+
+bool DiscoveryResponder::start(QString* error)
+{
+    for (const SimulatedDevice* device : m_devices) {
+        for (const NetworkPort& networkPort : device->networkPorts()) {
+            if (!bind(networkPort.address, error)) {
+                return false;
+            }
+        }
+    }
+    return bind(m_listenAddress, error);
+}
+
+void DiscoveryResponder::readQueries()
+{
+    auto* socket = qobject_cast<QUdpSocket*>(sender());
+    while (socket != nullptr && socket->hasPendingDatagrams()) {
+        const QNetworkDatagram datagram = socket->receiveDatagram();
+        if (isDiscoveryQuery(datagram.data())) {
+            answer(datagram.data(), datagram.senderAddress());
+        }
+    }
+}
+
+void DiscoveryResponder::sendSome()
+{
+    for (int sent = 0; sent < mostAtOnce && !m_replies.isEmpty(); ++sent) {
+        const Reply reply = m_replies.takeFirst();
+        reply.socket->writeDatagram(reply.datagram, reply.receiver, port);
+    }
+    if (m_replies.isEmpty()) {
+        m_pace.stop();
+    }
+}
+
+bool DiscoveryResponder::bind(const QString& address, QString* error)
+{
+    if (m_sockets.contains(address)) {
+        return true;
+    }
+    auto* socket = new QUdpSocket(this);
+    connect(socket, SIGNAL(readyRead()), this, SLOT(readQueries()));
+    m_sockets.insert(address, socket);
+    // Shared, because the address at which queries are heard may cover those of the devices.
+    if (socket->bind(QHostAddress(address), port,
+                     QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint)) {
+        return true;
+    }
+    *error = QStringLiteral("cannot use %1 port %2: %3")
+                 .arg(address, QString::number(port), socket->errorString());
+    return false;
+}
+
+void DiscoveryResponder::answer(const QByteArray& query, const QHostAddress& sender)
+{
+    const QString senderText = QHostAddress(sender.toIPv4Address()).toString();
+    ++m_queries;
+    if (const std::optional<QString> difference = queryDifference(query, senderText)) {
+        m_differences.append(*difference);
+        Q_EMIT differenceFound(senderText, *difference);
+    }
+    for (SimulatedDevice* device : m_devices) {
+        for (const NetworkPort& networkPort : device->networkPorts()) {
+            for (const QByteArray& datagram : device->discoveryReplies(networkPort)) {
+                m_replies.append({m_sockets.value(networkPort.address), datagram, sender});
+            }
+        }
+    }
+    Q_EMIT queryHeard(senderText);
+    if (!m_pace.isActive()) {
+        m_pace.start();
+        sendSome();
+    }
+}

@@ -1,0 +1,185 @@
+#include "simulateddevice.h"
+
+#include "devicelistener.h"
+#include "discoveryreply.h"
+#include "redaction.h"
+#include "textconnection.h"
+
+#include <QTimer>
+
+namespace {
+
+bool isPrevented(const QList<Fault>& faults)
+{
+    for (const Fault& fault : faults) {
+        if (fault.kind == FaultKind::ErrorAnswer) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+SimulatedDevice::SimulatedDevice(const DeviceDescription& description, QObject* parent)
+    : QObject(parent)
+    , m_description(description)
+    , m_commands(description)
+{
+    addNetworkPort({description.address, description.mac});
+    addTcpPort(textPort, FaultKind::RefuseText, SLOT(takeTextConnection(QTcpSocket*)));
+}
+
+bool SimulatedDevice::start(QString* error)
+{
+    makeListeners();
+    m_isRunning = openListeners(error);
+    if (!m_isRunning) {
+        closeListeners();
+    }
+    return m_isRunning;
+}
+
+void SimulatedDevice::stop()
+{
+    m_isRunning = false;
+    closeListeners();
+    dropConnections();
+}
+
+void SimulatedDevice::setFault(const Fault& fault)
+{
+    m_faults.add(fault);
+    applyRefusals();
+}
+
+void SimulatedDevice::clearFaults()
+{
+    m_faults.clear();
+    applyRefusals();
+}
+
+QList<QByteArray> SimulatedDevice::discoveryReplies(const NetworkPort& port)
+{
+    if (m_isDeaf) {
+        return {};
+    }
+    return planDatagrams(discoveryReply(m_description, port.address, port.mac),
+                         m_faults.take(Exchange::Discovery));
+}
+
+void SimulatedDevice::addNetworkPort(const NetworkPort& port)
+{
+    m_networkPorts.append(port);
+}
+
+void SimulatedDevice::addTcpPort(quint16 port, FaultKind refusal, const char* slot)
+{
+    m_tcpPortKinds.append({port, refusal, slot});
+}
+
+void SimulatedDevice::record(const JournalEntry& entry)
+{
+    const JournalEntry& recorded = m_journal.add(entry);
+    for (const QString& line : reportLines(recorded)) {
+        Q_EMIT differenceFound(address(), line);
+    }
+}
+
+void SimulatedDevice::goDeaf(int ms)
+{
+    m_isDeaf = true;
+    closeListeners();
+    dropConnections();
+    QTimer::singleShot(ms, this, SLOT(hearAgain()));
+}
+
+void SimulatedDevice::dropConnections()
+{
+    for (TextConnection* connection : findChildren<TextConnection*>()) {
+        connection->abort();
+    }
+}
+
+void SimulatedDevice::takeTextConnection(QTcpSocket* socket)
+{
+    const TextConnection::Faults faults{m_faults.take(FaultKind::Greeting),
+                                        m_faults.take(FaultKind::GreetingWithAnswer),
+                                        m_faults.take(FaultKind::StopAfter)};
+    new TextConnection(
+        socket, [this](const QByteArray& line) { return answerLine(line); }, faults, this);
+}
+
+void SimulatedDevice::hearAgain()
+{
+    m_isDeaf = false;
+    applyRefusals();
+}
+
+void SimulatedDevice::makeListeners()
+{
+    if (!m_tcpPorts.isEmpty()) {
+        return;
+    }
+    for (const NetworkPort& networkPort : m_networkPorts) {
+        for (const TcpPortKind& kind : m_tcpPortKinds) {
+            auto* listener = new DeviceListener(networkPort.address, kind.port, this);
+            connect(listener, SIGNAL(accepted(QTcpSocket*)), this, kind.slot);
+            m_tcpPorts.append({listener, kind.refusal});
+        }
+    }
+}
+
+bool SimulatedDevice::openListeners(QString* error)
+{
+    for (const TcpPort& port : m_tcpPorts) {
+        if (!m_faults.holds(port.refusal) && !port.listener->open(error)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void SimulatedDevice::closeListeners()
+{
+    for (const TcpPort& port : m_tcpPorts) {
+        port.listener->close();
+    }
+}
+
+void SimulatedDevice::applyRefusals()
+{
+    if (!m_isRunning || m_isDeaf) {
+        return;
+    }
+    for (const TcpPort& port : m_tcpPorts) {
+        if (m_faults.holds(port.refusal)) {
+            port.listener->close();
+        }
+    }
+    QString error;
+    if (!openListeners(&error)) {
+        Q_EMIT noticed(address(), error);
+    }
+}
+
+Delivery SimulatedDevice::answerLine(const QByteArray& line)
+{
+    const Exchange exchange = TextCommands::exchangeOf(line);
+    const QList<Fault> faults = m_faults.take(exchange);
+    TextAnswer answer{exchange, errorAnswer(line), {}};
+    if (!isPrevented(faults)) {
+        answer = m_commands.answer(line);
+    }
+    JournalEntry entry{0, exchangeName(exchange), redacted(line), 0, {}};
+    if (exchange == Exchange::UnknownCommand) {
+        entry.differences.append(QStringLiteral("unknown command \"%1\"").arg(entry.text));
+    }
+    record(entry);
+    if (exchange == Exchange::IdentifyCommand || exchange == Exchange::RecallCommand) {
+        Q_EMIT noticed(address(), entry.text);
+        Q_EMIT changed(address());
+    }
+    Q_EMIT commandHandled(address(), entry.text);
+    return planAnswer(answer, faults);
+}
