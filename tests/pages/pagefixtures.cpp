@@ -60,3 +60,16 @@ void press(QWidget* widget)
 {
     QTest::mouseClick(widget, Qt::LeftButton);
 }
+
+QStringList tabOrder(const QWidget& root)
+{
+    QStringList names;
+    for (auto* widget = root.nextInFocusChain(); widget != &root;
+         widget = widget->nextInFocusChain()) {
+        if (root.isAncestorOf(widget) && widget->isVisible() && widget->isEnabled() &&
+            (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->objectName().isEmpty()) {
+            names.append(widget->objectName());
+        }
+    }
+    return names;
+}

@@ -2,6 +2,7 @@
 
 #include <QPixmap>
 #include <QString>
+#include <QStringList>
 
 class IDocAccessor;
 class QPushButton;
@@ -24,3 +25,6 @@ QPushButton* buttonOf(const QWidget& parent, const char* name);
 
 /// Presses and releases the left button of the mouse on it.
 void press(QWidget* widget);
+
+/// The object names of the widgets that Tab walks through below `root`, from the first on.
+QStringList tabOrder(const QWidget& root);

@@ -1,0 +1,81 @@
+#include "roomdesign.h"
+
+#include "roomeditor.h"
+#include "roomqueries.h"
+#include "textlabel.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int gap = 2;
+constexpr int cellSize = 48;
+constexpr int maxRooms = 4;
+constexpr int minRoomsToGoOn = 2;
+
+} // namespace
+
+RoomDesign::RoomDesign(IDocAccessor& doc, QWidget* parent)
+    : QWidget(parent)
+    , m_doc(doc)
+    , m_editor(new RoomEditor(this, gap, cellSize, false))
+{
+    m_editor->setObjectName(QStringLiteral("roomEditor"));
+    layOut();
+    connect(m_editor, SIGNAL(roomCountChanged(int)), this, SLOT(roomCountChanged(int)));
+}
+
+void RoomDesign::load()
+{
+    m_editor->clear();
+    const int count = roomCount(m_doc);
+    for (int room = 1; room <= count; ++room) {
+        if (const auto cells = roomCells(m_doc, room)) {
+            m_editor->setRoom(room, *cells);
+        }
+    }
+    m_editor->clearModified();
+    m_editor->update();
+}
+
+void RoomDesign::store()
+{
+    if (!m_editor->isModified()) {
+        return;
+    }
+    clearRooms(m_doc);
+    for (int room = 1; room <= maxRooms; ++room) {
+        const QList<QPoint> cells = m_editor->cellsOf(room);
+        if (cells.isEmpty()) {
+            break;
+        }
+        setRoomCells(m_doc, room, cells);
+    }
+    m_editor->clearModified();
+}
+
+void RoomDesign::reset()
+{
+    m_editor->clear();
+}
+
+void RoomDesign::roomCountChanged(int count)
+{
+    Q_EMIT nextButtonEnabled(count >= minRoomsToGoOn);
+}
+
+void RoomDesign::layOut()
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(textLabel(tr("Create an outline for up to four rooms. Mark cells "
+                                   "identifying the different rooms in the grid using the mouse."),
+                                this));
+    layout->addWidget(textLabel(
+        tr("Create larger rooms and room shapes by holding down the left mouse button while "
+           "moving the mouse over the cells you want to be part of the room.\n"
+           "To remove a room click on any cell that is part of that room again."),
+        this));
+    layout->addWidget(m_editor, 1, Qt::AlignCenter);
+}
