@@ -1,0 +1,269 @@
+#include "devicelocation.h"
+
+#include "deviceclass.h"
+#include "devicelabeldelegate.h"
+#include "devicelabelediticon.h"
+#include "devicenamedialog.h"
+#include "devicequeries.h"
+#include "devicetable.h"
+#include "roomcombo.h"
+#include "roomeditor.h"
+#include "roomqueries.h"
+#include "roomsummary.h"
+#include "textlabel.h"
+
+#include <QFontMetrics>
+#include <QHBoxLayout>
+#include <QHash>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int pictureGap = 1;
+constexpr int pictureCellSize = 13;
+constexpr int labelColumnWidth = 250;
+constexpr int identifyColumnWidth = 25;
+
+enum Column
+{
+    LabelColumn,
+    IdentifyColumn,
+    ModelColumn,
+    AddressColumn,
+    RoomColumn
+};
+
+/// Wide enough for every address.
+int addressColumnWidth(const QWidget& table)
+{
+    const QFontMetrics metrics(table.font());
+    return metrics.horizontalAdvance(QStringLiteral(" 255.255.255.255 "));
+}
+
+} // namespace
+
+DeviceLocation::DeviceLocation(IDocAccessor& doc, QWidget* parent)
+    : QWidget(parent)
+    , m_doc(doc)
+    , m_picture(new RoomEditor(this, pictureGap, pictureCellSize, true))
+    , m_summary(new RoomSummary(this))
+    , m_hubTable(createTable(QStringLiteral("hubTable"), tr("PX-HB")))
+    , m_peripheralTable(createTable(QStringLiteral("peripheralTable"), tr("Peripheral")))
+{
+    m_picture->setObjectName(QStringLiteral("roomPicture"));
+    m_picture->setAccessibleName(tr("Room design"));
+    m_summary->setObjectName(QStringLiteral("summaryTable"));
+    m_summary->setAccessibleName(tr("Devices per room"));
+    layOut();
+}
+
+void DeviceLocation::reload()
+{
+    m_rooms = roomCount(m_doc);
+    drawPicture();
+    QList<DeviceEntry> hubs;
+    QList<DeviceEntry> peripherals;
+    const int devices = deviceCount(m_doc);
+    for (int i = 0; i < devices; ++i) {
+        if (const auto device = deviceAt(m_doc, i)) {
+            (isHub(device->modelName) ? hubs : peripherals).append(*device);
+        }
+    }
+    m_rows.clear();
+    m_rows.reserve(devices);
+    fill(m_hubTable, hubs);
+    fill(m_peripheralTable, peripherals);
+    updateSummary();
+}
+
+void DeviceLocation::save()
+{
+    for (const Row& row : std::as_const(m_rows)) {
+        setDeviceRoom(m_doc, row.ipAddress, row.room->room());
+    }
+}
+
+void DeviceLocation::reset()
+{
+    // Rows must not be sorted anew one by one while their room texts change.
+    m_hubTable->setSortingEnabled(false);
+    m_peripheralTable->setSortingEnabled(false);
+    for (const Row& row : std::as_const(m_rows)) {
+        const QSignalBlocker oneRecountForAll(row.room);
+        row.room->setRoom(0);
+        updateRow(row);
+    }
+    m_hubTable->setSortingEnabled(true);
+    m_peripheralTable->setSortingEnabled(true);
+    updateSummary();
+}
+
+void DeviceLocation::comboBoxRoomChanged(int /*index*/)
+{
+    for (const Row& row : std::as_const(m_rows)) {
+        updateRow(row);
+    }
+    updateSummary();
+}
+
+void DeviceLocation::devItemDoubleClicked(QTreeWidgetItem* item, int column)
+{
+    if (column != LabelColumn) {
+        return;
+    }
+    for (const Row& row : std::as_const(m_rows)) {
+        if (row.item == item) {
+            rename(row);
+            return;
+        }
+    }
+}
+
+void DeviceLocation::identifyButtonClicked(const QString& ipAddress)
+{
+    identifyDevice(m_doc, ipAddress);
+}
+
+void DeviceLocation::deviceLabelIconClicked()
+{
+    for (const Row& row : std::as_const(m_rows)) {
+        if (row.icon == sender()) {
+            rename(row);
+            return;
+        }
+    }
+}
+
+DeviceTable* DeviceLocation::createTable(const QString& name, const QString& accessibleName)
+{
+    const QStringList headers{tr("Hostname"),   QString(),  tr("Model"),
+                              tr("IP Address"), tr("Room"), QString()};
+    auto* table = new DeviceTable(headers, AddressColumn, this);
+    table->setObjectName(name);
+    table->setAccessibleName(accessibleName);
+    table->setSortingEnabled(true);
+    table->setItemDelegateForColumn(LabelColumn, new DeviceLabelDelegate(table));
+    table->setColumnWidth(LabelColumn, labelColumnWidth);
+    table->setColumnWidth(IdentifyColumn, identifyColumnWidth);
+    table->setColumnWidth(AddressColumn, addressColumnWidth(*table));
+    connect(table, SIGNAL(identifyClicked(QString)), this, SLOT(identifyButtonClicked(QString)));
+    connect(table, SIGNAL(itemDoubleClicked(QTreeWidgetItem*, int)), this,
+            SLOT(devItemDoubleClicked(QTreeWidgetItem*, int)));
+    return table;
+}
+
+void DeviceLocation::layOut()
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(textLabel(
+        tr("Specify the room in which each device found on the network is located."), this));
+    layout->addWidget(textLabel(tr("In each room you can have a maximum of one PX-HB, up to 16 "
+                                   "microphones, and up to 15 speakers."),
+                                this));
+    layout->addWidget(textLabel(
+        tr("The total number of microphones and speakers combined cannot exceed 16."), this));
+    auto* rooms = new QHBoxLayout;
+    layout->addLayout(rooms);
+    rooms->addWidget(m_picture);
+    rooms->addWidget(m_summary, 1);
+    m_summary->setFixedHeight(m_picture->height());
+    addTable(layout, tr("PX-HB"), m_hubTable, 3);
+    addTable(layout, tr("Peripheral"), m_peripheralTable, 4);
+}
+
+void DeviceLocation::addTable(QVBoxLayout* layout, const QString& title, DeviceTable* table,
+                              int stretch)
+{
+    auto* label = new QLabel(title, this);
+    label->setBuddy(table);
+    layout->addWidget(label);
+    layout->addWidget(table, stretch);
+}
+
+void DeviceLocation::drawPicture()
+{
+    m_picture->clear();
+    for (int room = 1; room <= m_rooms; ++room) {
+        if (const auto cells = roomCells(m_doc, room)) {
+            m_picture->setRoom(room, *cells);
+        }
+    }
+    m_picture->update();
+}
+
+void DeviceLocation::fill(DeviceTable* table, const QList<DeviceEntry>& devices)
+{
+    const QStringList choices = RoomCombo::choices(m_rooms);
+    QList<QStringList> rows;
+    QHash<QString, int> rooms;
+    for (const DeviceEntry& device : devices) {
+        rows.append({device.label, QString(), device.modelName, device.ipAddress});
+        // Addresses find the first device that has them, here as in the document.
+        if (!rooms.contains(device.ipAddress)) {
+            rooms.insert(device.ipAddress, device.roomNumber);
+        }
+    }
+    table->setRows(rows, [&](QTreeWidgetItem* item) {
+        auto* combo = new RoomCombo(choices);
+        combo->setRoom(rooms.value(table->addressOf(item)));
+        m_rows.append(decorate(table, item, combo));
+    });
+}
+
+DeviceLocation::Row DeviceLocation::decorate(DeviceTable* table, QTreeWidgetItem* item,
+                                             RoomCombo* combo)
+{
+    Row row{item, new DeviceLabelEditIcon, combo, item->text(ModelColumn), table->addressOf(item)};
+    combo->setObjectName(QStringLiteral("roomCombo_") + row.ipAddress);
+    connect(combo, SIGNAL(currentIndexChanged(int)), this, SLOT(comboBoxRoomChanged(int)));
+    connect(row.icon, SIGNAL(iconClicked()), this, SLOT(deviceLabelIconClicked()));
+    nameWidgets(row);
+    updateRow(row);
+    table->setItemWidget(item, LabelColumn, row.icon);
+    table->setItemWidget(item, RoomColumn, combo);
+    return row;
+}
+
+void DeviceLocation::nameWidgets(const Row& row)
+{
+    const QString label = row.item->text(LabelColumn);
+    row.icon->setDeviceLabel(label);
+    row.room->setAccessibleName(tr("Room of %1").arg(label));
+}
+
+void DeviceLocation::updateRow(const Row& row)
+{
+    const QString text = row.room->currentText();
+    if (row.item->text(RoomColumn) != text) {
+        row.item->setText(RoomColumn, text);
+    }
+    row.icon->setIconVisible(row.room->room() != 0);
+}
+
+void DeviceLocation::updateSummary()
+{
+    QList<DeviceCounts> counts(m_rooms);
+    for (const Row& row : std::as_const(m_rows)) {
+        if (const int room = row.room->room(); room != 0) {
+            counts[room - 1].add(row.modelName);
+        }
+    }
+    Q_EMIT nextButtonEnabled(m_summary->showCounts(counts));
+}
+
+void DeviceLocation::rename(const Row& row)
+{
+    if (row.room->room() == 0) {
+        return;
+    }
+    DeviceNameDialog dialog(row.item->text(LabelColumn), this);
+    if (dialog.exec() != QDialog::Accepted) {
+        return;
+    }
+    setDeviceLabel(m_doc, row.ipAddress, dialog.name());
+    row.item->setText(LabelColumn, dialog.name());
+    nameWidgets(row);
+}

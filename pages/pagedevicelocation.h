@@ -1,0 +1,26 @@
+#pragma once
+
+#include "steppage.h"
+
+class DeviceLocation;
+
+/// The frame of step 3. Going back stores as going on does, so that assignments survive a trip to
+/// the room design.
+class PageDeviceLocation : public StepPage
+{
+    Q_OBJECT
+
+public:
+    PageDeviceLocation(IPageController* controller, IDocAccessor* doc, QWidget* parent);
+
+protected Q_SLOTS:
+    void backButtonClicked() override;
+
+protected:
+    void load() override;
+    void store() override;
+    void reset() override;
+
+private:
+    DeviceLocation* m_content;
+};
