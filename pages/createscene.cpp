@@ -1,0 +1,212 @@
+#include "createscene.h"
+
+#include "layoutqueries.h"
+#include "roomqueries.h"
+#include "sceneitem.h"
+#include "tessel.h"
+#include "textlabel.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int gap = 1;
+constexpr int cellSize = 48;
+constexpr int maxLayouts = 10;
+constexpr int numberColumn = 0;
+constexpr int numberColumnWidth = 15;
+constexpr int layoutColumn = 1;
+constexpr QSize rowSize(66, 66);
+constexpr QSize thumbnailSize(64, 64);
+
+int numberOf(const QTreeWidgetItem* row)
+{
+    return row->text(numberColumn).toInt();
+}
+
+void setNumber(QTreeWidgetItem* row, int number)
+{
+    row->setText(numberColumn, QString::number(number));
+}
+
+} // namespace
+
+CreateScene::CreateScene(IDocAccessor& doc, QWidget* parent)
+    : QWidget(parent)
+    , m_doc(doc)
+    , m_tessel(new Tessel(this, gap, cellSize, false))
+{
+    createWidgets();
+    layOut();
+    connect(m_addButton, SIGNAL(clicked()), this, SLOT(addButtonClicked()));
+}
+
+void CreateScene::initialise()
+{
+    m_tessel->clearAll();
+    clearList();
+    loadRooms();
+    loadLayouts();
+    updateButtons();
+}
+
+void CreateScene::store()
+{
+    clearLayouts(m_doc);
+    for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem* row = m_list->topLevelItem(i);
+        const SceneItem* item = m_rows.key(m_list->topLevelItem(i));
+        addLayout(m_doc, {numberOf(row), item->roomGroup(), item->thumbnail()});
+    }
+}
+
+void CreateScene::reset()
+{
+    clearLayouts(m_doc);
+    clearList();
+    updateButtons();
+}
+
+void CreateScene::addButtonClicked()
+{
+    const QString roomGroup = m_tessel->roomGroupText();
+    if (QTreeWidgetItem* row = rowOf(roomGroup)) {
+        m_list->setCurrentItem(row);
+        QMessageBox::information(this, tr("Confirmation"),
+                                 tr("This room combination already exists."), QMessageBox::Ok);
+        return;
+    }
+    const QPixmap thumbnail = m_tessel->renderThumbnail().scaled(thumbnailSize);
+    appendRow({m_list->topLevelItemCount() + 1, roomGroup, thumbnail});
+    m_list->scrollToBottom();
+    updateButtons();
+}
+
+void CreateScene::removeButtonClicked()
+{
+    auto* item = qobject_cast<SceneItem*>(sender());
+    const auto found = m_rows.constFind(item);
+    if (found == m_rows.constEnd()) {
+        return;
+    }
+    QTreeWidgetItem* removed = *found;
+    m_rows.erase(found);
+    for (QTreeWidgetItem* row : std::as_const(m_rows)) {
+        if (numberOf(row) > numberOf(removed)) {
+            setNumber(row, numberOf(row) - 1);
+        }
+    }
+    delete removed;
+    updateButtons();
+}
+
+void CreateScene::createWidgets()
+{
+    m_tessel->setObjectName(QStringLiteral("tessel"));
+    m_addButton = new QPushButton(tr("Add Layout"), this);
+    m_addButton->setObjectName(QStringLiteral("addLayoutButton"));
+    m_list = new QTreeWidget(this);
+    m_list->setObjectName(QStringLiteral("layoutList"));
+    m_list->setAccessibleName(tr("Room layouts"));
+    m_list->setHeaderLabels({tr("No."), tr("Layout")});
+    m_list->setRootIsDecorated(false);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->setColumnWidth(numberColumn, numberColumnWidth);
+}
+
+void CreateScene::layOut()
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(textLabel(
+        tr("Check the grey room link box to identify combined rooms in a room layout."), this));
+    layout->addWidget(textLabel(tr("Same colors identify rooms that are combined, different "
+                                   "colors identify separate rooms."),
+                                this));
+    layout->addWidget(textLabel(tr("Once a room layout is complete, click the Add Layout button "
+                                   "to add that room layout. Up to 10 room layouts can be "
+                                   "defined."),
+                                this));
+    auto* row = new QHBoxLayout;
+    layout->addLayout(row, 1);
+    auto* picker = new QHBoxLayout;
+    picker->addWidget(m_tessel);
+    picker->addWidget(m_addButton);
+    auto* pickerAtTop = new QVBoxLayout;
+    pickerAtTop->addLayout(picker);
+    pickerAtTop->addStretch();
+    row->addLayout(pickerAtTop);
+    row->addWidget(m_list, 1);
+}
+
+void CreateScene::loadRooms()
+{
+    const int count = roomCount(m_doc);
+    for (int room = 1; room <= count; ++room) {
+        if (const auto cells = roomCells(m_doc, room)) {
+            m_tessel->setRoom(room, *cells);
+        }
+    }
+    m_tessel->createLinkButtons();
+    m_tessel->update();
+}
+
+void CreateScene::loadLayouts()
+{
+    const int count = layoutCount(m_doc);
+    for (int number = 1; number <= count; ++number) {
+        if (const auto layout = layoutAt(m_doc, number)) {
+            appendRow(*layout);
+        }
+    }
+}
+
+void CreateScene::clearList()
+{
+    m_rows.clear();
+    m_list->clear();
+}
+
+void CreateScene::appendRow(const SceneInfo& layout)
+{
+    QWidget* above = lastTabStop();
+    auto* row = new QTreeWidgetItem(m_list);
+    setNumber(row, layout.number);
+    row->setSizeHint(layoutColumn, rowSize);
+    auto* item = new SceneItem(layout.thumbnail, layout.roomGroup);
+    connect(item, SIGNAL(removeClicked()), this, SLOT(removeButtonClicked()));
+    m_list->setItemWidget(row, layoutColumn, item);
+    setTabOrder(above, item->tabStop());
+    m_rows.insert(item, row);
+}
+
+QWidget* CreateScene::lastTabStop() const
+{
+    if (m_rows.isEmpty()) {
+        return m_list;
+    }
+    QTreeWidgetItem* last = m_list->topLevelItem(m_list->topLevelItemCount() - 1);
+    return static_cast<SceneItem*>(m_list->itemWidget(last, layoutColumn))->tabStop();
+}
+
+QTreeWidgetItem* CreateScene::rowOf(const QString& roomGroup) const
+{
+    for (auto it = m_rows.begin(); it != m_rows.end(); ++it) {
+        if (it.key()->roomGroup() == roomGroup) {
+            return it.value();
+        }
+    }
+    return nullptr;
+}
+
+void CreateScene::updateButtons()
+{
+    const int rows = m_list->topLevelItemCount();
+    m_addButton->setEnabled(rows < maxLayouts);
+    Q_EMIT nextButtonEnabled(rows >= 1);
+}

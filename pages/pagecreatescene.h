@@ -1,0 +1,22 @@
+#pragma once
+
+#include "steppage.h"
+
+class CreateScene;
+
+/// The frame of step 4. Going back stores nothing: layouts live in the list until Next.
+class PageCreateScene : public StepPage
+{
+    Q_OBJECT
+
+public:
+    PageCreateScene(IPageController* controller, IDocAccessor* doc, QWidget* parent);
+
+protected:
+    void load() override;
+    void store() override;
+    void reset() override;
+
+private:
+    CreateScene* m_content;
+};
