@@ -25,6 +25,7 @@ void ScriptedPeer::answerWith(const QList<QByteArray>& answers)
 void ScriptedPeer::send(const QByteArray& bytes)
 {
     m_socket->write(bytes);
+    ++m_sends;
 }
 
 void ScriptedPeer::hangUp()
@@ -60,6 +61,11 @@ int ScriptedPeer::lines() const
     return int(m_received.count('\n'));
 }
 
+int ScriptedPeer::sends() const
+{
+    return m_sends;
+}
+
 int ScriptedPeer::connections() const
 {
     return m_connections;
@@ -80,9 +86,9 @@ void ScriptedPeer::takeConnection()
 void ScriptedPeer::takeBytes()
 {
     auto* const socket = qobject_cast<QTcpSocket*>(sender());
-    m_received += socket->readAll();
-    while (m_answered < lines() && m_answered < m_answers.size()) {
-        socket->write(m_answers.at(m_answered));
-        ++m_answered;
+    const QByteArray bytes = socket->readAll();
+    m_received += bytes;
+    for (qsizetype i = bytes.count('\n'); i > 0 && !m_answers.isEmpty(); --i) {
+        socket->write(m_answers.takeFirst());
     }
 }

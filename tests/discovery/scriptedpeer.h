@@ -19,7 +19,7 @@ public:
     /// Opens the port; false when it is taken.
     bool listen();
 
-    /// Answers every command of the list's length, one entry each, from now on by itself.
+    /// Answers the next lines by itself, one entry each, and stays silent after the last.
     void answerWith(const QList<QByteArray>& answers);
 
     /// Sends bytes to the latest connection.
@@ -40,6 +40,9 @@ public:
     /// The number of complete lines received.
     int lines() const;
 
+    /// The number of calls of send().
+    int sends() const;
+
     int connections() const;
 
     /// True while the latest connection stands.
@@ -56,5 +59,5 @@ private:
     QList<QByteArray> m_answers;
     QByteArray m_received;
     int m_connections = 0;
-    int m_answered = 0;
+    int m_sends = 0;
 };

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "detecteddevice.h"
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QString>
+
+class QNetworkAddressEntry;
+class QUdpSocket;
+
+/// Finds the devices on the segment of one network interface: broadcasts a query, asks every device
+/// that replies for its identity, and announces it.
+///
+/// A hub replies once per network port, with two addresses and one serial number. It is announced
+/// once: under the address with the lower MAC when both are known within a second, else under the
+/// one that is. Every other device is announced as soon as its identity is known.
+///
+/// No failure is reported: a port that is taken or an interface without an address finds nothing.
+class DeviceDetector : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The UDP port of queries and replies, on both sides.
+    static constexpr quint16 port = 54330;
+
+    /// `networkInterfaceIndex` is the system's index of the interface, 0 for none.
+    DeviceDetector(QObject* parent, int networkInterfaceIndex);
+
+    /// Broadcasts one query; replies are taken as they come, also those to earlier queries.
+    void detect();
+
+    /// A copy of the record of an address; an empty record when the address is unknown.
+    DetectedDevice deviceInfo(const QString& ipText) const;
+
+Q_SIGNALS:
+    /// A device is known by its identity; its record is ready under this address.
+    void deviceDetected(const QString& ipText);
+
+protected:
+    /// Ends the wait for a hub's second address.
+    void timerEvent(QTimerEvent* event) override;
+
+private Q_SLOTS:
+    void packetReceived();
+    void deviceInfoReceived();
+
+private:
+    struct HubGroup
+    {
+        QList<DetectedDevice> addresses;
+        bool isWaiting = true; // for the second address
+    };
+
+    QNetworkAddressEntry localEntry() const;
+    void openSocket(const QNetworkAddressEntry& local);
+    QList<QByteArray> takeDatagrams();
+    void takeReply(const QByteArray& bytes);
+    void askIdentity(DetectedDevice device);
+    void groupHub(const DetectedDevice& device);
+    void reportLowerMac(const HubGroup& group);
+
+    int m_networkInterfaceIndex;
+    QUdpSocket* m_socket = nullptr;           // child of the detector, made by the first detect()
+    QHash<QString, DetectedDevice> m_devices; // by address; only grows
+    QHash<QString, HubGroup> m_hubs;          // by serial number
+    QHash<int, QString> m_timers;             // timer id to serial number
+};

@@ -1,0 +1,100 @@
+#include "networkdialog.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize leastSize(400, 300);
+
+enum Column
+{
+    NameColumn,
+    AddressColumn,
+    MaskColumn
+};
+
+} // namespace
+
+NetworkDialog::NetworkDialog(QWidget* parent)
+    : QDialog(parent)
+{
+    setObjectName(QStringLiteral("networkDialog"));
+    setWindowTitle(tr("Select Network Interface Card"));
+    setMinimumSize(leastSize);
+    createWidgets();
+    layOutWidgets();
+    connectWidgets();
+}
+
+void NetworkDialog::fill(int preselectedIndex)
+{
+    fill(nicRows(systemInterfaces()), preselectedIndex);
+}
+
+void NetworkDialog::fill(const QList<NicRow>& rows, int preselectedIndex)
+{
+    m_indexOfRow.clear();
+    m_nicList->clear();
+    for (const NicRow& row : rows) {
+        auto* const item = new QTreeWidgetItem(m_nicList, {row.name, row.address, row.mask});
+        m_indexOfRow.insert(item, row.index);
+        if (row.index == preselectedIndex) {
+            m_nicList->setCurrentItem(item);
+        }
+    }
+}
+
+int NetworkDialog::selectedIndex() const
+{
+    const QList<QTreeWidgetItem*> selected = m_nicList->selectedItems();
+    return selected.isEmpty() ? 0 : m_indexOfRow.value(selected.first());
+}
+
+void NetworkDialog::selectedNicListItem()
+{
+    m_okButton->setEnabled(!m_nicList->selectedItems().isEmpty());
+}
+
+void NetworkDialog::createWidgets()
+{
+    m_nicList = new QTreeWidget(this);
+    m_nicList->setObjectName(QStringLiteral("nicList"));
+    m_nicList->setAccessibleName(tr("Network interfaces"));
+    m_nicList->setRootIsDecorated(false);
+    m_nicList->setHeaderLabels({tr("Name"), tr("IP Address"), tr("Subnet Mask")});
+    m_nicList->header()->setStretchLastSection(false);
+    m_nicList->header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
+    m_nicList->header()->setSectionResizeMode(AddressColumn, QHeaderView::ResizeToContents);
+    m_nicList->header()->setSectionResizeMode(MaskColumn, QHeaderView::ResizeToContents);
+
+    m_okButton = new QPushButton(tr("OK"), this);
+    m_okButton->setObjectName(QStringLiteral("okButton"));
+    m_okButton->setDefault(true);
+    m_okButton->setEnabled(false);
+    m_cancelButton = new QPushButton(tr("Cancel"), this);
+    m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
+    m_cancelButton->setAutoDefault(false);
+}
+
+void NetworkDialog::layOutWidgets()
+{
+    auto* const buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(m_okButton);
+    buttons->addWidget(m_cancelButton);
+
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(m_nicList);
+    layout->addLayout(buttons);
+}
+
+void NetworkDialog::connectWidgets()
+{
+    connect(m_nicList, SIGNAL(itemSelectionChanged()), this, SLOT(selectedNicListItem()));
+    connect(m_okButton, SIGNAL(clicked()), this, SLOT(accept()));
+    connect(m_cancelButton, SIGNAL(clicked()), this, SLOT(reject()));
+}
