@@ -13,6 +13,15 @@ QVariantMap selector(int deviceSet, int scene, const QString& ipAddress)
             {DataKey::deviceIPAddress(), ipAddress}};
 }
 
+DeviceSetInfo unpack(const QVariantMap& data)
+{
+    return {data.value(DataKey::deviceSetNumber()).toInt(),
+            data.value(DataKey::sceneNumber()).toInt(),
+            data.value(DataKey::deviceIPAddress()).toString(),
+            data.value(DataKey::deviceSetRemove()).toBool(),
+            data.value(DataKey::speakerPosition()).toString()};
+}
+
 } // namespace
 
 std::optional<DeviceSetInfo> deviceSetRecord(IDocAccessor& doc, int deviceSet, int scene,
@@ -22,9 +31,22 @@ std::optional<DeviceSetInfo> deviceSetRecord(IDocAccessor& doc, int deviceSet, i
     if (!doc.getData(DataKind::DeviceSet, data)) {
         return std::nullopt;
     }
-    return DeviceSetInfo{deviceSet, scene, ipAddress,
-                         data.value(DataKey::deviceSetRemove()).toBool(),
-                         data.value(DataKey::speakerPosition()).toString()};
+    return unpack(data);
+}
+
+QHash<QString, DeviceSetInfo> deviceSetRecords(IDocAccessor& doc, int deviceSet, int scene)
+{
+    QList<QVariantMap> maps;
+    doc.getDataList(DataKind::DeviceSet,
+                    {{DataKey::deviceSetNumber(), deviceSet}, {DataKey::sceneNumber(), scene}},
+                    maps);
+    QHash<QString, DeviceSetInfo> records;
+    records.reserve(maps.size());
+    for (const QVariantMap& map : maps) {
+        const DeviceSetInfo record = unpack(map);
+        records.insert(record.ipAddress, record);
+    }
+    return records;
 }
 
 bool addToDeviceSet(IDocAccessor& doc, int deviceSet, int scene, const QString& ipAddress,

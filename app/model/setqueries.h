@@ -2,6 +2,8 @@
 
 #include "records.h"
 
+#include <QHash>
+
 #include <optional>
 
 class IDocAccessor;
@@ -11,6 +13,10 @@ class IDocAccessor;
 /// The record of one device in one set of one layout; nothing when there is none.
 std::optional<DeviceSetInfo> deviceSetRecord(IDocAccessor& doc, int deviceSet, int scene,
                                              const QString& ipAddress);
+
+/// All records of one set of one layout, found by the device's address: one pass over the records
+/// instead of one search per device.
+QHash<QString, DeviceSetInfo> deviceSetRecords(IDocAccessor& doc, int deviceSet, int scene);
 
 /// Appends a device to a set with its "removed" mark; its speaker position starts as "L".
 /// False when the device is in that set already.
