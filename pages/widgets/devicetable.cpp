@@ -30,11 +30,17 @@ DeviceTable::DeviceTable(const QStringList& headers, int addressColumn, QWidget*
     , m_addressColumn(addressColumn)
 {
     setHeaderLabels(headers);
+    header()->setDefaultSectionSize(addressWidth());
     setRootIsDecorated(false);
     setItemDelegate(new RowDelegate(this));
     header()->setSortIndicator(labelColumn, Qt::AscendingOrder);
     connect(model(), SIGNAL(modelAboutToBeReset()), this, SLOT(forgetRows()));
     connect(model(), SIGNAL(layoutChanged()), this, SLOT(chainTabOrder()));
+}
+
+int DeviceTable::addressWidth() const
+{
+    return fontMetrics().horizontalAdvance(QStringLiteral(" 255.255.255.255 "));
 }
 
 void DeviceTable::setRows(const QList<QStringList>& rows, const Decorate& decorate)

@@ -17,7 +17,8 @@ public:
     static constexpr int labelColumn = 0;
     static constexpr int identifyColumn = 1;
 
-    /// The table has one column per header.
+    /// The table has one column per header, each wide enough for an address until the page sets
+    /// another width.
     DeviceTable(const QStringList& headers, int addressColumn, QWidget* parent = nullptr);
 
     /// Replaces all rows; each holds the texts of its columns, column 1 empty. With sorting
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void chainTabOrder();
 
 private:
+    int addressWidth() const;
     void addRows(const QList<QStringList>& rows);
     void addIdentifyButton(QTreeWidgetItem* row);
 

@@ -21,6 +21,25 @@ protected:
     }
 };
 
+/// Keeps the colour that a page gave a row's texts visible while the row is selected, as the
+/// colour of the selection itself.
+class NumberDelegate : public RowDelegate
+{
+public:
+    using RowDelegate::RowDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        RowDelegate::initStyleOption(option, index);
+        const QColor colour = option->palette.color(QPalette::Text);
+        if (index.data(Qt::ForegroundRole).isValid() && colour != QColor(Qt::black)) {
+            option->palette.setColor(QPalette::Highlight, colour);
+            option->palette.setColor(QPalette::HighlightedText, Qt::white);
+        }
+    }
+};
+
 QTreeWidgetItem* createRow(const RoomGroup& group)
 {
     auto* row = new QTreeWidgetItem(
@@ -38,7 +57,7 @@ RoomGroupList::RoomGroupList(const QStringList& headers, const QList<int>& width
     setHeaderLabels(headers);
     setRootIsDecorated(false);
     setAccessibleName(tr("Room combinations"));
-    setItemDelegate(new RowDelegate(this));
+    setItemDelegate(new NumberDelegate(this));
     setItemDelegateForColumn(roomColumn, new RoomDelegate(this));
     for (int column = 0; column < widths.size(); ++column) {
         setColumnWidth(column, widths.at(column));
