@@ -1,0 +1,121 @@
+#include "createpreset.h"
+
+#include "presetnameedit.h"
+#include "presetqueries.h"
+#include "roomgrouplist.h"
+#include "textlabel.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int nameColumn = 3;
+constexpr int numberWidth = 15;
+constexpr int layoutWidth = 25;
+constexpr int gapBelowTexts = 10;
+
+} // namespace
+
+CreatePreset::CreatePreset(IDocAccessor* doc, QWidget* parent)
+    : QWidget(parent)
+    , m_doc(doc)
+{
+    createWidgets();
+    layOut();
+    connect(m_groupList, SIGNAL(itemSelectionChanged()), this, SLOT(deviceSetSelected()));
+}
+
+void CreatePreset::createWidgets()
+{
+    m_groupList = new RoomGroupList({tr("No."), tr("Layout"), tr("Rooms"), tr("Preset Names")},
+                                    {numberWidth, layoutWidth}, this);
+    m_groupList->setObjectName(QStringLiteral("roomGroupList"));
+    m_thumbnail = new QLabel(this);
+    m_thumbnail->setObjectName(QStringLiteral("thumbnailLabel"));
+    m_thumbnail->setAccessibleName(tr("Selected layout"));
+}
+
+void CreatePreset::layOut()
+{
+    auto* listTitle = new QLabel(tr("Select a room combination"), this);
+    listTitle->setBuddy(m_groupList);
+    auto* listColumn = new QVBoxLayout;
+    listColumn->addWidget(listTitle);
+    listColumn->addWidget(m_groupList);
+
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_thumbnail, 0, Qt::AlignTop);
+    row->addLayout(listColumn, 1);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(
+        textLabel(tr("Each room combination will be configured as a preset on the PX-HBs."), this));
+    layout->addWidget(textLabel(tr("Please provide a name for the preset."), this));
+    layout->addSpacing(gapBelowTexts);
+    layout->addLayout(row, 1);
+}
+
+void CreatePreset::initialise()
+{
+    m_groups = roomGroups(*m_doc);
+    m_groupList->setGroups(m_groups);
+    addNameFields();
+    m_groupList->selectRow(0);
+    deviceSetSelected();
+}
+
+void CreatePreset::addNameFields()
+{
+    m_nameFields.clear();
+    QWidget* previous = m_groupList;
+    for (qsizetype row = 0; row < m_groups.size(); ++row) {
+        PresetNameEdit* field = nameField(m_groups.at(row));
+        m_groupList->setItemWidget(m_groupList->topLevelItem(int(row)), nameColumn, field);
+        // Fields made after the page's buttons would be reached after them.
+        setTabOrder(previous, field);
+        previous = field;
+        m_nameFields.append(field);
+    }
+}
+
+PresetNameEdit* CreatePreset::nameField(const RoomGroup& group)
+{
+    const auto name = presetName(*m_doc, group.number, group.sceneNumber);
+    auto* field = new PresetNameEdit(name.value_or(QString()), m_groupList);
+    field->setAccessibleName(tr("Preset name of rooms %1 in layout %2")
+                                 .arg(group.roomText, QString::number(group.sceneNumber)));
+    connect(field, SIGNAL(entered()), this, SLOT(nameFieldEntered()));
+    return field;
+}
+
+void CreatePreset::store() const
+{
+    clearPresets(*m_doc);
+    for (qsizetype row = 0; row < m_groups.size(); ++row) {
+        const RoomGroup& group = m_groups.at(row);
+        addPreset(*m_doc, group.number, group.sceneNumber, m_nameFields.at(row)->text());
+    }
+}
+
+void CreatePreset::reset()
+{
+    for (PresetNameEdit* field : std::as_const(m_nameFields)) {
+        field->clear();
+    }
+}
+
+void CreatePreset::deviceSetSelected()
+{
+    // Beyond the groups when none is current, or while the list is being replaced.
+    m_thumbnail->setPixmap(m_groups.value(m_groupList->currentRow()).thumbnail);
+}
+
+void CreatePreset::nameFieldEntered()
+{
+    const auto row = m_nameFields.indexOf(sender());
+    if (row >= 0) {
+        m_groupList->selectRow(int(row));
+    }
+}

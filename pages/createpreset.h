@@ -1,0 +1,50 @@
+#pragma once
+
+#include "roomgroup.h"
+
+#include <QList>
+#include <QWidget>
+
+class IDocAccessor;
+class PresetNameEdit;
+class QLabel;
+class RoomGroupList;
+
+/// Content of the preset naming step: every combined room of every layout with a field for the
+/// name of its preset, beside the picture of the selected room's layout.
+class CreatePreset : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `doc` is not owned and outlives the widget.
+    CreatePreset(IDocAccessor* doc, QWidget* parent);
+
+    /// Lists the combined rooms anew, with the names stored for them.
+    void initialise();
+
+    /// Replaces the stored presets by the listed ones; empty names are stored as they are.
+    void store() const;
+
+    /// Empties every name field.
+    void reset();
+
+public Q_SLOTS:
+    /// Shows the layout that the current row belongs to.
+    void deviceSetSelected();
+
+private Q_SLOTS:
+    void nameFieldEntered();
+
+private:
+    void createWidgets();
+    void layOut();
+    void addNameFields();
+    PresetNameEdit* nameField(const RoomGroup& group);
+
+    IDocAccessor* m_doc;
+    RoomGroupList* m_groupList = nullptr;
+    QLabel* m_thumbnail = nullptr;
+    QList<RoomGroup> m_groups;
+    QList<PresetNameEdit*> m_nameFields; ///< one per group; owned by the list
+};

@@ -1,0 +1,16 @@
+#include "presetnameedit.h"
+
+PresetNameEdit::PresetNameEdit(const QString& name, QWidget* parent)
+    : QLineEdit(parent)
+{
+    setObjectName(QStringLiteral("presetNameEdit"));
+    setMaxLength(maxNameLength);
+    setText(name);
+    setCursorPosition(0);
+}
+
+void PresetNameEdit::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    Q_EMIT entered();
+}
