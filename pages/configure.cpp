@@ -1,0 +1,142 @@
+#include "configure.h"
+
+#include "deviceset.h"
+#include "roomdevices.h"
+#include "roomgroup.h"
+#include "roomgrouplist.h"
+#include "setqueries.h"
+#include "textlabel.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int numberColumn = 0;
+constexpr int layoutColumn = 1;
+constexpr int numberWidth = 15;
+constexpr int layoutWidth = 40;
+constexpr int roomWidth = 40;
+
+} // namespace
+
+Configure::Configure(IDocAccessor* doc, QWidget* parent)
+    : QWidget(parent)
+    , m_doc(doc)
+{
+    createWidgets();
+    layOut();
+    connect(m_groupList, SIGNAL(itemSelectionChanged()), this, SLOT(deviceSetSelected()));
+}
+
+void Configure::createWidgets()
+{
+    m_groupList = new RoomGroupList({tr("No."), tr("Layout"), tr("Room")},
+                                    {numberWidth, layoutWidth, roomWidth}, this);
+    m_groupList->setObjectName(QStringLiteral("roomGroupList"));
+    m_stack = new QStackedWidget(this);
+    m_stack->setObjectName(QStringLiteral("deviceSetStack"));
+}
+
+void Configure::layOut()
+{
+    auto* listTitle = new QLabel(tr("Select a room combination"), this);
+    listTitle->setBuddy(m_groupList);
+    auto* listColumn = new QVBoxLayout;
+    listColumn->addWidget(listTitle);
+    listColumn->addWidget(m_groupList, 1);
+
+    auto* row = new QHBoxLayout;
+    row->addLayout(listColumn, 1);
+    row->addWidget(m_stack, 4);
+
+    auto* layout = new QVBoxLayout(this);
+    addTexts(layout);
+    layout->addLayout(row, 1);
+}
+
+void Configure::addTexts(QVBoxLayout* layout)
+{
+    const QStringList texts{
+        tr("Select which devices are to be used in each of the room combinations created in the "
+           "previous step."),
+        tr("For combined rooms select the devices that are to be used in that configuration. \n"
+           "Please select exactly one PX-HB and up to 16 other peripheraals."),
+        tr("If more devices than supported are being selected the listing will appear in red.")};
+    for (const QString& text : texts) {
+        layout->addWidget(textLabel(text, this));
+    }
+}
+
+void Configure::initialise()
+{
+    clearSets();
+    addSets();
+    deviceRemoveStatusChanged();
+    m_groupList->selectRow(0);
+    deviceSetSelected();
+}
+
+void Configure::clearSets()
+{
+    for (DeviceSet* set : std::as_const(m_sets)) {
+        m_stack->removeWidget(set);
+        delete set;
+    }
+    m_sets.clear();
+}
+
+void Configure::addSets()
+{
+    const QList<RoomGroup> groups = roomGroups(*m_doc);
+    RoomDevices devices(*m_doc);
+    for (const RoomGroup& group : groups) {
+        auto* set = new DeviceSet(group, m_doc, m_stack);
+        set->fill(devices);
+        connect(set, SIGNAL(deviceRemoveStatusChanged()), this, SLOT(deviceRemoveStatusChanged()));
+        m_stack->addWidget(set);
+        m_sets.append(set);
+    }
+    m_groupList->setGroups(groups);
+}
+
+void Configure::store() const
+{
+    clearDeviceSets(*m_doc);
+    for (const DeviceSet* set : m_sets) {
+        set->store();
+    }
+}
+
+void Configure::reset()
+{
+    for (DeviceSet* set : std::as_const(m_sets)) {
+        set->reset();
+    }
+    deviceRemoveStatusChanged();
+}
+
+void Configure::deviceSetSelected()
+{
+    const int row = m_groupList->currentRow();
+    if (row >= 0 && row < m_sets.size()) {
+        m_sets.at(row)->buildLists(m_groupList);
+        m_stack->setCurrentWidget(m_sets.at(row));
+    }
+}
+
+void Configure::deviceRemoveStatusChanged()
+{
+    bool allValid = true;
+    for (qsizetype row = 0; row < m_sets.size(); ++row) {
+        const bool valid = m_sets.at(row)->isValid();
+        QTreeWidgetItem* item = m_groupList->topLevelItem(int(row));
+        for (const int column : {numberColumn, layoutColumn}) {
+            item->setForeground(column, valid ? Qt::black : Qt::red);
+        }
+        allValid = allValid && valid;
+    }
+    Q_EMIT nextButtonEnabled(allValid);
+}

@@ -1,0 +1,236 @@
+#include "deviceset.h"
+
+#include "deviceclass.h"
+#include "devicetable.h"
+#include "removebutton.h"
+#include "roomdevices.h"
+#include "rowdelegate.h"
+#include "setqueries.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace {
+
+constexpr int addressColumn = 3;
+constexpr int removeColumn = 5;
+constexpr std::array textColumns = {0, 2, 3, 4};
+constexpr int hubStretch = 1;
+constexpr int peripheralStretch = 3;
+
+constexpr std::array<std::pair<int, int>, 6> columnWidths = {
+    {{0, 200}, {1, 25}, {2, 70}, {4, 50}, {5, 60}, {6, 20}}};
+
+bool isSupported(const DeviceCounts& counts)
+{
+    return counts.hubs <= DeviceCounts::maxHubs &&
+           counts.microphones + counts.speakers <= DeviceCounts::maxMicrophonesAndSpeakers &&
+           counts.controllers <= DeviceCounts::maxControllers;
+}
+
+void paintRow(QTreeWidgetItem* row, bool removed)
+{
+    for (const int column : textColumns) {
+        row->setForeground(column, removed ? Qt::gray : Qt::black);
+    }
+}
+
+} // namespace
+
+DeviceSet::DeviceSet(RoomGroup group, IDocAccessor* doc, QWidget* parent)
+    : QWidget(parent)
+    , m_group(std::move(group))
+    , m_doc(doc)
+{
+}
+
+void DeviceSet::fill(RoomDevices& devices)
+{
+    const auto records = deviceSetRecords(*m_doc, m_group.number, m_group.sceneNumber);
+    for (const DeviceEntry& device : devices.in(m_group.roomNumbers())) {
+        if (m_indexes.contains(device.ipAddress)) {
+            continue; // handed over twice: a device is known by its address
+        }
+        m_indexes.insert(device.ipAddress, m_members.size());
+        m_members.append({device, records.value(device.ipAddress).remove});
+    }
+    count();
+}
+
+void DeviceSet::buildLists(QWidget* previous)
+{
+    if (m_summaryTable == nullptr) {
+        createWidgets();
+        layOut();
+        chainTabOrder(previous);
+        addRows();
+        count();
+    }
+}
+
+void DeviceSet::createWidgets()
+{
+    m_summaryTable = new QTreeWidget(this);
+    m_summaryTable->setObjectName(QStringLiteral("summaryTable"));
+    m_summaryTable->setAccessibleName(tr("Number of devices in this set"));
+    m_summaryTable->setHeaderLabels(
+        {tr("PX-HB"), tr("Microphone"), tr("Speaker"), tr("Controller"), QString()});
+    m_summaryTable->setRootIsDecorated(false);
+    m_summaryTable->setItemDelegate(new RowDelegate(m_summaryTable));
+    m_summaryTable->addTopLevelItem(new QTreeWidgetItem);
+    m_summaryTable->setFixedHeight(m_summaryTable->header()->sizeHint().height() +
+                                   m_summaryTable->sizeHintForRow(0) +
+                                   2 * m_summaryTable->frameWidth());
+    m_hubTable = createTable(QStringLiteral("hubTable"));
+    m_peripheralTable = createTable(QStringLiteral("peripheralTable"));
+}
+
+DeviceTable* DeviceSet::createTable(const QString& name)
+{
+    auto* table = new DeviceTable({tr("Hostname"), QString(), tr("Model"), tr("IP Address"),
+                                   tr("Room"), QString(), QString()},
+                                  addressColumn, this);
+    table->setObjectName(name);
+    for (const auto& [column, width] : columnWidths) {
+        table->setColumnWidth(column, width);
+    }
+    table->setSortingEnabled(true);
+    connect(table, SIGNAL(identifyClicked(QString)), this, SLOT(identifyButtonClicked(QString)));
+    return table;
+}
+
+void DeviceSet::layOut()
+{
+    auto* thumbnail = new QLabel(this);
+    thumbnail->setObjectName(QStringLiteral("thumbnailLabel"));
+    thumbnail->setAccessibleName(tr("Layout %1").arg(m_group.sceneNumber));
+    thumbnail->setPixmap(m_group.thumbnail);
+    auto* top = new QHBoxLayout;
+    top->addWidget(thumbnail, 0, Qt::AlignTop);
+    top->addWidget(m_summaryTable, 1, Qt::AlignTop);
+
+    auto* hubTitle = new QLabel(tr("PX-HB"), this);
+    hubTitle->setBuddy(m_hubTable);
+    auto* peripheralTitle = new QLabel(tr("Peripheral"), this);
+    peripheralTitle->setBuddy(m_peripheralTable);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(top);
+    layout->addWidget(hubTitle);
+    layout->addWidget(m_hubTable, hubStretch);
+    layout->addWidget(peripheralTitle);
+    layout->addWidget(m_peripheralTable, peripheralStretch);
+}
+
+void DeviceSet::chainTabOrder(QWidget* previous)
+{
+    // The buttons in the rows chain themselves behind their list when the rows come.
+    setTabOrder(previous, m_summaryTable);
+    setTabOrder(m_summaryTable, m_hubTable);
+    setTabOrder(m_hubTable, m_peripheralTable);
+}
+
+void DeviceSet::addRows()
+{
+    QList<QStringList> hubs;
+    QList<QStringList> peripherals;
+    for (const auto& [device, removed] : std::as_const(m_members)) {
+        auto& rows = isHub(device.modelName) ? hubs : peripherals;
+        rows.append({device.label, QString(), device.modelName, device.ipAddress,
+                     QString::number(device.roomNumber)});
+    }
+    m_hubTable->setRows(hubs, [this](QTreeWidgetItem* row) { addRemoveButton(m_hubTable, row); });
+    m_peripheralTable->setRows(
+        peripherals, [this](QTreeWidgetItem* row) { addRemoveButton(m_peripheralTable, row); });
+}
+
+void DeviceSet::addRemoveButton(DeviceTable* table, QTreeWidgetItem* row)
+{
+    const bool removed = member(row).removed;
+    auto* button = new RemoveButton(table);
+    button->setDevice(row->text(DeviceTable::labelColumn));
+    button->setRemoved(removed);
+    table->setItemWidget(row, removeColumn, button);
+    if (removed) {
+        paintRow(row, removed);
+    }
+    m_rows.insert(button, row);
+    connect(button, SIGNAL(clicked(bool)), this, SLOT(removeButtonClicked(bool)));
+}
+
+DeviceSet::Member& DeviceSet::member(const QTreeWidgetItem* row)
+{
+    return m_members[m_indexes.value(row->text(addressColumn))];
+}
+
+void DeviceSet::count()
+{
+    DeviceCounts counts;
+    for (const auto& [device, removed] : std::as_const(m_members)) {
+        if (!removed) {
+            counts.add(device.modelName);
+        }
+    }
+    showCounts(counts);
+    const bool valid = isSupported(counts);
+    if (valid != m_valid) {
+        m_valid = valid;
+        Q_EMIT deviceRemoveStatusChanged();
+    }
+}
+
+void DeviceSet::showCounts(const DeviceCounts& counts)
+{
+    if (m_summaryTable != nullptr) {
+        QTreeWidgetItem* row = m_summaryTable->topLevelItem(0);
+        int column = 0;
+        for (const int number :
+             {counts.hubs, counts.microphones, counts.speakers, counts.controllers}) {
+            row->setText(column++, QString::number(number));
+        }
+    }
+}
+
+bool DeviceSet::isValid() const
+{
+    return m_valid;
+}
+
+void DeviceSet::reset()
+{
+    for (Member& member : m_members) {
+        member.removed = false;
+    }
+    for (auto row = m_rows.cbegin(); row != m_rows.cend(); ++row) {
+        row.key()->setRemoved(false);
+        paintRow(row.value(), false);
+    }
+    count();
+}
+
+void DeviceSet::store() const
+{
+    for (const auto& [device, removed] : m_members) {
+        addToDeviceSet(*m_doc, m_group.number, m_group.sceneNumber, device.ipAddress, removed);
+    }
+}
+
+void DeviceSet::identifyButtonClicked(const QString& ip)
+{
+    identifyDevice(*m_doc, ip);
+}
+
+void DeviceSet::removeButtonClicked(bool on)
+{
+    QTreeWidgetItem* row = m_rows.value(qobject_cast<RemoveButton*>(sender()));
+    if (row != nullptr) {
+        paintRow(row, on);
+        member(row).removed = on;
+        count();
+    }
+}
