@@ -1,7 +1,5 @@
 #include "roomcombo.h"
 
-#include <QWheelEvent>
-
 QStringList RoomCombo::choices(int rooms)
 {
     QStringList texts{tr("No Assign")};
@@ -12,9 +10,8 @@ QStringList RoomCombo::choices(int rooms)
 }
 
 RoomCombo::RoomCombo(const QStringList& choices, QWidget* parent)
-    : QComboBox(parent)
+    : ListComboBox(parent)
 {
-    setFocusPolicy(Qt::StrongFocus);
     addItems(choices);
 }
 
@@ -26,9 +23,4 @@ int RoomCombo::room() const
 void RoomCombo::setRoom(int room)
 {
     setCurrentIndex(room > 0 && room < count() ? room : 0);
-}
-
-void RoomCombo::wheelEvent(QWheelEvent* event)
-{
-    event->ignore();
 }

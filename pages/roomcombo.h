@@ -1,12 +1,9 @@
 #pragma once
 
-#include <QComboBox>
+#include "listcombobox.h"
 
 /// The choice of a device's room: index 0 is "No Assign", index k is room k.
-///
-/// The wheel scrolls the table that the combo stands in and never changes the choice: a thousand
-/// devices are scrolled past with the pointer over these combos.
-class RoomCombo : public QComboBox
+class RoomCombo : public ListComboBox
 {
     Q_OBJECT
 
@@ -20,7 +17,4 @@ public:
     int room() const;
     /// Chooses `room`; a room that there is not falls back to none.
     void setRoom(int room);
-
-protected:
-    void wheelEvent(QWheelEvent* event) override;
 };
