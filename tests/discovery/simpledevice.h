@@ -1,0 +1,31 @@
+#pragma once
+
+#include "discoveryreply.h"
+#include "scriptedpeer.h"
+
+#include <QUdpSocket>
+
+/// A device at an address of its own: replies to discovery when told, and tells its identity.
+class SimpleDevice
+{
+public:
+    /// The identity's serial number and the last byte of the MAC address tell hubs apart.
+    SimpleDevice(const QString& address, const QByteArray& model, const QByteArray& serial,
+                 char lastMacByte);
+
+    /// Opens both ports; false when one is taken.
+    bool open();
+
+    /// The reply as it is sent unless a test spoils it.
+    const DiscoveryReply& reply() const;
+
+    /// Sends a datagram from the device to the wizard at `wizard`.
+    void send(const QByteArray& bytes, const QString& wizard);
+
+    ScriptedPeer& commands();
+
+private:
+    DiscoveryReply m_reply;
+    ScriptedPeer m_commands;
+    QUdpSocket m_socket;
+};
