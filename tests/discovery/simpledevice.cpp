@@ -19,7 +19,7 @@ QList<QByteArray> identity(const QString& address, const QByteArray& serial)
 
 SimpleDevice::SimpleDevice(const QString& address, const QByteArray& model,
                            const QByteArray& serial, char lastMacByte)
-    : m_reply(DiscoveryReply::from(address, model, lastMacByte))
+    : m_reply(ScriptedReply::from(address, model, lastMacByte))
     , m_commands(address)
 {
     m_commands.answerWith(identity(address, serial));
@@ -30,7 +30,7 @@ bool SimpleDevice::open()
     return m_commands.listen() && m_socket.bind(m_commands.hostAddress(), discoveryPort);
 }
 
-const DiscoveryReply& SimpleDevice::reply() const
+const ScriptedReply& SimpleDevice::reply() const
 {
     return m_reply;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "discoveryreply.h"
 #include "scriptedpeer.h"
+#include "scriptedreply.h"
 
 #include <QUdpSocket>
 
@@ -17,7 +17,7 @@ public:
     bool open();
 
     /// The reply as it is sent unless a test spoils it.
-    const DiscoveryReply& reply() const;
+    const ScriptedReply& reply() const;
 
     /// Sends a datagram from the device to the wizard at `wizard`.
     void send(const QByteArray& bytes, const QString& wizard);
@@ -25,7 +25,7 @@ public:
     ScriptedPeer& commands();
 
 private:
-    DiscoveryReply m_reply;
+    ScriptedReply m_reply;
     ScriptedPeer m_commands;
     QUdpSocket m_socket;
 };

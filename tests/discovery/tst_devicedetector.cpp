@@ -278,7 +278,7 @@ void TestDeviceDetector::aReplyWithoutABodyIsNotTreatedAsAHub()
     SimpleDevice device(address(23), "PX-HB", "S23", 1);
     QVERIFY(device.open());
     Search search;
-    DiscoveryReply reply = device.reply();
+    ScriptedReply reply = device.reply();
     reply.bodyIndicator = QByteArray(2, '\0');
     device.send(reply.bytes(), wizard);
     QTRY_VERIFY(search.isIdentified(address(23)));
@@ -294,7 +294,7 @@ void TestDeviceDetector::aSecondReplyOfAKnownAddressStartsNoNewQuery()
     answer(device);
     QTRY_COMPARE(search.reported(), QStringList{address(24)});
     search.detector.detect();
-    DiscoveryReply renamed = device.reply();
+    ScriptedReply renamed = device.reply();
     renamed.model = "PX-BK";
     device.send(renamed.bytes(), wizard);
     waitForControlDevice(search);
@@ -318,22 +318,22 @@ void TestDeviceDetector::theAddressInsideTheReplyCounts()
 void TestDeviceDetector::datagramsThatStartNoQuery_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    const auto row = [](const char* name, const std::function<void(DiscoveryReply&)>& spoil) {
-        auto reply = DiscoveryReply::from(address(30), "PX-DL5", 1);
+    const auto row = [](const char* name, const std::function<void(ScriptedReply&)>& spoil) {
+        auto reply = ScriptedReply::from(address(30), "PX-DL5", 1);
         spoil(reply);
         QTest::newRow(name) << reply.bytes();
     };
-    row("byte 6 is 0x00", [](DiscoveryReply& reply) { reply.flags = 0; });
-    row("byte 6 is 0x01", [](DiscoveryReply& reply) { reply.flags = 1; });
-    row("byte 6 is 0x7F", [](DiscoveryReply& reply) { reply.flags = 0x7F; });
-    row("length one too high", [](DiscoveryReply& reply) { reply.lengthError = 1; });
-    row("length one too low", [](DiscoveryReply& reply) { reply.lengthError = -1; });
-    row("another magic", [](DiscoveryReply& reply) { reply.magic = "QNFX"; });
+    row("byte 6 is 0x00", [](ScriptedReply& reply) { reply.flags = 0; });
+    row("byte 6 is 0x01", [](ScriptedReply& reply) { reply.flags = 1; });
+    row("byte 6 is 0x7F", [](ScriptedReply& reply) { reply.flags = 0x7F; });
+    row("length one too high", [](ScriptedReply& reply) { reply.lengthError = 1; });
+    row("length one too low", [](ScriptedReply& reply) { reply.lengthError = -1; });
+    row("another magic", [](ScriptedReply& reply) { reply.magic = "QNFX"; });
     QTest::newRow("the detector's own query") << buildDiscoveryQuery(wizard, 0, 0);
     QTest::newRow("an empty datagram") << QByteArray();
     QTest::newRow("four bytes") << QByteArray("QNFL");
     QTest::newRow("garbage") << QByteArray(1400, '\xff');
-    const QByteArray whole = DiscoveryReply::from(address(30), "PX-DL5", 1).bytes();
+    const QByteArray whole = ScriptedReply::from(address(30), "PX-DL5", 1).bytes();
     QTest::newRow("the last byte missing") << whole.chopped(1);
 }
 
@@ -400,7 +400,7 @@ void TestDeviceDetector::repliesWithoutAUsableAddressAreNeverReported()
     SimpleDevice device(::address(32), "PX-DL5", "S32", 1);
     QVERIFY(device.open());
     Search search;
-    DiscoveryReply reply = device.reply();
+    ScriptedReply reply = device.reply();
     reply.family = char(family);
     reply.address = address;
     device.send(reply.bytes(), wizard);

@@ -1,6 +1,6 @@
 #include "discoverypacket.h"
-#include "discoveryreply.h"
 #include "mactext.h"
+#include "scriptedreply.h"
 #include "testcase.h"
 
 #include <QTest>
@@ -43,9 +43,9 @@ private Q_SLOTS:
 
 namespace {
 
-DiscoveryReply reply()
+ScriptedReply reply()
 {
-    return DiscoveryReply::from(QStringLiteral("192.168.0.10"), "PX-HB", 2);
+    return ScriptedReply::from(QStringLiteral("192.168.0.10"), "PX-HB", 2);
 }
 
 void fixLength(QByteArray& bytes)
@@ -122,7 +122,7 @@ void TestDiscoveryPacket::aQueryReadsBackEqual()
 
 void TestDiscoveryPacket::everyFieldOfAReplyIsRead()
 {
-    DiscoveryReply fields = reply();
+    ScriptedReply fields = reply();
     fields.name = "S\xc3\xa4l";
     const auto packet = parseDiscoveryPacket(fields.bytes());
     QVERIFY(packet.has_value());
@@ -139,18 +139,18 @@ void TestDiscoveryPacket::everyFieldOfAReplyIsRead()
 void TestDiscoveryPacket::datagramsThatAreRefused_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    const auto row = [](const char* name, const std::function<void(DiscoveryReply&)>& spoil) {
-        DiscoveryReply fields = reply();
+    const auto row = [](const char* name, const std::function<void(ScriptedReply&)>& spoil) {
+        ScriptedReply fields = reply();
         spoil(fields);
         QTest::newRow(name) << fields.bytes();
     };
-    row("a length field one too high", [](DiscoveryReply& fields) { fields.lengthError = 1; });
-    row("a length field one too low", [](DiscoveryReply& fields) { fields.lengthError = -1; });
-    row("a length field 256 too high", [](DiscoveryReply& fields) { fields.lengthError = 256; });
-    row("another magic", [](DiscoveryReply& fields) { fields.magic = "QNFM"; });
-    row("a lower-case magic", [](DiscoveryReply& fields) { fields.magic = "qnfl"; });
+    row("a length field one too high", [](ScriptedReply& fields) { fields.lengthError = 1; });
+    row("a length field one too low", [](ScriptedReply& fields) { fields.lengthError = -1; });
+    row("a length field 256 too high", [](ScriptedReply& fields) { fields.lengthError = 256; });
+    row("another magic", [](ScriptedReply& fields) { fields.magic = "QNFM"; });
+    row("a lower-case magic", [](ScriptedReply& fields) { fields.magic = "qnfl"; });
     row("a byte before the magic",
-        [](DiscoveryReply& fields) { fields.magic = QByteArray("\0QNFL", 5); });
+        [](ScriptedReply& fields) { fields.magic = QByteArray("\0QNFL", 5); });
     QTest::newRow("nothing") << QByteArray();
     QTest::newRow("the magic alone") << QByteArray("QNFL");
     QTest::newRow("half a length field") << QByteArray("QNFL\0", 5);
@@ -181,7 +181,7 @@ void TestDiscoveryPacket::flagsByte_data()
 void TestDiscoveryPacket::flagsByte()
 {
     QFETCH(const int, flags);
-    DiscoveryReply fields = reply();
+    ScriptedReply fields = reply();
     fields.flags = char(flags);
     const auto packet = parseDiscoveryPacket(fields.bytes());
     QVERIFY(packet.has_value());
@@ -203,7 +203,7 @@ void TestDiscoveryPacket::bodyIndicator_data()
 void TestDiscoveryPacket::bodyIndicator()
 {
     QFETCH(const QByteArray, indicator);
-    DiscoveryReply fields = reply();
+    ScriptedReply fields = reply();
     fields.bodyIndicator = indicator;
     const auto packet = parseDiscoveryPacket(fields.bytes());
     QVERIFY(packet.has_value());
@@ -225,7 +225,7 @@ void TestDiscoveryPacket::addressFamily_data()
 void TestDiscoveryPacket::addressFamily()
 {
     QFETCH(const int, family);
-    DiscoveryReply fields = reply();
+    ScriptedReply fields = reply();
     fields.family = char(family);
     const auto packet = parseDiscoveryPacket(fields.bytes());
     QVERIFY(packet.has_value());
@@ -271,7 +271,7 @@ void TestDiscoveryPacket::aTextLengthOf0x80AndMoreTakesEverythingUpToTheEnd()
 
 void TestDiscoveryPacket::aLengthOf0x8000AndMoreNeverMatches()
 {
-    DiscoveryReply fields = reply();
+    ScriptedReply fields = reply();
     const qsizetype textLess = fields.bytes().size() - fields.trailing.size();
     fields.trailing = QByteArray(0x8000 + 6 - textLess, 'x');
     QByteArray bytes = fields.bytes();

@@ -1,4 +1,4 @@
-#include "discoveryreply.h"
+#include "scriptedreply.h"
 
 #include <QStringList>
 
@@ -11,7 +11,7 @@ QByteArray withLength(const QByteArray& text)
 
 } // namespace
 
-QByteArray DiscoveryReply::bytes() const
+QByteArray ScriptedReply::bytes() const
 {
     QByteArray rest;
     rest += flags;
@@ -27,10 +27,9 @@ QByteArray DiscoveryReply::bytes() const
     return magic + char(length / 256) + char(length % 256) + rest;
 }
 
-DiscoveryReply DiscoveryReply::from(const QString& address, const QByteArray& model,
-                                    char lastMacByte)
+ScriptedReply ScriptedReply::from(const QString& address, const QByteArray& model, char lastMacByte)
 {
-    DiscoveryReply reply;
+    ScriptedReply reply;
     for (const QString& number : address.split(u'.')) {
         reply.address += char(number.toInt());
     }

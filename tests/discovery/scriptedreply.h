@@ -5,7 +5,7 @@
 
 /// The fields of a device's reply, written down independently of the code that reads it. A test
 /// changes what it wants to see refused.
-struct DiscoveryReply
+struct ScriptedReply
 {
     QByteArray magic = "QNFL";
     int lengthError = 0; // added to the right length
@@ -23,5 +23,5 @@ struct DiscoveryReply
     QByteArray bytes() const;
 
     /// A reply of the device at an IPv4 address, with the last byte of its MAC address.
-    static DiscoveryReply from(const QString& address, const QByteArray& model, char lastMacByte);
+    static ScriptedReply from(const QString& address, const QByteArray& model, char lastMacByte);
 };
