@@ -49,6 +49,15 @@ void addTestLayout(IDocAccessor& doc, int number, const QString& roomGroup)
     QVERIFY(addLayout(doc, {number, roomGroup, picture}));
 }
 
+QStringList strings(std::initializer_list<const char*> texts)
+{
+    QStringList list;
+    for (const char* text : texts) {
+        list.append(QLatin1String(text));
+    }
+    return list;
+}
+
 QPushButton* buttonOf(const QWidget& parent, const char* name)
 {
     auto* button = parent.findChild<QPushButton*>(QLatin1String(name));

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <initializer_list>
+
 class IDocAccessor;
 class QPushButton;
 class QWidget;
@@ -19,6 +21,9 @@ void addTestDevice(IDocAccessor& doc, const QString& label, const QString& model
 
 /// Stores a layout with a plain 64 x 64 picture.
 void addTestLayout(IDocAccessor& doc, int number, const QString& roomGroup);
+
+/// A list of texts for comparisons.
+QStringList strings(std::initializer_list<const char*> texts);
 
 /// The button of this object name below `parent`, which must exist.
 QPushButton* buttonOf(const QWidget& parent, const char* name);

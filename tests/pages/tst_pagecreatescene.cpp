@@ -116,15 +116,6 @@ struct Step
     QPushButton* next = buttonOf(page, "nextButton");
 };
 
-QStringList rows(std::initializer_list<const char*> texts)
-{
-    QStringList list;
-    for (const char* text : texts) {
-        list.append(QLatin1String(text));
-    }
-    return list;
-}
-
 } // namespace
 
 void TestPageCreateScene::saysWhatALayoutIs()
@@ -162,7 +153,7 @@ void TestPageCreateScene::addingListsThePictureOfTheLinkedRooms()
     Step step;
     step.link(1);
     step.addLayout();
-    QCOMPARE(step.rows(), rows({"1:1+2/3/4"}));
+    QCOMPARE(step.rows(), strings({"1:1+2/3/4"}));
     QVERIFY(step.next->isEnabled());
     QCOMPARE(step.tree->topLevelItem(0)->sizeHint(1), QSize(66, 66));
     const QPixmap shown = step.item(0)->thumbnail();
@@ -177,7 +168,7 @@ void TestPageCreateScene::everyRoomSeparateIsALayoutLikeAnyOther()
 {
     Step step;
     step.addLayout();
-    QCOMPARE(step.rows(), rows({"1:1/2/3/4"}));
+    QCOMPARE(step.rows(), strings({"1:1/2/3/4"}));
 }
 
 void TestPageCreateScene::addingTheSameCombinationTwiceSelectsTheFirstRowAndSaysSo()
@@ -195,7 +186,7 @@ void TestPageCreateScene::addingTheSameCombinationTwiceSelectsTheFirstRowAndSays
     QCOMPARE(answer.text(), QStringLiteral("This room combination already exists."));
     QCOMPARE(answer.buttons(), QStringList(QStringLiteral("OK")));
     QCOMPARE(step.tree->currentItem(), step.tree->topLevelItem(0));
-    QCOMPARE(step.rows(), rows({"1:1+2/3/4", "2:1+2+3/4"}));
+    QCOMPARE(step.rows(), strings({"1:1+2/3/4", "2:1+2+3/4"}));
 }
 
 void TestPageCreateScene::theOrderOfLinksMakesNoSecondLayout()
@@ -204,7 +195,7 @@ void TestPageCreateScene::theOrderOfLinksMakesNoSecondLayout()
     step.link(1);
     step.link(3);
     step.addLayout();
-    QCOMPARE(step.rows(), rows({"1:1+2/3+4"}));
+    QCOMPARE(step.rows(), strings({"1:1+2/3+4"}));
     step.link(1);
     step.link(3);
     step.link(3);
@@ -212,7 +203,7 @@ void TestPageCreateScene::theOrderOfLinksMakesNoSecondLayout()
     ModalAnswer answer(QStringLiteral("OK"));
     step.addLayout();
     QVERIFY(answer.wasShown());
-    QCOMPARE(step.rows(), rows({"1:1+2/3+4"}));
+    QCOMPARE(step.rows(), strings({"1:1+2/3+4"}));
 }
 
 void TestPageCreateScene::theTenthLayoutDisablesAddingAndRemovingAnyEnablesIt()
@@ -233,7 +224,7 @@ void TestPageCreateScene::removingLayoutTwoOfFourRenumbersThreeAndFour()
     Step step;
     step.list(combinationsOfFour.mid(0, 4));
     step.remove(1);
-    QCOMPARE(step.rows(), rows({"1:1/2/3/4", "2:1+3/2/4", "3:1+4/2/3"}));
+    QCOMPARE(step.rows(), strings({"1:1/2/3/4", "2:1+3/2/4", "3:1+4/2/3"}));
     step.link(1);
     step.addLayout();
     QCOMPARE(step.rows().last(), QStringLiteral("4:1+2/3/4"));
@@ -321,7 +312,7 @@ void TestPageCreateScene::storedLayoutsAreListedAgainWithLinksEmpty()
     step.addLayout();
     press(step.next);
     step.enter(3);
-    QCOMPARE(step.rows(), rows({"1:1+2/3/4"}));
+    QCOMPARE(step.rows(), strings({"1:1+2/3/4"}));
     QCOMPARE(step.item(0)->thumbnail().size(), QSize(64, 64));
     QCOMPARE(step.tessel->roomGroupText(), QStringLiteral("1/2/3/4"));
     QVERIFY(step.next->isEnabled());
@@ -334,7 +325,7 @@ void TestPageCreateScene::aMissingLayoutIsSkipped()
     addTestLayout(step.doc, 3, combinationsOfFour.at(1));
     addTestLayout(step.doc, 7, combinationsOfFour.at(2));
     step.enter(3);
-    QCOMPARE(step.rows(), rows({"1:1/2/3/4", "3:1+2/3/4"}));
+    QCOMPARE(step.rows(), strings({"1:1/2/3/4", "3:1+2/3/4"}));
 }
 
 void TestPageCreateScene::withoutRoomsThePickerStaysEmpty()
@@ -350,7 +341,7 @@ void TestPageCreateScene::isLoadedOnlyWhenReachedFromAnEarlierStep()
     step.link(1);
     step.addLayout();
     step.enter(5);
-    QCOMPARE(step.rows(), rows({"1:1+2/3/4"}));
+    QCOMPARE(step.rows(), strings({"1:1+2/3/4"}));
     QCOMPARE(step.tessel->roomGroupText(), QStringLiteral("1+2/3/4"));
     step.enter(1);
     QVERIFY(step.rows().isEmpty());
@@ -362,7 +353,7 @@ void TestPageCreateScene::restoringLoadsAndSavingStores()
     Step step;
     addTestLayout(step.doc, 1, combinationsOfFour.at(3));
     step.page.restoreFromDocument();
-    QCOMPARE(step.rows(), rows({"1:1+4/2/3"}));
+    QCOMPARE(step.rows(), strings({"1:1+4/2/3"}));
     step.addLayout();
     step.page.storeToDocument();
     QCOMPARE(layoutCount(step.doc), 2);
@@ -376,7 +367,7 @@ void TestPageCreateScene::worksWithTheKeyboardAlone()
     QTest::keyClick(step.boxAfter(1), Qt::Key_Space);
     step.add->setFocus();
     QTest::keyClick(step.add, Qt::Key_Space);
-    QCOMPARE(step.rows(), rows({"1:1+2/3/4"}));
+    QCOMPARE(step.rows(), strings({"1:1+2/3/4"}));
     QStringList order = tabOrder(step.page);
     order.removeDuplicates();
     const QStringList expected{QStringLiteral("tessel"),     QStringLiteral("addLayoutButton"),
