@@ -12,7 +12,6 @@
 #include "roomsummary.h"
 #include "textlabel.h"
 
-#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QHash>
 #include <QLabel>
@@ -34,13 +33,6 @@ enum Column
     AddressColumn,
     RoomColumn
 };
-
-/// Wide enough for every address.
-int addressColumnWidth(const QWidget& table)
-{
-    const QFontMetrics metrics(table.font());
-    return metrics.horizontalAdvance(QStringLiteral(" 255.255.255.255 "));
-}
 
 } // namespace
 
@@ -147,7 +139,6 @@ DeviceTable* DeviceLocation::createTable(const QString& name, const QString& acc
     table->setItemDelegateForColumn(LabelColumn, new DeviceLabelDelegate(table));
     table->setColumnWidth(LabelColumn, labelColumnWidth);
     table->setColumnWidth(IdentifyColumn, identifyColumnWidth);
-    table->setColumnWidth(AddressColumn, addressColumnWidth(*table));
     connect(table, SIGNAL(identifyClicked(QString)), this, SLOT(identifyButtonClicked(QString)));
     connect(table, SIGNAL(itemDoubleClicked(QTreeWidgetItem*, int)), this,
             SLOT(devItemDoubleClicked(QTreeWidgetItem*, int)));
