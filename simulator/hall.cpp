@@ -36,6 +36,9 @@ bool Hall::start(QString* error)
 
 void Hall::stop()
 {
+    if (m_responder) {
+        m_queryDifferences += m_responder->differences();
+    }
     m_responder.reset();
     for (SimulatedDevice* device : m_devices) {
         device->stop();
@@ -65,6 +68,7 @@ QStringList Hall::differences() const
             lines.append(device->address() + QStringLiteral(": ") + difference);
         }
     }
+    lines += m_queryDifferences;
     return m_responder ? lines + m_responder->differences() : lines;
 }
 

@@ -78,4 +78,6 @@ private:
     QList<SimulatedDevice*> m_devices;
     QHash<QString, SimulatedDevice*> m_byAddress;
     std::unique_ptr<DiscoveryResponder> m_responder;
+    /// Those that a responder found before the hall was stopped.
+    QStringList m_queryDifferences;
 };

@@ -142,6 +142,14 @@ std::optional<QString> HallDescription::problem() const
     if (taken.isEmpty()) {
         return QStringLiteral("the hall has no devices");
     }
+    for (const Fault& fault : faults) {
+        if (!fault.address.isEmpty() && !taken.contains(fault.address)) {
+            return QStringLiteral("a fault names %1, where there is no device").arg(fault.address);
+        }
+    }
+    if (QHostAddress(discoveryListen).protocol() != QAbstractSocket::IPv4Protocol) {
+        return QStringLiteral("\"%1\" is no address to hear queries at").arg(discoveryListen);
+    }
     if (taken.size() > mostDevices) {
         return QStringLiteral("a hall holds no more than %1 devices").arg(mostDevices);
     }

@@ -58,7 +58,7 @@ struct HallDescription
     static std::optional<HallDescription>
     byCounts(int hubs, int peripherals, const QString& base = QLatin1String(defaultBase));
 
-    /// Gives the first `count` hubs a second address, behind all addresses in use.
+    /// Gives the first `count` hubs a second address, behind those of the last device.
     void addSecondAddresses(int count);
 
     /// The number of addresses at which devices answer.

@@ -194,7 +194,8 @@ HubReply HubState::presetEntry(const HubRequest& request)
     // An entry makes the preset anew: files of an earlier one of that number go with it.
     m_presets.insert(number, {entry, {}});
     return HubReply::json(200, accepted(),
-                          QStringLiteral("preset %1 entered").arg(QString::number(number)));
+                          QStringLiteral("preset %1 \"%2\" entered")
+                              .arg(QString::number(number), m_presets[number].description()));
 }
 
 HubReply HubState::presetFile(const HubRequest& request)
@@ -209,9 +210,7 @@ HubReply HubState::presetFile(const HubRequest& request)
         return HubReply::error(400, QStringLiteral("no preset file"));
     }
     m_presets[request.presetNumber].files.insert(request.storage, request.body);
-    return HubReply::json(200, accepted(),
-                          QStringLiteral("preset %1 got file %2")
-                              .arg(QString::number(request.presetNumber), request.storage));
+    return HubReply::json(200, accepted());
 }
 
 HubReply HubState::recall(const HubRequest& request)
@@ -235,7 +234,7 @@ HubReply HubState::invalidate(const HubRequest& request)
     }
     m_tokens.revoke(token);
     return HubReply::json(200, {{QStringLiteral("status"), QStringLiteral("invalid")}},
-                          QStringLiteral("logged out"));
+                          QStringLiteral("logged out, holds %1 presets").arg(m_presets.size()));
 }
 
 HubReply HubState::identification(const HubRequest& /*request*/)

@@ -84,6 +84,9 @@ void SimulatedDevice::record(const JournalEntry& entry)
     for (const QString& line : reportLines(recorded)) {
         Q_EMIT differenceFound(address(), line);
     }
+    if (!recorded.differences.isEmpty()) {
+        Q_EMIT changed(address());
+    }
 }
 
 void SimulatedDevice::goDeaf(int ms)

@@ -81,7 +81,9 @@ ReplyPlan SimulatedHub::answerRequest(HubRequest request, const QString& reached
 HubReply SimulatedHub::carryOut(const HubRequest& request, const QList<Fault>& faults)
 {
     if (preventsAction(faults)) {
-        return HubReply::error(500, QStringLiteral("out of order"));
+        HubReply refusal = HubReply::error(500, QStringLiteral("out of order"));
+        refusal.note.clear();
+        return refusal;
     }
     HubReply reply = m_state.handle(request);
     if (request.exchange == Exchange::Recall && reply.status == 200) {
@@ -99,7 +101,7 @@ void SimulatedHub::report(const HubRequest& request, const HubReply& reply,
                        QStringLiteral("%1: fault %2").arg(name, faultKindName(fault.kind)));
     }
     if (!reply.note.isEmpty()) {
-        Q_EMIT noticed(address(), reply.note);
+        Q_EMIT noticed(address(), redacted(reply.note.toUtf8()));
     }
     Q_EMIT changed(address());
     Q_EMIT requestHandled(address(), name);

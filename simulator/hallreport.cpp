@@ -1,0 +1,82 @@
+#include "hallreport.h"
+
+#include <QStringList>
+#include <array>
+
+namespace {
+
+constexpr std::array<int, 5> widths = {17, 19, 10, 9, 18};
+
+/// A line of columns; the last cell runs on.
+QString row(const QStringList& cells)
+{
+    QString line = QStringLiteral(" ");
+    for (qsizetype column = 0; column < cells.size(); ++column) {
+        line += QLatin1Char(' ');
+        const auto index = static_cast<size_t>(column);
+        line += index < widths.size() ? cells.at(column).leftJustified(widths.at(index))
+                                      : cells.at(column);
+    }
+    return line.trimmed().prepend(QStringLiteral("  ")) + QLatin1Char('\n');
+}
+
+QStringList cells(const DeviceDescription& device)
+{
+    return {device.address, device.mac, device.model, device.version, device.label};
+}
+
+QString remark(const HubDescription& hub)
+{
+    const QString password =
+        hub.password ? QStringLiteral("has a password") : QStringLiteral("has no password yet");
+    return hub.secondAddress.isEmpty()
+               ? password
+               : password +
+                     QStringLiteral(", also at %1 (%2)").arg(hub.secondAddress, hub.secondMac);
+}
+
+qsizetype fileCount(const SimulatedHub& hub)
+{
+    qsizetype count = 0;
+    for (const StoredPreset& preset : hub.presets()) {
+        count += preset.files.size();
+    }
+    return count;
+}
+
+QString hubLine(const SimulatedHub& hub)
+{
+    return QStringLiteral("  %1 %2: %3 presets, %4 files, preset %5 recalled\n")
+        .arg(hub.address(), hub.description().label, QString::number(hub.presets().size()),
+             QString::number(fileCount(hub)), QString::number(hub.recalledPreset()));
+}
+
+} // namespace
+
+QString hallTable(const HallDescription& hall)
+{
+    QString table = row({QStringLiteral("Address"), QStringLiteral("MAC"), QStringLiteral("Model"),
+                         QStringLiteral("Version"), QStringLiteral("Label"), QString()});
+    for (const HubDescription& hub : hall.hubs) {
+        table += row(cells(hub) << remark(hub));
+    }
+    for (const DeviceDescription& device : hall.peripherals) {
+        table += row(cells(device));
+    }
+    return table;
+}
+
+QString hallSummary(const Hall& hall)
+{
+    QString summary;
+    for (const SimulatedHub* hub : hall.hubs()) {
+        summary += hubLine(*hub);
+    }
+    const QStringList differences = hall.differences();
+    summary += differences.isEmpty()
+                   ? QStringLiteral("Every message was as prescribed.\n")
+                   : QStringLiteral("%1 messages or lines were not as prescribed:\n  %2\n")
+                         .arg(QString::number(differences.size()),
+                              differences.join(QStringLiteral("\n  ")));
+    return summary;
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "hall.h"
+
+#include <QString>
+
+/// The devices of a hall as a table to read, one line each.
+QString hallTable(const HallDescription& hall);
+
+/// What each hub holds in the end, one line each, and how many differences were found.
+QString hallSummary(const Hall& hall);
