@@ -202,7 +202,7 @@ std::optional<Fault> faultFromJson(const QJsonObject& object, const QString& whe
     Fault fault;
     FaultTexts texts;
     texts.device = fields.text(QStringLiteral("device"), any);
-    texts.exchange = fields.text(QStringLiteral("at"), any);
+    texts.exchange = valueText(fields.value(QStringLiteral("at"))).value_or(any);
     texts.kind = fields.text(QStringLiteral("kind"), QString());
     texts.value = valueText(fields.value(QStringLiteral("value")));
     fault.times = fields.number(QStringLiteral("times"), -1, 1, mostTimes);

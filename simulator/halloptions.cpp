@@ -183,6 +183,9 @@ HallOptionsReading readHallOptions(const QStringList& arguments)
         addFaults(parser, *hall, &reading.error);
     }
     if (hall && reading.error.isEmpty()) {
+        reading.error = hall->problem().value_or(QString());
+    }
+    if (hall && reading.error.isEmpty()) {
         reading.options = HallOptions{*hall, parser.value(QStringLiteral("store"))};
     }
     return reading;
