@@ -3,7 +3,7 @@
 #include "roomcolor.h"
 #include "rowdelegate.h"
 
-#include <QHeaderView>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -66,6 +66,7 @@ RoomGroupList::RoomGroupList(const QStringList& headers, const QList<int>& width
 
 void RoomGroupList::setGroups(const QList<RoomGroup>& groups)
 {
+    const QSignalBlocker blocker(this);
     clear();
     QList<QTreeWidgetItem*> rows;
     rows.reserve(groups.size());

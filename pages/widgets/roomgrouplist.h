@@ -18,8 +18,8 @@ public:
     /// One column per header; `widths` are those of the first columns, in pixels.
     RoomGroupList(const QStringList& headers, const QList<int>& widths, QWidget* parent = nullptr);
 
-    /// Replaces all rows. No row is current afterwards; where one was, itemSelectionChanged() is
-    /// emitted meanwhile, with currentRow() -1.
+    /// Replaces all rows. No row is current afterwards, and itemSelectionChanged() is not emitted:
+    /// meanwhile the rows of before would seem to be selected.
     void setGroups(const QList<RoomGroup>& groups);
 
     /// The current row, from 0; -1 for none.

@@ -6,6 +6,7 @@
 
 #include <QAccessible>
 #include <QFile>
+#include <QHBoxLayout>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -16,7 +17,85 @@ class TestPressButton : public TestCase
 private Q_SLOTS:
     void thePicturesAreCompiledIn_data();
     void thePicturesAreCompiledIn();
+
+    void identifyButtonHandsBackItsAddress();
+    void identifyButtonIsDarkOnlyWhileHeld();
+    void identifyButtonShowsItsIcon();
+    void svgButtonClicks();
+    void svgButtonShowsItsIconAndAGroundWhileHeld();
+    void tesselButtonChecksOnEveryRelease();
+    void tesselButtonPaintsAPlusSignWhileChecked();
+    void setCheckedDoesNotClick();
+    void removeButtonTurnsIntoRevertAndBack();
+    void removeButtonPaintsItsStateItsFrameAndItsText();
+    void setRemovedDoesNotClick();
+    void removeButtonHintsRoomForItsText();
+
+    void aReleaseOutsideCountsAsWell();
+    void everyMouseButtonPresses();
+    void aRightClickOpensNoMenuBelow();
+    void spacePressesAndReleases();
+    void aHeldSpacePressesOnce();
+    void losingTheFocusLetsGoWithoutAClick();
+    void otherKeysGoOn();
+    void aDisabledButtonDoesNothing();
+    void tabReachesItAndShowsTheRing();
+    void theMouseShowsNoRing();
+
+    void assistiveTechnologySeesAButton_data();
+    void assistiveTechnologySeesAButton();
+    void assistiveTechnologyPresses();
+    void assistiveTechnologySeesWhetherALinkBoxIsChecked();
+    void aDisabledButtonOffersNoPress();
+    void theRemoveButtonSaysWhichDeviceItMeans();
 };
+
+namespace {
+
+const QString address = QStringLiteral("192.168.0.7");
+const QColor face(0xCC, 0xCC, 0xCC);
+const QColor red(0xCC, 0x33, 0x33);
+
+QString identifyIcon()
+{
+    return QStringLiteral(":/image/icon_identify_bk.svg");
+}
+
+void show(QWidget& widget)
+{
+    widget.show();
+    widget.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&widget));
+}
+
+QImage picture(QWidget& widget)
+{
+    return widget.grab().toImage();
+}
+
+bool hasColorOtherThan(const QImage& image, const QColor& color)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) != color) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+QAccessibleActionInterface* actionsOf(QWidget* widget)
+{
+    return QAccessible::queryAccessibleInterface(widget)->actionInterface();
+}
+
+QString press()
+{
+    return QAccessibleActionInterface::pressAction();
+}
+
+} // namespace
 
 void TestPressButton::thePicturesAreCompiledIn_data()
 {
@@ -30,6 +109,342 @@ void TestPressButton::thePicturesAreCompiledIn()
 {
     QFETCH(const QString, path);
     QVERIFY(QFile::exists(path));
+}
+
+void TestPressButton::identifyButtonHandsBackItsAddress()
+{
+    IdentifyButton button(address);
+    QCOMPARE(button.size(), QSize(20, 20));
+    QCOMPARE(button.minimumSize(), button.maximumSize());
+    QSignalSpy clicked(&button, SIGNAL(clicked(QString)));
+    QTest::mousePress(&button, Qt::LeftButton);
+    QCOMPARE(clicked.size(), 0);
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    QCOMPARE(clicked.size(), 1);
+    QCOMPARE(clicked.first().first().toString(), address);
+}
+
+void TestPressButton::identifyButtonIsDarkOnlyWhileHeld()
+{
+    IdentifyButton button(address);
+    QCOMPARE(picture(button).pixelColor(0, 0), QColor(Qt::lightGray));
+    QTest::mousePress(&button, Qt::LeftButton);
+    QCOMPARE(picture(button).pixelColor(0, 0), QColor(Qt::darkGray));
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    QCOMPARE(picture(button).pixelColor(0, 0), QColor(Qt::lightGray));
+}
+
+void TestPressButton::identifyButtonShowsItsIcon()
+{
+    IdentifyButton button(address);
+    QVERIFY(hasColorOtherThan(picture(button), QColor(Qt::lightGray)));
+}
+
+void TestPressButton::svgButtonClicks()
+{
+    SvgButton button(QStringLiteral(":/image/icon_edit_24.svg"));
+    QSignalSpy clicked(&button, SIGNAL(clicked()));
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(clicked.size(), 1);
+}
+
+void TestPressButton::svgButtonShowsItsIconAndAGroundWhileHeld()
+{
+    SvgButton button(identifyIcon());
+    const QImage idle = picture(button);
+    QVERIFY(hasColorOtherThan(idle, idle.pixelColor(0, 0)));
+    QTest::mousePress(&button, Qt::LeftButton);
+    QCOMPARE(picture(button).pixelColor(0, 0), QColor(Qt::lightGray));
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    QCOMPARE(picture(button), idle);
+}
+
+void TestPressButton::tesselButtonChecksOnEveryRelease()
+{
+    TesselButton button;
+    QCOMPARE(button.size(), QSize(15, 15));
+    QVERIFY(!button.isChecked());
+    QSignalSpy clicked(&button, SIGNAL(clicked(bool)));
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QVERIFY(button.isChecked());
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QVERIFY(!button.isChecked());
+    QCOMPARE(clicked.size(), 2);
+    QCOMPARE(clicked.first().first().toBool(), true);
+    QCOMPARE(clicked.last().first().toBool(), false);
+}
+
+void TestPressButton::tesselButtonPaintsAPlusSignWhileChecked()
+{
+    TesselButton button;
+    QVERIFY(!hasColorOtherThan(picture(button), face));
+    QTest::mousePress(&button, Qt::LeftButton);
+    QVERIFY(!hasColorOtherThan(picture(button), face.darker(200)));
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    const QImage checked = picture(button);
+    for (int i = 0; i < 15; ++i) {
+        const QColor expected = i >= 2 && i <= 12 ? QColor(Qt::black) : face;
+        QCOMPARE(checked.pixelColor(i, 7), expected);
+        QCOMPARE(checked.pixelColor(7, i), expected);
+    }
+    QCOMPARE(checked.pixelColor(6, 6), face);
+}
+
+void TestPressButton::setCheckedDoesNotClick()
+{
+    TesselButton button;
+    QSignalSpy clicked(&button, SIGNAL(clicked(bool)));
+    button.setChecked(true);
+    QVERIFY(button.isChecked());
+    QCOMPARE(picture(button).pixelColor(7, 7), QColor(Qt::black));
+    QCOMPARE(clicked.size(), 0);
+}
+
+void TestPressButton::removeButtonTurnsIntoRevertAndBack()
+{
+    RemoveButton button;
+    QVERIFY(!button.isRemoved());
+    QSignalSpy clicked(&button, SIGNAL(clicked(bool)));
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QVERIFY(button.isRemoved());
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QVERIFY(!button.isRemoved());
+    QCOMPARE(clicked.size(), 2);
+    QCOMPARE(clicked.first().first().toBool(), true);
+    QCOMPARE(clicked.last().first().toBool(), false);
+}
+
+void TestPressButton::removeButtonPaintsItsStateItsFrameAndItsText()
+{
+    RemoveButton button;
+    button.resize(60, 22);
+    const auto showsGround = [&](const QColor& ground) {
+        const QImage image = picture(button);
+        const QRgb frame = ground.darker(200).rgb();
+        return image.pixel(3, 3) == ground.rgb() && image.pixel(0, 0) == frame &&
+               image.pixel(59, 21) == frame && hasColorOtherThan(image.copy(4, 4, 52, 14), ground);
+    };
+    QVERIFY(showsGround(face));
+    QTest::mousePress(&button, Qt::LeftButton);
+    QVERIFY(showsGround(face.darker(200)));
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    QVERIFY(showsGround(red));
+    QTest::mousePress(&button, Qt::LeftButton);
+    QVERIFY(showsGround(red.darker(200)));
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    QVERIFY(showsGround(face));
+}
+
+void TestPressButton::setRemovedDoesNotClick()
+{
+    RemoveButton button;
+    button.resize(60, 22);
+    QSignalSpy clicked(&button, SIGNAL(clicked(bool)));
+    button.setRemoved(true);
+    QCOMPARE(picture(button).pixelColor(3, 3), red);
+    button.setRemoved(false);
+    QCOMPARE(picture(button).pixelColor(3, 3), face);
+    QCOMPARE(clicked.size(), 0);
+}
+
+void TestPressButton::removeButtonHintsRoomForItsText()
+{
+    const RemoveButton button;
+    QVERIFY(button.sizeHint().width() >
+            button.fontMetrics().horizontalAdvance(QStringLiteral("Remove")));
+    QVERIFY(button.sizeHint().height() > button.fontMetrics().ascent());
+}
+
+void TestPressButton::aReleaseOutsideCountsAsWell()
+{
+    TesselButton button;
+    QSignalSpy clicked(&button, SIGNAL(clicked(bool)));
+    QTest::mousePress(&button, Qt::LeftButton);
+    QTest::mouseRelease(&button, Qt::LeftButton, {}, {100, 100});
+    QCOMPARE(clicked.size(), 1);
+    QVERIFY(!button.isPressed());
+}
+
+void TestPressButton::everyMouseButtonPresses()
+{
+    TesselButton button;
+    QSignalSpy clicked(&button, SIGNAL(clicked(bool)));
+    QTest::mouseClick(&button, Qt::RightButton);
+    QTest::mouseClick(&button, Qt::MiddleButton);
+    QCOMPARE(clicked.size(), 2);
+}
+
+void TestPressButton::aRightClickOpensNoMenuBelow()
+{
+    QWidget window;
+    window.setContextMenuPolicy(Qt::CustomContextMenu);
+    window.resize(100, 100);
+    TesselButton button(&window);
+    QSignalSpy menus(&window, SIGNAL(customContextMenuRequested(QPoint)));
+    QSignalSpy clicked(&button, SIGNAL(clicked(bool)));
+    show(window);
+    QTest::mouseClick(window.windowHandle(), Qt::RightButton, {}, {50, 50});
+    QCOMPARE(menus.size(), 1);
+    QTest::mouseClick(window.windowHandle(), Qt::RightButton, {}, {5, 5});
+    QCOMPARE(menus.size(), 1);
+    QCOMPARE(clicked.size(), 1);
+}
+
+void TestPressButton::spacePressesAndReleases()
+{
+    IdentifyButton button(address);
+    QSignalSpy clicked(&button, SIGNAL(clicked(QString)));
+    QTest::keyPress(&button, Qt::Key_Space);
+    QVERIFY(button.isPressed());
+    QCOMPARE(clicked.size(), 0);
+    QTest::keyRelease(&button, Qt::Key_Space);
+    QVERIFY(!button.isPressed());
+    QCOMPARE(clicked.size(), 1);
+}
+
+void TestPressButton::aHeldSpacePressesOnce()
+{
+    TesselButton button;
+    QSignalSpy clicked(&button, SIGNAL(clicked(bool)));
+    QTest::keyPress(&button, Qt::Key_Space);
+    for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent repeated(type, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+        QCoreApplication::sendEvent(&button, &repeated);
+    }
+    QCOMPARE(clicked.size(), 0);
+    QTest::keyRelease(&button, Qt::Key_Space);
+    QCOMPARE(clicked.size(), 1);
+}
+
+void TestPressButton::losingTheFocusLetsGoWithoutAClick()
+{
+    TesselButton button;
+    show(button);
+    button.setFocus();
+    QSignalSpy clicked(&button, SIGNAL(clicked(bool)));
+    QTest::keyPress(&button, Qt::Key_Space);
+    button.clearFocus();
+    QVERIFY(!button.isPressed());
+    QTest::keyRelease(&button, Qt::Key_Space);
+    QCOMPARE(clicked.size(), 0);
+}
+
+void TestPressButton::otherKeysGoOn()
+{
+    TesselButton button;
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(&button, &event);
+    QVERIFY(!event.isAccepted());
+    QVERIFY(!button.isPressed());
+}
+
+void TestPressButton::aDisabledButtonDoesNothing()
+{
+    QWidget window;
+    window.resize(100, 100);
+    TesselButton button(&window);
+    button.setEnabled(false);
+    show(window);
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, {5, 5});
+    QVERIFY(!button.isChecked());
+    QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
+    QVERIFY(!button.hasFocus());
+}
+
+void TestPressButton::tabReachesItAndShowsTheRing()
+{
+    QWidget window;
+    auto* layout = new QHBoxLayout(&window);
+    auto* first = new TesselButton(&window);
+    auto* second = new TesselButton(&window);
+    layout->addWidget(first);
+    layout->addWidget(second);
+    show(window);
+    first->setFocus(Qt::OtherFocusReason);
+    QVERIFY(!hasColorOtherThan(picture(*second), face));
+    QTest::keyClick(first, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), second);
+    QCOMPARE(picture(*second).pixelColor(0, 0), QColor(Qt::black));
+    QCOMPARE(picture(*second).pixelColor(1, 1), QColor(Qt::white));
+    QVERIFY(!hasColorOtherThan(picture(*first), face));
+}
+
+void TestPressButton::theMouseShowsNoRing()
+{
+    TesselButton button;
+    show(button);
+    button.clearFocus();
+    QTest::mouseClick(button.windowHandle(), Qt::LeftButton, {}, {5, 5});
+    QVERIFY(button.hasFocus());
+    QCOMPARE(picture(button).pixelColor(0, 0), face);
+    QTest::keyClick(&button, Qt::Key_Space);
+    QCOMPARE(picture(button).pixelColor(0, 0), QColor(Qt::black));
+}
+
+void TestPressButton::assistiveTechnologySeesAButton_data()
+{
+    QTest::addColumn<std::shared_ptr<PressButton>>("button");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("identify") << std::shared_ptr<PressButton>(new IdentifyButton(address))
+                              << QStringLiteral("Identify 192.168.0.7");
+    QTest::newRow("link box") << std::shared_ptr<PressButton>(new TesselButton) << QString();
+    QTest::newRow("icon") << std::shared_ptr<PressButton>(new SvgButton(identifyIcon()))
+                          << QString();
+    QTest::newRow("remove") << std::shared_ptr<PressButton>(new RemoveButton)
+                            << QStringLiteral("Remove");
+}
+
+void TestPressButton::assistiveTechnologySeesAButton()
+{
+    QFETCH(const std::shared_ptr<PressButton>, button);
+    QFETCH(const QString, name);
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(button.get());
+    QCOMPARE(interface->role(), QAccessible::Button);
+    QCOMPARE(interface->text(QAccessible::Name), name);
+    QVERIFY(actionsOf(button.get())->actionNames().contains(press()));
+    QCOMPARE(actionsOf(button.get())->keyBindingsForAction(press()),
+             QStringList({QStringLiteral("Space")}));
+}
+
+void TestPressButton::assistiveTechnologyPresses()
+{
+    IdentifyButton button(address);
+    QSignalSpy clicked(&button, SIGNAL(clicked(QString)));
+    actionsOf(&button)->doAction(press());
+    QCOMPARE(clicked.size(), 1);
+    QVERIFY(!button.isPressed());
+}
+
+void TestPressButton::assistiveTechnologySeesWhetherALinkBoxIsChecked()
+{
+    TesselButton button;
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&button);
+    QVERIFY(interface->state().checkable);
+    QVERIFY(!interface->state().checked);
+    actionsOf(&button)->doAction(press());
+    QVERIFY(interface->state().checked);
+    IdentifyButton other(address);
+    QVERIFY(!QAccessible::queryAccessibleInterface(&other)->state().checkable);
+}
+
+void TestPressButton::aDisabledButtonOffersNoPress()
+{
+    TesselButton button;
+    button.setEnabled(false);
+    QVERIFY(!actionsOf(&button)->actionNames().contains(press()));
+    actionsOf(&button)->doAction(press());
+    QVERIFY(!button.isChecked());
+}
+
+void TestPressButton::theRemoveButtonSaysWhichDeviceItMeans()
+{
+    RemoveButton button;
+    button.setDevice(QStringLiteral("Hub-A"));
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&button);
+    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Remove Hub-A"));
+    QVERIFY(!button.toolTip().isEmpty());
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Revert Hub-A"));
 }
 
 TESSEL_TEST_MAIN(TestPressButton)
