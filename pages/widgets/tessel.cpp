@@ -313,8 +313,11 @@ int Tessel::roomInDirection(int key) const
     int shortest = std::numeric_limits<int>::max();
     for (auto room = m_rooms.begin(); room != m_rooms.end(); ++room) {
         const QPoint to = room->label.center();
-        const int distance = (to - from).manhattanLength();
-        if (distanceAlong(key, from, to) > 0 && distance < shortest) {
+        const int along = distanceAlong(key, from, to);
+        // What lies aside counts double: so a room straight ahead wins over a closer one at an
+        // angle, and every room can be reached from every other.
+        const int distance = 2 * (to - from).manhattanLength() - along;
+        if (along > 0 && distance < shortest) {
             nearest = room.key();
             shortest = distance;
         }
