@@ -23,11 +23,15 @@ bool FocusMark::isShown(const QWidget* widget) const
     return m_wanted && widget->hasFocus();
 }
 
+void fillFrame(QPainter& painter, const QRect& rect, const QColor& color)
+{
+    for (const QRect& side : QRegion(rect) - QRegion(rect.adjusted(1, 1, -1, -1))) {
+        painter.fillRect(side, color);
+    }
+}
+
 void drawFocusRing(QPainter& painter, const QRect& rect)
 {
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(Qt::black);
-    painter.drawRect(rect.adjusted(0, 0, -1, -1));
-    painter.setPen(Qt::white);
-    painter.drawRect(rect.adjusted(1, 1, -2, -2));
+    fillFrame(painter, rect, Qt::black);
+    fillFrame(painter, rect.adjusted(1, 1, -1, -1), Qt::white);
 }

@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 
+class QColor;
 class QPainter;
 class QRect;
 class QWidget;
@@ -21,6 +22,10 @@ public:
 private:
     bool m_wanted = false;
 };
+
+/// Draws the outermost pixels of `rect`. Filled rather than drawn with a pen, which on a scaled
+/// display would lie half outside.
+void fillFrame(QPainter& painter, const QRect& rect, const QColor& color);
 
 /// Draws a ring just inside `rect`, black outside and white inside, so that it stands out from
 /// light and dark surroundings alike.

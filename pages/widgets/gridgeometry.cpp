@@ -18,3 +18,13 @@ std::optional<QPoint> GridGeometry::cellAt(QPoint position) const
     const QPoint cell(position.x() / pitch(), position.y() / pitch());
     return contains(cell) ? std::optional(cell) : std::nullopt;
 }
+
+QRect GridGeometry::cellsIn(const QRect& area) const
+{
+    if (pitch() <= 0) {
+        return {};
+    }
+    const QRect touched(QPoint(area.left() / pitch(), area.top() / pitch()),
+                        QPoint(area.right() / pitch(), area.bottom() / pitch()));
+    return touched & QRect(0, 0, cellsPerSide, cellsPerSide);
+}

@@ -28,4 +28,7 @@ struct GridGeometry
 
     /// The cell at a position; nothing on a gap line or beyond the grid.
     std::optional<QPoint> cellAt(QPoint position) const;
+
+    /// The cells, as a block of columns and rows, that `area` or the gap before it touches.
+    QRect cellsIn(const QRect& area) const;
 };

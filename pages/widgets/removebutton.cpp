@@ -40,8 +40,7 @@ void RemoveButton::paintFace(QPainter& painter)
     const QColor base = m_removed ? removedColor : faceColor;
     const QColor fill = isPressed() ? base.darker(darkening) : base;
     painter.fillRect(rect(), fill);
-    painter.setPen(fill.darker(darkening));
-    painter.drawRect(0, 0, width() - 1, height() - 1);
+    fillFrame(painter, rect(), fill.darker(darkening));
     painter.setPen(m_removed ? Qt::white : Qt::black);
     painter.drawText(rect(), Qt::AlignCenter, text());
 }

@@ -157,12 +157,14 @@ void RoomEditor::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
     painter.fillRect(event->rect(), gridBackground);
-    paintLines(painter);
-    for (int x = 0; x < GridGeometry::cellsPerSide; ++x) {
-        for (int y = 0; y < GridGeometry::cellsPerSide; ++y) {
-            if (event->region().intersects(m_geometry.cellRect({x, y}))) {
-                paintCell(painter, {x, y});
-            }
+    // Only what is exposed: while drawing that is a single cell per move, without lines.
+    const QRect cells = m_geometry.cellsIn(event->rect());
+    if (!m_geometry.cellRect(cells.topLeft()).contains(event->rect())) {
+        paintLines(painter, cells);
+    }
+    for (int x = cells.left(); x <= cells.right(); ++x) {
+        for (int y = cells.top(); y <= cells.bottom(); ++y) {
+            paintCell(painter, {x, y});
         }
     }
     if (m_focusMark.isShown(this)) {
@@ -305,21 +307,22 @@ void RoomEditor::updateCell(QPoint cell)
     update(m_geometry.cellRect(cell));
 }
 
-void RoomEditor::paintLines(QPainter& painter) const
+/// Draws the lines around the given cells.
+void RoomEditor::paintLines(QPainter& painter, const QRect& cells) const
 {
     painter.setPen(
         QPen(QBrush(Qt::black), m_geometry.gap, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    for (int i = 0; i <= GridGeometry::cellsPerSide; ++i) {
+    for (int i = cells.left(); i <= cells.right() + 1; ++i) {
         const int x = m_geometry.pitch() * i + m_geometry.gap / 2;
         painter.drawLine(x, 0, x, height());
     }
-    for (int i = 0; i <= GridGeometry::cellsPerSide; ++i) {
+    for (int i = cells.top(); i <= cells.bottom() + 1; ++i) {
         const int y = m_geometry.pitch() * i + m_geometry.gap / 2;
         painter.drawLine(0, y, width(), y);
     }
 }
 
-void RoomEditor::paintCell(QPainter& painter, QPoint cell) const
+void RoomEditor::paintCell(QPainter& painter, QPoint cell)
 {
     const int room = m_grid.at(cell);
     if (room == 0) {
@@ -327,6 +330,14 @@ void RoomEditor::paintCell(QPainter& painter, QPoint cell) const
     }
     const QRect square = m_geometry.cellRect(cell);
     painter.fillRect(square, roomColor(room, Qt::white));
+    // Laid out once per number: setting the text of 64 cells costs more than all else here.
+    QStaticText& text = m_numbers[room];
+    if (text.text().isEmpty()) {
+        text.setTextFormat(Qt::PlainText);
+        text.setText(QString::number(room));
+        text.prepare(QTransform(), font());
+    }
     painter.setPen(QPen(Qt::white, 1));
-    painter.drawText(square, Qt::AlignCenter, QString::number(room));
+    const QPointF middle = QRectF(QPointF(), text.size()).center();
+    painter.drawStaticText(QRectF(square).center() - middle, text);
 }

@@ -4,6 +4,8 @@
 #include "gridgeometry.h"
 #include "roomgrid.h"
 
+#include <QHash>
+#include <QStaticText>
 #include <QWidget>
 
 /// The 8 x 8 grid on which the rooms of the hall are drawn; read-only it is a picture of them.
@@ -69,14 +71,15 @@ private:
     void describeCursor();
 
     void updateCell(QPoint cell);
-    void paintLines(QPainter& painter) const;
-    void paintCell(QPainter& painter, QPoint cell) const;
+    void paintLines(QPainter& painter, const QRect& cells) const;
+    void paintCell(QPainter& painter, QPoint cell);
 
     GridGeometry m_geometry;
     bool m_readOnly;
     RoomGrid m_grid;
-    QPoint m_pressPosition; ///< noPosition while no press is pending
-    int m_currentRoom = 0;  ///< the room that the gesture draws; 0 for none
+    QHash<int, QStaticText> m_numbers; ///< laid out, per room
+    QPoint m_pressPosition;            ///< noPosition while no press is pending
+    int m_currentRoom = 0;             ///< the room that the gesture draws; 0 for none
     bool m_dragging = false;
     bool m_modified = false;
     bool m_keyStroke = false;

@@ -16,7 +16,9 @@ QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInde
 void RowDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                        const QModelIndex& /*index*/) const
 {
-    QRect place(QPoint(), option.rect.size().boundedTo(editor->maximumSize()));
+    // One pixel of air keeps the widgets of neighbouring rows apart.
+    const QSize cell = option.rect.size() - QSize(0, 2);
+    QRect place(QPoint(), cell.boundedTo(editor->maximumSize()));
     place.moveCenter(option.rect.center());
     editor->setGeometry(place);
 }

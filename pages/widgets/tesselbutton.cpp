@@ -37,9 +37,8 @@ void TesselButton::paintFace(QPainter& painter)
     if (m_checked) {
         const QRect sign = rect().adjusted(signMargin, signMargin, -signMargin, -signMargin);
         const QPoint center = rect().center();
-        painter.setPen(Qt::black);
-        painter.drawLine(sign.left(), center.y(), sign.right(), center.y());
-        painter.drawLine(center.x(), sign.top(), center.x(), sign.bottom());
+        painter.fillRect(sign.left(), center.y(), sign.width(), 1, Qt::black);
+        painter.fillRect(center.x(), sign.top(), 1, sign.height(), Qt::black);
     }
 }
 
