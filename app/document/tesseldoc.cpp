@@ -5,6 +5,11 @@
 #include "datakind.h"
 #include "deviceidentify.h"
 #include "kindoperations.h"
+#include "missingdevices.h"
+#include "resumefile.h"
+#include "resumexmlreader.h"
+#include "resumexmlwriter.h"
+#include "workrestore.h"
 
 #include <QCoreApplication>
 
@@ -72,12 +77,23 @@ bool TesselDoc::getDataList(int kind, const QVariantMap& selector, QList<QVarian
     return getList != nullptr && getList(m_data, selector, list);
 }
 
-bool TesselDoc::saveResume(const QString& /*path*/)
+bool TesselDoc::saveResume(const QString& path)
 {
-    return false;
+    const ResumeFile content{writeResumeXml(gatherWork(m_data)), m_data.scenes};
+    return writeResumeFile(path, packResumeFile(content));
 }
 
-bool TesselDoc::loadResume(const QString& /*path*/)
+bool TesselDoc::loadResume(const QString& path)
 {
-    return false;
+    const std::optional<QByteArray> bytes = readResumeFile(path);
+    const std::optional<ResumeFile> content = bytes ? unpackResumeFile(*bytes) : std::nullopt;
+    const std::optional<SavedWork> work = content ? readResumeXml(content->xml) : std::nullopt;
+    if (!work) {
+        return false;
+    }
+    const RestoreOutcome outcome = restoreWork(m_data, *work, content->scenes);
+    if (!outcome.missing.isEmpty()) {
+        warnOfMissingDevices(outcome.missing);
+    }
+    return outcome.isComplete;
 }

@@ -1,0 +1,143 @@
+#include "workrestore.h"
+
+#include "documentdata.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+SavedDevice saved(const DeviceData& device)
+{
+    return {device.label,     device.ipAddress,  device.macAddress,
+            device.modelName, device.roomNumber, device.labelModified};
+}
+
+/// Devices get back what the installer gave them; returns those that are not there and would be
+/// missed. One that was in no room is forgotten.
+QList<SavedDevice> restoreDevices(DocumentData& doc, const QList<SavedDevice>& devices)
+{
+    QList<SavedDevice> missing;
+    for (const SavedDevice& was : devices) {
+        DeviceData* device = doc.devices.find(was.ipAddress, was.macAddress, was.modelName);
+        if (device == nullptr) {
+            if (was.roomNumber != 0) {
+                missing.append(was);
+            }
+            continue;
+        }
+        device->roomNumber = was.roomNumber;
+        if (was.labelModified) {
+            device->label = was.label;
+            device->labelModified = true;
+        }
+    }
+    return missing;
+}
+
+template <typename Record, typename KeyOf>
+QList<Record> withoutRepetitions(const QList<Record>& records, KeyOf keyOf)
+{
+    QSet<std::decay_t<decltype(keyOf(records.first()))>> seen;
+    QList<Record> kept;
+    for (const Record& record : records) {
+        const auto key = keyOf(record);
+        if (!seen.contains(key)) {
+            seen.insert(key);
+            kept.append(record);
+        }
+    }
+    return kept;
+}
+
+/// Puts one section into the document; false when devices are missing.
+struct SectionRestorer
+{
+    DocumentData& doc;
+    QList<SavedDevice>& missing;
+
+    bool operator()(const QList<SavedDevice>& devices) const
+    {
+        missing = restoreDevices(doc, devices);
+        return missing.isEmpty();
+    }
+    bool operator()(const QList<RoomInfo>& rooms) const
+    {
+        doc.rooms = withoutRepetitions(rooms, [](const RoomInfo& room) { return room.number; });
+        return true;
+    }
+    bool operator()(const QList<SceneInfo>& scenes) const
+    {
+        doc.scenes =
+            withoutRepetitions(scenes, [](const SceneInfo& scene) { return scene.number; });
+        return true;
+    }
+    bool operator()(const QList<DeviceSetInfo>& records) const
+    {
+        doc.deviceSets.clear();
+        for (const DeviceSetInfo& record : records) {
+            doc.deviceSets.append(record);
+        }
+        return true;
+    }
+    bool operator()(const QList<PresetInfo>& presets) const
+    {
+        doc.presets = withoutRepetitions(presets, [](const PresetInfo& preset) {
+            return std::pair(preset.deviceSetNumber, preset.sceneNumber);
+        });
+        return true;
+    }
+    bool operator()(QSize windowSize) const
+    {
+        doc.windowSize = windowSize;
+        return true;
+    }
+};
+
+void restorePictures(QList<SceneInfo>& scenes, const QList<SceneInfo>& pictures)
+{
+    for (const SceneInfo& picture : pictures) {
+        const auto scene =
+            std::find_if(scenes.begin(), scenes.end(), [&](const SceneInfo& candidate) {
+                return candidate.number == picture.number &&
+                       candidate.roomGroup == picture.roomGroup;
+            });
+        if (scene != scenes.end()) {
+            scene->thumbnail = picture.thumbnail;
+        }
+    }
+}
+
+} // namespace
+
+SavedWork gatherWork(const DocumentData& doc)
+{
+    QList<SavedDevice> devices;
+    devices.reserve(doc.devices.size());
+    for (const DeviceData& device : doc.devices.all()) {
+        devices.append(saved(device));
+    }
+    SavedWork work;
+    work.pageIndex = doc.pageIndex;
+    work.sections = {devices,     doc.rooms,     doc.scenes, doc.deviceSets.all(),
+                     doc.presets, doc.windowSize};
+    return work;
+}
+
+RestoreOutcome restoreWork(DocumentData& doc, const SavedWork& work,
+                           const QList<SceneInfo>& pictures)
+{
+    RestoreOutcome outcome;
+    doc.pageIndex = work.pageIndex;
+    for (const SavedSection& section : work.sections) {
+        if (!std::visit(SectionRestorer{doc, outcome.missing}, section)) {
+            return outcome;
+        }
+    }
+    if (!work.hasForeignElement) {
+        restorePictures(doc.scenes, pictures);
+        outcome.isComplete = true;
+    }
+    return outcome;
+}
