@@ -45,7 +45,7 @@ void HttpReadWrite::tcpConnected()
 void HttpReadWrite::tcpReadyRead()
 {
     m_reader.feed(m_socket->readAll());
-    while (const auto reply = m_reader.takeReply()) {
+    if (const auto reply = m_reader.takeReply()) {
         evaluate(*reply);
     }
 }

@@ -1,0 +1,6 @@
+#include "installpage.h"
+
+void InstallPage::identifyButtonClicked(const QString& ipAddress)
+{
+    identified.append(ipAddress);
+}
