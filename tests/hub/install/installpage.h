@@ -15,4 +15,7 @@ public:
 
 public Q_SLOTS:
     void identifyButtonClicked(const QString& ipAddress);
+    /// Starts the transfers once every sender of the page has been answered for. A test connects
+    /// it where it wants that.
+    void senderLogin();
 };
