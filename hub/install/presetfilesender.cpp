@@ -4,6 +4,7 @@
 #include "httprequest.h"
 #include "initialpassworddialog.h"
 #include "logindialog.h"
+#include "replyreader.h"
 
 #include <QDebug>
 #include <QTcpSocket>
@@ -28,6 +29,7 @@ PresetFileSender::PresetFileSender(const QString& ipAddress, const QString& host
     , m_hostName(hostName)
     , m_page(parent)
     , m_run(ipAddress, doc)
+    , m_reader(std::make_unique<ReplyReader>())
 {
 }
 
@@ -103,8 +105,8 @@ void PresetFileSender::tcpReadyRead()
     if (m_state != State::AwaitingReply) {
         return;
     }
-    m_reader.feed(bytes);
-    if (const auto reply = m_reader.takeReply()) {
+    m_reader->feed(bytes);
+    if (const auto reply = m_reader->takeReply()) {
         evaluate(*reply);
     }
 }
@@ -172,7 +174,7 @@ void PresetFileSender::send()
     }
     m_state = State::AwaitingReply;
     // What arrived before the question is no answer to it.
-    m_reader.reset();
+    m_reader->reset();
     connectToHub();
     m_socket->write(request->toUtf8());
 }

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "installrun.h"
-#include "replyreader.h"
 
 #include <QBasicTimer>
 #include <QObject>
 #include <QPointer>
+
+#include <memory>
 
 class HubDialog;
 class IDocAccessor;
@@ -13,6 +14,7 @@ class InitialPasswordDialog;
 class LoginDialog;
 class QTcpSocket;
 class QWidget;
+class ReplyReader;
 
 /// Installs the wizard's presets on one hub.
 ///
@@ -108,7 +110,7 @@ private:
     bool m_loggedIn = false;
     bool m_loginCancelled = false;
     QTcpSocket* m_socket = nullptr;
-    ReplyReader m_reader;
+    std::unique_ptr<ReplyReader> m_reader;
     QBasicTimer m_ticks;
     int m_secondsLeft = 0;
     QPointer<InitialPasswordDialog> m_initialPasswordDialog; ///< made on first need

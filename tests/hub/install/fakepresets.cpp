@@ -3,9 +3,23 @@
 #include "datakey.h"
 #include "datakind.h"
 
+namespace {
+
+constexpr int peripheralCount = 24;
+
+} // namespace
+
 QByteArray FakePresets::hubFile(int presetNumber)
 {
-    return "<hub preset=\"" + QByteArray::number(presetNumber) + "\"/>\n";
+    QByteArray file = "<provisioning>\n <config";
+    for (int i = 1; i <= peripheralCount; ++i) {
+        file += " peripheral.mac-addr" + QByteArray::number(i) + "=\"00:00:00:00:00:00\"";
+    }
+    for (int i = 1; i <= peripheralCount; ++i) {
+        file += " peripheral.position" + QByteArray::number(i) + "=\"1\"";
+    }
+    return file + " sys.systemname=\"Preset " + QByteArray::number(presetNumber) +
+           "\" sys.systemname-mode=\"0\"/>\n</provisioning>\n";
 }
 
 QString FakePresets::macOf(const QString& ipAddress)

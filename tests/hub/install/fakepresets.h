@@ -13,7 +13,7 @@ public:
     QHash<int, QStringList> devices;             ///< addresses placed with the hub, by preset
     QHash<QString, QString> deviceFiles;         ///< by address; the MAC is made of the address
     int unreadableKind = 0;                      ///< getData of this kind fails
-    static QByteArray hubFile(int presetNumber); ///< what the document holds for the hub
+    static QByteArray hubFile(int presetNumber); ///< the hub's file, one for each preset
     static QString macOf(const QString& ipAddress);
 
     bool setData(int kind, const QVariantMap& data) override;
