@@ -194,6 +194,8 @@ void TestDeviceSetKinds::firstRecordOfALayoutIsFoundWhateverItsSet()
     QCOMPARE(records.firstInLayout(2, first)->deviceSetNumber, 1);
     QVERIFY(records.firstInLayout(3, first) == nullptr);
     QVERIFY(records.firstInLayout(1, second) == nullptr);
+    records.clear();
+    QVERIFY(records.firstInLayout(1, first) == nullptr);
 }
 
 TESSEL_TEST_MAIN(TestDeviceSetKinds)
