@@ -1,10 +1,5 @@
 #include "gridgeometry.h"
 
-bool GridGeometry::contains(QPoint cell)
-{
-    return QRect(0, 0, cellsPerSide, cellsPerSide).contains(cell);
-}
-
 QRect GridGeometry::cellRect(QPoint cell) const
 {
     return {pitch() * cell.x() + gap, pitch() * cell.y() + gap, cellSize, cellSize};

@@ -12,7 +12,10 @@ struct GridGeometry
     static constexpr int cellsPerSide = 8;
 
     /// Whether a cell lies on the grid.
-    static bool contains(QPoint cell);
+    static bool contains(QPoint cell)
+    {
+        return cell.x() >= 0 && cell.x() < cellsPerSide && cell.y() >= 0 && cell.y() < cellsPerSide;
+    }
 
     int gap = 0;      ///< between two cells and around the outer edge
     int cellSize = 0; ///< side of one cell

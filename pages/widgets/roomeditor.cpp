@@ -1,5 +1,6 @@
 #include "roomeditor.h"
 
+#include "arrowkey.h"
 #include "gridcolor.h"
 #include "roomcolor.h"
 
@@ -9,25 +10,7 @@
 
 namespace {
 
-constexpr int maxRooms = 4;
 constexpr QPoint noPosition{-1, -1};
-
-/// The cursor's step for an arrow key; null for any other key.
-QPoint stepOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return {-1, 0};
-    case Qt::Key_Right:
-        return {1, 0};
-    case Qt::Key_Up:
-        return {0, -1};
-    case Qt::Key_Down:
-        return {0, 1};
-    default:
-        return {};
-    }
-}
 
 /// The numbers stay inside cells that are lower than a line of text.
 QFont fittingFont(QFont font, int cellSize)
@@ -57,18 +40,14 @@ RoomEditor::RoomEditor(QWidget* parent, int gap, int cellSize, bool readOnly)
 
 void RoomEditor::setRoom(int room, const QList<QPoint>& cells)
 {
-    for (const QPoint cell : cells) {
-        m_grid.set(cell, room);
-    }
-    m_modified = false;
+    m_drawing.setRoom(room, cells);
     update();
     Q_EMIT roomCountChanged(roomCount());
 }
 
 void RoomEditor::clear()
 {
-    m_grid.clear();
-    m_currentRoom = 0;
+    m_drawing.clear();
     update();
     Q_EMIT roomCountChanged(0);
 }
@@ -86,7 +65,7 @@ void RoomEditor::mousePressEvent(QMouseEvent* event)
     if (cell) {
         m_cursor = *cell;
     }
-    if (cell && beginGesture(*cell)) {
+    if (cell && m_drawing.begin(*cell)) {
         m_pressPosition = position;
     }
 }
@@ -95,7 +74,9 @@ void RoomEditor::mouseMoveEvent(QMouseEvent* event)
 {
     const std::optional<QPoint> cell = m_geometry.cellAt(event->position().toPoint());
     if (!m_readOnly && cell) {
-        extendStroke(*cell);
+        const RoomGrid before = m_drawing.grid();
+        m_drawing.extend(*cell);
+        showChanges(before);
     }
 }
 
@@ -104,22 +85,23 @@ void RoomEditor::mouseReleaseEvent(QMouseEvent* event)
     if (m_readOnly) {
         return;
     }
-    m_dragging = false;
+    m_drawing.liftStroke();
     const QPoint position = event->position().toPoint();
     const std::optional<QPoint> cell = m_geometry.cellAt(position);
     if (!cell) {
         return;
     }
+    const RoomGrid before = m_drawing.grid();
     if (position == m_pressPosition) {
-        click(*cell);
-    } else {
-        endGesture();
+        m_drawing.click(*cell);
     }
+    endGesture();
+    showChanges(before);
 }
 
 void RoomEditor::keyPressEvent(QKeyEvent* event)
 {
-    const QPoint step = stepOf(event->key());
+    const QPoint step = arrowStep(event->key());
     if (m_readOnly || (step.isNull() && event->key() != Qt::Key_Space)) {
         QWidget::keyPressEvent(event);
         return;
@@ -172,64 +154,13 @@ void RoomEditor::paintEvent(QPaintEvent* event)
     }
 }
 
-/// Decides which room a press on `cell` draws into. False, with nothing changed, where it would
-/// begin a room too many.
-bool RoomEditor::beginGesture(QPoint cell)
+/// Repaints the cells that an edit changed and tells when it changed the number of rooms.
+void RoomEditor::showChanges(const RoomGrid& before)
 {
-    const int held = m_grid.at(cell);
-    if (held == 0 && roomCount() >= maxRooms) {
-        return false;
-    }
-    m_currentRoom = held != 0 ? held : roomCount() + 1;
-    return true;
-}
-
-void RoomEditor::extendStroke(QPoint cell)
-{
-    if (m_currentRoom == 0) {
-        return;
-    }
-    const int before = roomCount();
-    if (!m_dragging) {
-        writeFirstCell(cell);
-        m_dragging = true;
-        m_modified = true;
-    } else if (m_grid.at(cell) == 0 && m_grid.touches(cell, m_currentRoom)) {
-        m_grid.set(cell, m_currentRoom);
-        m_modified = true;
+    for (const QPoint cell : m_drawing.grid().changedCells(before)) {
         updateCell(cell);
     }
-    if (roomCount() != before) {
-        Q_EMIT roomCountChanged(roomCount());
-    }
-}
-
-/// The first cell of a stroke is written whatever it held. Where it was the last one of another
-/// room, the rooms above that one move down, the stroke's own room among them.
-void RoomEditor::writeFirstCell(QPoint cell)
-{
-    const int overwritten = m_grid.at(cell);
-    m_grid.set(cell, m_currentRoom);
-    updateCell(cell);
-    if (overwritten != 0 && m_grid.closeHole(overwritten)) {
-        m_currentRoom -= m_currentRoom > overwritten ? 1 : 0;
-        update();
-    }
-}
-
-void RoomEditor::click(QPoint cell)
-{
-    const int before = roomCount();
-    if (const int held = m_grid.at(cell); held != 0) {
-        m_grid.removeRoom(held);
-        update();
-    } else {
-        m_grid.set(cell, m_currentRoom);
-        updateCell(cell);
-    }
-    m_modified = true;
-    endGesture();
-    if (roomCount() != before) {
+    if (roomCount() != before.highestRoom()) {
         Q_EMIT roomCountChanged(roomCount());
     }
 }
@@ -237,17 +168,21 @@ void RoomEditor::click(QPoint cell)
 void RoomEditor::endGesture()
 {
     m_pressPosition = noPosition;
-    m_currentRoom = 0;
+    m_drawing.end();
 }
 
 void RoomEditor::clickAtCursor()
 {
     endKeyStroke();
-    if (beginGesture(m_cursor)) {
-        m_dragging = false;
-        click(m_cursor);
+    const RoomGrid before = m_drawing.grid();
+    if (m_drawing.begin(m_cursor)) {
+        m_drawing.liftStroke();
+        m_drawing.click(m_cursor);
+        endGesture();
     }
-    setCursorCell(m_cursor);
+    describeCursor();
+    updateCell(m_cursor);
+    showChanges(before);
 }
 
 void RoomEditor::moveCursor(QPoint step, bool stroke)
@@ -267,21 +202,23 @@ void RoomEditor::moveCursor(QPoint step, bool stroke)
 
 void RoomEditor::strokeTo(QPoint cell)
 {
+    const RoomGrid before = m_drawing.grid();
     if (!m_keyStroke) {
         endGesture();
-        m_dragging = false;
+        m_drawing.liftStroke();
         m_keyStroke = true;
-        beginGesture(m_cursor);
-        extendStroke(m_cursor);
+        m_drawing.begin(m_cursor);
+        m_drawing.extend(m_cursor);
     }
-    extendStroke(cell);
+    m_drawing.extend(cell);
+    showChanges(before);
 }
 
 void RoomEditor::endKeyStroke()
 {
     if (m_keyStroke) {
         m_keyStroke = false;
-        m_dragging = false;
+        m_drawing.liftStroke();
         endGesture();
     }
 }
@@ -297,7 +234,7 @@ void RoomEditor::setCursorCell(QPoint cell)
 void RoomEditor::describeCursor()
 {
     const QString place = tr("Column %1, row %2").arg(m_cursor.x() + 1).arg(m_cursor.y() + 1);
-    const int room = m_grid.at(m_cursor);
+    const int room = m_drawing.grid().at(m_cursor);
     setAccessibleDescription(room != 0 ? tr("%1, room %2").arg(place).arg(room)
                                        : tr("%1, empty").arg(place));
 }
@@ -324,7 +261,7 @@ void RoomEditor::paintLines(QPainter& painter, const QRect& cells) const
 
 void RoomEditor::paintCell(QPainter& painter, QPoint cell)
 {
-    const int room = m_grid.at(cell);
+    const int room = m_drawing.grid().at(cell);
     if (room == 0) {
         return;
     }

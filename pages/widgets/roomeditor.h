@@ -2,7 +2,7 @@
 
 #include "focusmark.h"
 #include "gridgeometry.h"
-#include "roomgrid.h"
+#include "roomdrawing.h"
 
 #include <QHash>
 #include <QStaticText>
@@ -30,17 +30,17 @@ public:
     void setRoom(int room, const QList<QPoint>& cells);
 
     /// The cells of a room, column by column, each from top to bottom.
-    QList<QPoint> cellsOf(int room) const { return m_grid.cellsOf(room); }
+    QList<QPoint> cellsOf(int room) const { return m_drawing.grid().cellsOf(room); }
 
     /// The highest room number.
-    int roomCount() const { return m_grid.highestRoom(); }
+    int roomCount() const { return m_drawing.grid().highestRoom(); }
 
     /// Empties the grid; whether the drawing counts as modified stays as it is.
     void clear();
 
     /// Whether anything was drawn or removed since setRoom() or clearModified().
-    bool isModified() const { return m_modified; }
-    void clearModified() { m_modified = false; }
+    bool isModified() const { return m_drawing.isModified(); }
+    void clearModified() { m_drawing.clearModified(); }
 
 Q_SIGNALS:
     /// After an edit that changed the number of rooms; after setRoom() and clear() always.
@@ -57,10 +57,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    bool beginGesture(QPoint cell);
-    void extendStroke(QPoint cell);
-    void writeFirstCell(QPoint cell);
-    void click(QPoint cell);
+    void showChanges(const RoomGrid& before);
     void endGesture();
 
     void clickAtCursor();
@@ -76,12 +73,9 @@ private:
 
     GridGeometry m_geometry;
     bool m_readOnly;
-    RoomGrid m_grid;
+    RoomDrawing m_drawing;
     QHash<int, QStaticText> m_numbers; ///< laid out, per room
     QPoint m_pressPosition;            ///< noPosition while no press is pending
-    int m_currentRoom = 0;             ///< the room that the gesture draws; 0 for none
-    bool m_dragging = false;
-    bool m_modified = false;
     bool m_keyStroke = false;
     QPoint m_cursor;
     FocusMark m_focusMark;

@@ -54,6 +54,19 @@ bool RoomGrid::touches(QPoint cell, int room) const
                        [&](QPoint step) { return at(cell + step) == room; });
 }
 
+QList<QPoint> RoomGrid::changedCells(const RoomGrid& other) const
+{
+    QList<QPoint> cells;
+    for (int x = 0; x < side; ++x) {
+        for (int y = 0; y < side; ++y) {
+            if (at({x, y}) != other.at({x, y})) {
+                cells.append({x, y});
+            }
+        }
+    }
+    return cells;
+}
+
 void RoomGrid::removeRoom(int room)
 {
     for (const QPoint cell : cellsOf(room)) {

@@ -25,6 +25,9 @@ public:
     /// Whether one of the four cells beside `cell` holds `room`.
     bool touches(QPoint cell, int room) const;
 
+    /// The cells that hold something else than in `other`.
+    QList<QPoint> changedCells(const RoomGrid& other) const;
+
     /// Empties the cells of a room and moves the rooms above it down by one.
     void removeRoom(int room);
 

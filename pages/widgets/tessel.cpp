@@ -1,7 +1,9 @@
 #include "tessel.h"
 
+#include "arrowkey.h"
 #include "gridcolor.h"
 #include "roomarea.h"
+#include "roomborder.h"
 #include "roomcolor.h"
 #include "tesselbutton.h"
 
@@ -10,9 +12,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
-
-#include <cstdlib>
-#include <limits>
 
 namespace {
 
@@ -28,23 +27,6 @@ QColor ownColor(int room)
 QRect hotSpot(const QRect& label)
 {
     return {label.center() + QPoint(4, -2), QSize(12, 8)};
-}
-
-/// How far `to` lies from `from` in the direction of an arrow key; not positive elsewhere.
-int distanceAlong(int key, QPoint from, QPoint to)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return from.x() - to.x();
-    case Qt::Key_Right:
-        return to.x() - from.x();
-    case Qt::Key_Up:
-        return from.y() - to.y();
-    case Qt::Key_Down:
-        return to.y() - from.y();
-    default:
-        return 0;
-    }
 }
 
 } // namespace
@@ -75,14 +57,10 @@ void Tessel::createLinkButtons()
 {
     qDeleteAll(m_buttons);
     m_buttons.clear();
-    for (int y = 0; y < GridGeometry::cellsPerSide; ++y) {
-        for (int x = 0; x < GridGeometry::cellsPerSide; ++x) {
-            createLinkButton({x, y}, {1, 0});
-            createLinkButton({x, y}, {0, 1});
-        }
-    }
     QWidget* last = this;
-    for (TesselButton* button : findChildren<TesselButton*>()) {
+    for (const RoomBorder& border : firstBorders(m_grid)) {
+        TesselButton* button = createLinkButton(border);
+        m_buttons.insert(border.rooms, button);
         setTabOrder(last, button);
         last = button;
     }
@@ -156,20 +134,16 @@ void Tessel::contextMenuEvent(QContextMenuEvent* event)
 
 void Tessel::keyPressEvent(QKeyEvent* event)
 {
-    switch (event->key()) {
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        m_focusMark.keyUsed();
-        setCurrentRoom(roomInDirection(event->key()));
-        break;
-    case Qt::Key_Space:
-        m_focusMark.keyUsed();
-        openMenu(m_currentRoom);
-        break;
-    default:
+    const QPoint step = arrowStep(event->key());
+    if (m_readOnly || (step.isNull() && event->key() != Qt::Key_Space)) {
         QWidget::keyPressEvent(event);
+        return;
+    }
+    m_focusMark.keyUsed();
+    if (step.isNull()) {
+        openMenu(m_currentRoom);
+    } else {
+        goToNeighbour(step);
     }
 }
 
@@ -209,32 +183,25 @@ void Tessel::menuToggled(bool checked)
     setLinked(pair, checked);
 }
 
-/// Makes the link box on the border between `cell` and the next one in the direction of `step`,
-/// if two rooms meet there for the first time.
-void Tessel::createLinkButton(QPoint cell, QPoint step)
+TesselButton* Tessel::createLinkButton(const RoomBorder& border)
 {
-    const int here = m_grid.at(cell);
-    const int there = m_grid.at(cell + step);
-    const RoomPair pair = roomPair(here, there);
-    if (here == 0 || there == 0 || here == there || m_buttons.contains(pair)) {
-        return;
-    }
     auto* button = new TesselButton(this);
-    const QPoint corner = m_geometry.pitch() * cell;
+    const QPoint corner = m_geometry.pitch() * border.cell;
     const int cellSize = m_geometry.cellSize;
-    if (step.x() != 0) {
+    if (border.step.x() != 0) {
         button->move(corner.x() + m_geometry.pitch() - button->width() / 2,
                      corner.y() + (cellSize - button->height()) / 2);
     } else {
         button->move(corner.x() + (cellSize - button->width()) / 2,
                      corner.y() + m_geometry.pitch() - button->height() / 2);
     }
-    const QString text = tr("Link room %1 and room %2").arg(pair.first).arg(pair.second);
+    const auto [one, other] = border.rooms;
+    const QString text = tr("Link room %1 and room %2").arg(one).arg(other);
     button->setAccessibleName(text);
     button->setToolTip(text);
     button->show();
-    m_buttons.insert(pair, button);
     connect(button, SIGNAL(clicked(bool)), this, SLOT(buttonClicked(bool)));
+    return button;
 }
 
 void Tessel::setLinked(RoomPair pair, bool linked)
@@ -305,24 +272,13 @@ void Tessel::setCurrentRoom(int room)
     update();
 }
 
-/// The nearest room in the direction of an arrow key; the current one when there is none.
-int Tessel::roomInDirection(int key) const
+void Tessel::goToNeighbour(QPoint step)
 {
-    const QPoint from = m_rooms.value(m_currentRoom).label.center();
-    int nearest = m_currentRoom;
-    int shortest = std::numeric_limits<int>::max();
+    QMap<int, QPoint> places;
     for (auto room = m_rooms.begin(); room != m_rooms.end(); ++room) {
-        const QPoint to = room->label.center();
-        const int along = distanceAlong(key, from, to);
-        // What lies aside counts double: so a room straight ahead wins over a closer one at an
-        // angle, and every room can be reached from every other.
-        const int distance = 2 * (to - from).manhattanLength() - along;
-        if (along > 0 && distance < shortest) {
-            nearest = room.key();
-            shortest = distance;
-        }
+        places.insert(room.key(), room->label.center());
     }
-    return nearest;
+    setCurrentRoom(neighbourPlace(places, m_currentRoom, step));
 }
 
 void Tessel::paintRooms(QPainter& painter) const

@@ -14,6 +14,7 @@
 
 class QMenu;
 class TesselButton;
+struct RoomBorder;
 
 /// The picture of the rooms on which the installer combines them into one layout.
 ///
@@ -77,7 +78,7 @@ private:
         QColor color;
     };
 
-    void createLinkButton(QPoint cell, QPoint step);
+    TesselButton* createLinkButton(const RoomBorder& border);
     void setLinked(RoomPair pair, bool linked);
     void recolor();
 
@@ -86,7 +87,7 @@ private:
     void openMenuAt(int room, QPoint globalPosition);
 
     void setCurrentRoom(int room);
-    int roomInDirection(int key) const;
+    void goToNeighbour(QPoint step);
 
     void paintRooms(QPainter& painter) const;
     void paintLabel(QPainter& painter, int number, const Room& room) const;

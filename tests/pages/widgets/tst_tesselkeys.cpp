@@ -1,0 +1,137 @@
+#include "tesselfixture.h"
+#include "testcase.h"
+
+#include <QAccessible>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+class TestTesselKeys : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void arrowsMoveFromRoomToRoom();
+    void spaceOpensTheMenuOfTheCurrentRoom();
+    void theMenuKeyOpensTheMenuOfTheCurrentRoom();
+    void theCurrentRoomIsOutlinedForTheKeyboardOnly();
+    void tabGoesThroughTheBoxesInReadingOrder();
+    void otherKeysGoOn();
+    void assistiveTechnologyHearsNames();
+};
+
+void TestTesselKeys::arrowsMoveFromRoomToRoom()
+{
+    Picker picker(fourCorners());
+    picker.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&picker));
+    picker.setFocus();
+    QCOMPARE(picker.accessibleDescription(), QStringLiteral("Room 1"));
+    const QList<std::pair<Qt::Key, int>> steps{
+        {Qt::Key_Right, 2}, {Qt::Key_Right, 2}, {Qt::Key_Down, 4}, {Qt::Key_Left, 3},
+        {Qt::Key_Left, 3},  {Qt::Key_Down, 3},  {Qt::Key_Up, 1},   {Qt::Key_Up, 1}};
+    for (const auto& [key, room] : steps) {
+        QTest::keyClick(&picker, key);
+        QCOMPARE(picker.accessibleDescription(), QStringLiteral("Room %1").arg(room));
+    }
+}
+
+void TestTesselKeys::spaceOpensTheMenuOfTheCurrentRoom()
+{
+    Picker picker(inARow(3));
+    picker.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&picker));
+    picker.setFocus();
+    QTest::keyClick(&picker, Qt::Key_Right);
+    QTest::keyPress(&picker, Qt::Key_Space);
+    QCOMPARE(picker.entries(),
+             QStringList({QStringLiteral("Room 2 + 1"), QStringLiteral("Room 2 + 3")}));
+    QMenu* menu = picker.menus().first();
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Return);
+    QCOMPARE(picker.roomGroupText(), QStringLiteral("1/2+3"));
+    QCOMPARE(picker.menus().size(), 0);
+}
+
+void TestTesselKeys::theMenuKeyOpensTheMenuOfTheCurrentRoom()
+{
+    Picker picker(inARow(2));
+    picker.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&picker));
+    picker.setFocus();
+    QTest::keyClick(&picker, Qt::Key_Right);
+    const QPoint center = picker.rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, center, picker.mapToGlobal(center));
+    QCoreApplication::sendEvent(&picker, &event);
+    QCOMPARE(picker.entries(), QStringList({QStringLiteral("Room 2 + 1")}));
+    picker.closeMenus();
+}
+
+void TestTesselKeys::theCurrentRoomIsOutlinedForTheKeyboardOnly()
+{
+    Picker picker(inARow(2));
+    picker.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&picker));
+    const auto edge = [&](int column) {
+        return picker.grab().toImage().pixelColor(grid.cellRect({column, 3}).topLeft() +
+                                                  QPoint(1, 1));
+    };
+    QTest::mouseClick(&picker, Qt::LeftButton, {}, grid.cellRect({0, 3}).center());
+    QCOMPARE(edge(0), roomOwn(1));
+    picker.clearFocus();
+    picker.setFocus(Qt::TabFocusReason);
+    QCOMPARE(edge(0), QColor(Qt::white));
+    QCOMPARE(edge(2), roomOwn(2));
+    QTest::keyClick(&picker, Qt::Key_Right);
+    QCOMPARE(edge(0), roomOwn(1));
+    QCOMPARE(edge(2), QColor(Qt::white));
+    picker.clearFocus();
+    QCOMPARE(edge(2), roomOwn(2));
+}
+
+void TestTesselKeys::tabGoesThroughTheBoxesInReadingOrder()
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* picker = new Picker(fourCorners());
+    auto* after = new QLineEdit(&window);
+    layout->addWidget(picker);
+    layout->addWidget(after);
+    // Filled anew, as on entering the page, when everything else is there already.
+    picker->fill(fourCorners());
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    picker->setFocus();
+    for (const RoomPair& pair : {RoomPair(1, 2), RoomPair(1, 3), RoomPair(2, 4), RoomPair(3, 4)}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), picker->box(pair.first, pair.second));
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), after);
+}
+
+void TestTesselKeys::otherKeysGoOn()
+{
+    Picker picker(inARow(2));
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(&picker, &event);
+    QVERIFY(!event.isAccepted());
+}
+
+void TestTesselKeys::assistiveTechnologyHearsNames()
+{
+    Picker picker(inARow(2));
+    QCOMPARE(QAccessible::queryAccessibleInterface(&picker)->text(QAccessible::Name),
+             QStringLiteral("Room combination"));
+    QVERIFY(!picker.toolTip().isEmpty());
+    QAccessibleInterface* box = QAccessible::queryAccessibleInterface(picker.boxes().first());
+    QCOMPARE(box->role(), QAccessible::Button);
+    QCOMPARE(box->text(QAccessible::Name), QStringLiteral("Link room 1 and room 2"));
+    QVERIFY(!picker.boxes().first()->toolTip().isEmpty());
+    box->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(picker.roomGroupText(), QStringLiteral("1+2"));
+}
+
+TESSEL_TEST_MAIN(TestTesselKeys)
+#include "tst_tesselkeys.moc"
