@@ -1,0 +1,233 @@
+#include "configurestep.h"
+#include "datakey.h"
+#include "datakind.h"
+#include "pagefixtures.h"
+#include "removebutton.h"
+#include "setqueries.h"
+#include "tablefixtures.h"
+#include "testcase.h"
+
+#include <QPushButton>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTest>
+#include <QTreeWidget>
+
+class TestDeviceSet : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void hubsAndPeripheralsAreListedByHostname();
+    void theSummaryCountsWhatIsInTheSet();
+    void limits_data();
+    void limits();
+    void aDeviceHasItsOwnRemovedFlagInEverySetThatContainsItsRoom();
+    void revertingARemovedDeviceRestoresBlackTextsAndTheRemoveLabel();
+    void theStoredOrderIsThatOfFillingWhateverTheTableShows();
+    void storingReturnsSpeakersToTheLeft();
+    void aDeviceHandedOverTwiceIsListedOnce();
+    void theIdentifyButtonMakesTheDeviceIdentifyItself();
+    void removingWorksWithTheKeyboard();
+};
+
+namespace {
+
+const QString network = QStringLiteral("127.51.3");
+constexpr int addressColumn = 3;
+constexpr quint16 textCommandPort = 49280;
+
+QStringList storedAddresses(IDocAccessor& doc)
+{
+    QList<QVariantMap> records;
+    doc.getDataList(DataKind::DeviceSet, {}, records);
+    QStringList addresses;
+    for (const QVariantMap& record : records) {
+        addresses.append(record.value(DataKey::deviceIPAddress()).toString());
+    }
+    return addresses;
+}
+
+} // namespace
+
+void TestDeviceSet::hubsAndPeripheralsAreListedByHostname()
+{
+    ConfigureStep step(network);
+    addTestDevice(step.doc, QStringLiteral("b-mic"), QStringLiteral("PX-DL"), step.address(1), 2);
+    addTestDevice(step.doc, QStringLiteral("a-odd"), QStringLiteral("PX-ODD"), step.address(2), 1);
+    addTestDevice(step.doc, QStringLiteral("hub"), QStringLiteral("PX-HB2"), step.address(3), 1);
+    addTestDevice(step.doc, QStringLiteral("elsewhere"), QStringLiteral("PX-HB"), step.address(4),
+                  3);
+    addTestDevice(step.doc, QStringLiteral("nowhere"), QStringLiteral("PX-HB"), step.address(5), 0);
+    addColouredLayout(step.doc, 1, QStringLiteral("1+2"), Qt::cyan);
+    step.enter();
+    QCOMPARE(columnTexts(*step.hubs(), 0), QStringList{QStringLiteral("hub")});
+    QCOMPARE(columnTexts(*step.peripherals(), 0).join(u' '), QStringLiteral("a-odd b-mic"));
+    QCOMPARE(columnTexts(*step.peripherals(), 2).join(u' '), QStringLiteral("PX-ODD PX-DL"));
+    QCOMPARE(columnTexts(*step.peripherals(), 4).join(u' '), QStringLiteral("1 2"));
+}
+
+void TestDeviceSet::theSummaryCountsWhatIsInTheSet()
+{
+    ConfigureStep step(network);
+    step.place("PX-HB", 1, 1);
+    step.place("PX-DL", 2, 1);
+    step.place("PX-NDE", 1, 1);
+    step.place("LQA4-08S", 2, 1);
+    step.place("PNB-QE7", 1, 1);
+    step.place("PX-ODD", 1, 1);
+    addColouredLayout(step.doc, 1, QStringLiteral("1"), Qt::cyan);
+    step.enter();
+    QCOMPARE(step.counts(), QStringLiteral("1 3 2 1"));
+    press(step.button(2));
+    press(step.button(1));
+    QCOMPARE(step.counts(), QStringLiteral("0 2 2 1"));
+    press(step.button(2));
+    QCOMPARE(step.counts(), QStringLiteral("0 3 2 1"));
+}
+
+void TestDeviceSet::limits_data()
+{
+    QTest::addColumn<int>("hubs");
+    QTest::addColumn<int>("microphones");
+    QTest::addColumn<int>("speakers");
+    QTest::addColumn<int>("controllers");
+    QTest::addColumn<int>("others");
+    QTest::addColumn<bool>("valid");
+
+    QTest::newRow("a group with no hub is valid") << 0 << 1 << 0 << 0 << 0 << true;
+    QTest::newRow("a group with nothing at all is valid") << 0 << 0 << 0 << 0 << 0 << true;
+    QTest::newRow("one hub is valid") << 1 << 0 << 0 << 0 << 0 << true;
+    QTest::newRow("two hubs are red") << 2 << 0 << 0 << 0 << 0 << false;
+    QTest::newRow("16 microphones and speakers are valid") << 1 << 10 << 6 << 0 << 0 << true;
+    QTest::newRow("17 microphones and speakers are red") << 1 << 10 << 7 << 0 << 0 << false;
+    QTest::newRow("16 speakers are valid") << 1 << 0 << 16 << 0 << 0 << true;
+    QTest::newRow("17 microphones are red") << 1 << 17 << 0 << 0 << 0 << false;
+    QTest::newRow("8 controllers are valid") << 1 << 0 << 0 << 8 << 0 << true;
+    QTest::newRow("9 controllers are red") << 1 << 0 << 0 << 9 << 0 << false;
+    QTest::newRow("other models are not counted") << 1 << 16 << 0 << 8 << 20 << true;
+}
+
+void TestDeviceSet::limits()
+{
+    QFETCH(const int, hubs);
+    QFETCH(const int, microphones);
+    QFETCH(const int, speakers);
+    QFETCH(const int, controllers);
+    QFETCH(const int, others);
+    QFETCH(const bool, valid);
+
+    ConfigureStep step(network);
+    step.place("PX-HB", hubs, 1);
+    step.place("PX-BK", microphones, 1);
+    step.place("DSK4M", speakers, 1);
+    step.place("PNB-QE7", controllers, 1);
+    step.place("PX-ODD", others, 1);
+    addColouredLayout(step.doc, 1, QStringLiteral("1"), Qt::cyan);
+    step.enter();
+    QCOMPARE(step.canGoOn(), valid);
+    QCOMPARE(step.isRed(0), !valid);
+    QCOMPARE(step.isBlack(0), valid);
+}
+
+void TestDeviceSet::aDeviceHasItsOwnRemovedFlagInEverySetThatContainsItsRoom()
+{
+    ConfigureStep step(network);
+    step.place("PX-HB", 1, 1);
+    step.place("PX-DL", 1, 2);
+    addColouredLayout(step.doc, 1, QStringLiteral("1+2"), Qt::cyan);
+    addColouredLayout(step.doc, 2, QStringLiteral("1/2"), Qt::yellow);
+    step.enter();
+    press(step.button(2));
+    QVERIFY(step.button(2)->isRemoved());
+    selectGroup(step.page, 2);
+    QVERIFY(!step.button(2)->isRemoved());
+    press(buttonOf(step.page, "nextButton"));
+    QCOMPARE(step.storedRemoval(1, 1, 2), std::optional(true));
+    QCOMPARE(step.storedRemoval(3, 2, 2), std::optional(false));
+    QCOMPARE(step.storedRemoval(2, 2, 2), std::nullopt);
+}
+
+void TestDeviceSet::revertingARemovedDeviceRestoresBlackTextsAndTheRemoveLabel()
+{
+    ConfigureStep step(network);
+    step.place("PX-DL", 1, 1);
+    addColouredLayout(step.doc, 1, QStringLiteral("1"), Qt::cyan);
+    step.enter();
+    press(step.button(1));
+    QVERIFY(allTextsAre(step.row(1), Qt::gray));
+    QCOMPARE(step.button(1)->accessibleName(), QStringLiteral("Revert dev-001"));
+    press(step.button(1));
+    QVERIFY(allTextsAre(step.row(1), Qt::black));
+    QVERIFY(!step.button(1)->isRemoved());
+    QCOMPARE(step.button(1)->accessibleName(), QStringLiteral("Remove dev-001"));
+}
+
+void TestDeviceSet::theStoredOrderIsThatOfFillingWhateverTheTableShows()
+{
+    ConfigureStep step(network);
+    addTestDevice(step.doc, QStringLiteral("z"), QStringLiteral("PX-DL"), step.address(1), 2);
+    addTestDevice(step.doc, QStringLiteral("y"), QStringLiteral("PX-DL"), step.address(2), 1);
+    addTestDevice(step.doc, QStringLiteral("x"), QStringLiteral("PX-HB"), step.address(3), 1);
+    addTestDevice(step.doc, QStringLiteral("w"), QStringLiteral("PX-DL"), step.address(4), 2);
+    addColouredLayout(step.doc, 1, QStringLiteral("1+2"), Qt::cyan);
+    step.enter();
+    step.peripherals()->sortByColumn(addressColumn, Qt::DescendingOrder);
+    press(buttonOf(step.page, "nextButton"));
+    const QStringList filled{step.address(2), step.address(3), step.address(1), step.address(4)};
+    QCOMPARE(storedAddresses(step.doc), filled);
+}
+
+void TestDeviceSet::storingReturnsSpeakersToTheLeft()
+{
+    ConfigureStep step(network);
+    step.place("DSK4M", 1, 1);
+    addColouredLayout(step.doc, 1, QStringLiteral("1"), Qt::cyan);
+    addToDeviceSet(step.doc, 1, 1, step.address(1), false);
+    setSpeakerPosition(step.doc, 1, 1, step.address(1), QStringLiteral("R"));
+    step.enter();
+    press(buttonOf(step.page, "nextButton"));
+    QCOMPARE(deviceSetRecord(step.doc, 1, 1, step.address(1))->speakerPosition,
+             QStringLiteral("L"));
+}
+
+void TestDeviceSet::aDeviceHandedOverTwiceIsListedOnce()
+{
+    ConfigureStep step(network);
+    step.place("PX-HB", 1, 1);
+    addTestDevice(step.doc, QStringLiteral("again"), QStringLiteral("PX-HB"), step.address(1), 1);
+    addTestDevice(step.doc, QStringLiteral("other"), QStringLiteral("PX-DL"), step.address(2), 1);
+    addColouredLayout(step.doc, 1, QStringLiteral("1"), Qt::cyan);
+    step.enter();
+    QCOMPARE(step.hubs()->topLevelItemCount(), 1);
+    QVERIFY(step.canGoOn());
+}
+
+void TestDeviceSet::theIdentifyButtonMakesTheDeviceIdentifyItself()
+{
+    ConfigureStep step(network);
+    QTcpServer device;
+    QVERIFY(device.listen(QHostAddress(step.address(1)), textCommandPort));
+    step.place("PX-DL", 1, 1);
+    addColouredLayout(step.doc, 1, QStringLiteral("1"), Qt::cyan);
+    step.enter();
+    press(step.peripherals()->itemWidget(step.row(1), 1));
+    QTRY_VERIFY(device.hasPendingConnections());
+    QTcpSocket* connection = device.nextPendingConnection();
+    QTRY_COMPARE(connection->bytesAvailable(), qsizetype(sizeof "identify 5"));
+    QCOMPARE(connection->readAll(), QByteArray("identify 5\n"));
+}
+
+void TestDeviceSet::removingWorksWithTheKeyboard()
+{
+    ConfigureStep step(network);
+    step.place("PX-DL", 1, 1);
+    addColouredLayout(step.doc, 1, QStringLiteral("1"), Qt::cyan);
+    step.enter();
+    QTest::keyClick(step.button(1), Qt::Key_Space);
+    QVERIFY(step.button(1)->isRemoved());
+    QVERIFY(allTextsAre(step.row(1), Qt::gray));
+}
+
+TESSEL_TEST_MAIN(TestDeviceSet)
+#include "tst_deviceset.moc"
