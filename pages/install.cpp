@@ -1,0 +1,169 @@
+#include "install.h"
+
+#include "deviceclass.h"
+#include "devicequeries.h"
+#include "devicetable.h"
+#include "presetfilesender.h"
+#include "textlabel.h"
+
+#include <QDebug>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int addressColumn = 2;
+constexpr int statusColumn = 3;
+constexpr int hostNameWidth = 250;
+constexpr int identifyWidth = 25;
+constexpr int gapBelowTexts = 20;
+constexpr int sendSucceeded = 1;
+
+} // namespace
+
+Install::Install(IDocAccessor* doc, QWidget* parent)
+    : QWidget(parent)
+    , m_doc(doc)
+{
+    createWidgets();
+    layOut();
+    connect(m_hubTable, SIGNAL(identifyClicked(QString)), this,
+            SLOT(identifyButtonClicked(QString)));
+}
+
+void Install::identifyButtonClicked(const QString& ip)
+{
+    identifyDevice(*m_doc, ip);
+}
+
+void Install::install()
+{
+    // A status may be what the list is sorted by, so rows can move as soon as one is set.
+    QList<std::pair<QString, QString>> hubs;
+    for (int row = 0; row < m_hubTable->topLevelItemCount(); ++row) {
+        const QTreeWidgetItem* item = m_hubTable->topLevelItem(row);
+        hubs.append({item->text(addressColumn), item->text(0)});
+    }
+    for (const auto& [ip, label] : hubs) {
+        // Set first: a run that cannot even begin reports its failure from within the start.
+        setStatus(ip, tr("Installing..."));
+        startSender(ip, label);
+    }
+}
+
+void Install::startSender(const QString& ip, const QString& label)
+{
+    PresetFileSender*& sender = m_senders[ip];
+    if (sender == nullptr) {
+        sender = new PresetFileSender(ip, label, m_doc, this);
+        connect(sender, SIGNAL(finished(QString, int)), this,
+                SLOT(presetSendFinished(QString, int)));
+        connect(sender, SIGNAL(completedLogin()), this, SLOT(senderLogin()));
+        connect(sender, SIGNAL(cancelledLogin()), this, SLOT(senderLogin()));
+    }
+    sender->start();
+}
+
+bool Install::isBusy() const
+{
+    for (int row = 0; row < m_hubTable->topLevelItemCount(); ++row) {
+        if (status(row) == tr("Installing...")) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Install::isDone() const
+{
+    const int hubs = m_hubTable->topLevelItemCount();
+    for (int row = 0; row < hubs; ++row) {
+        if (status(row) != tr("Done")) {
+            return false;
+        }
+    }
+    return hubs > 0;
+}
+
+void Install::createWidgets()
+{
+    m_hubTable = new DeviceTable({tr("Hostname"), QString(), tr("IP Address"), tr("Status")},
+                                 addressColumn, this);
+    m_hubTable->setObjectName(QStringLiteral("hubList"));
+    m_hubTable->setColumnWidth(0, hostNameWidth);
+    m_hubTable->setColumnWidth(1, identifyWidth);
+    m_hubTable->setSortingEnabled(true);
+}
+
+void Install::layOut()
+{
+    auto* listTitle = new QLabel(tr("PX-HB"), this);
+    listTitle->setBuddy(m_hubTable);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(textLabel(tr("Configure the presets on the PX-HBs."), this));
+    layout->addWidget(
+        textLabel(tr("The password for each PX-HB is required to install the presets."), this));
+    layout->addSpacing(gapBelowTexts);
+    layout->addWidget(listTitle);
+    layout->addWidget(m_hubTable, 1);
+}
+
+void Install::initialise()
+{
+    QList<QStringList> rows;
+    const int devices = deviceCount(*m_doc);
+    for (int index = 0; index < devices; ++index) {
+        const std::optional<DeviceEntry> device = deviceAt(*m_doc, index);
+        if (device && isHub(device->modelName) && device->roomNumber != 0) {
+            const bool running = isRunning(device->ipAddress);
+            rows.append({device->label, QString(), device->ipAddress,
+                         running ? tr("Installing...") : QString()});
+        }
+    }
+    m_hubTable->setRows(rows);
+}
+
+bool Install::isRunning(const QString& ip) const
+{
+    const PresetFileSender* sender = m_senders.value(ip);
+    return sender != nullptr && sender->isRunning();
+}
+
+void Install::presetSendFinished(const QString& ip, int status)
+{
+    const bool succeeded = status == sendSucceeded;
+    if (!succeeded) {
+        qDebug("Error!");
+    }
+    setStatus(ip, succeeded ? tr("Done") : tr("Error"));
+    Q_EMIT statusChanged();
+    // A hub that failed before its log-in was answered must not hold the others back.
+    senderLogin();
+}
+
+void Install::senderLogin()
+{
+    // A log-in that was cancelled has ended the run, like every failure.
+    for (const PresetFileSender* sender : std::as_const(m_senders)) {
+        if (sender->isRunning() && !sender->isLoggedIn()) {
+            return;
+        }
+    }
+    for (PresetFileSender* sender : std::as_const(m_senders)) {
+        sender->sendPresets();
+    }
+}
+
+QString Install::status(int row) const
+{
+    return m_hubTable->topLevelItem(row)->text(statusColumn);
+}
+
+void Install::setStatus(const QString& ip, const QString& text)
+{
+    if (QTreeWidgetItem* row = m_hubTable->rowOf(ip)) {
+        row->setText(statusColumn, text);
+    }
+}

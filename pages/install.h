@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QHash>
+#include <QWidget>
+
+class DeviceTable;
+class IDocAccessor;
+class PresetFileSender;
+class QTreeWidgetItem;
+
+/// Content of the installation step: the hubs that stand in rooms, each with the status of its
+/// installation. All hubs are served at once; none gets files before every hub's log-in has been
+/// answered.
+class Install : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `doc` is not owned and outlives the widget.
+    Install(IDocAccessor* doc, QWidget* parent);
+
+    /// Lists the hubs anew. Installations that are under way go on and show as such.
+    void initialise();
+
+    /// Installs the presets on every listed hub, also on those that are done already.
+    void install();
+
+    /// True while a listed hub is being installed.
+    bool isBusy() const;
+
+    /// True when hubs are listed and all are done.
+    bool isDone() const;
+
+Q_SIGNALS:
+    /// The status of a hub, listed or not, may have changed.
+    void statusChanged();
+
+public Q_SLOTS:
+    /// Makes a device show itself.
+    void identifyButtonClicked(const QString& ip);
+    /// Shows how the installation of the hub at `ip` ended: 1 for success.
+    void presetSendFinished(const QString& ip, int status);
+    /// Starts the transfers once every hub's log-in is answered.
+    void senderLogin();
+
+private:
+    void createWidgets();
+    void layOut();
+    void startSender(const QString& ip, const QString& label);
+    bool isRunning(const QString& ip) const;
+    QString status(int row) const;
+    void setStatus(const QString& ip, const QString& text);
+
+    IDocAccessor* m_doc;
+    DeviceTable* m_hubTable = nullptr;
+    QHash<QString, PresetFileSender*> m_senders; ///< by address; children of this widget
+};

@@ -1,0 +1,81 @@
+#include "pageinstall.h"
+
+#include "install.h"
+#include "ipagecontroller.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+PageInstall::PageInstall(IPageController* controller, IDocAccessor* doc, QWidget* parent)
+    : BasePage(tr("8. Install Presets"), 8, controller, doc, parent)
+    , m_content(new Install(doc, this))
+    , m_backButton(new QPushButton(tr("Back"), this))
+    , m_executeButton(new QPushButton(tr("Execute"), this))
+{
+    m_backButton->setObjectName(QStringLiteral("backButton"));
+    m_executeButton->setObjectName(QStringLiteral("executeButton"));
+    layOut();
+    connect(m_backButton, SIGNAL(clicked()), this, SLOT(backButtonClicked()));
+    connect(m_executeButton, SIGNAL(clicked()), this, SLOT(executeButtonClicked()));
+    connect(m_content, SIGNAL(statusChanged()), this, SLOT(installStatusChanged()));
+}
+
+void PageInstall::layOut()
+{
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_backButton);
+    row->addStretch();
+    row->addWidget(m_executeButton);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_content, 1);
+    layout->addLayout(row);
+}
+
+void PageInstall::enterFrom(int previousPageNumber)
+{
+    if (previousPageNumber < pageNumber()) {
+        load();
+    }
+}
+
+void PageInstall::restoreFromDocument()
+{
+    load();
+}
+
+void PageInstall::load()
+{
+    m_content->initialise();
+    // What was installed before the user went back may differ from what is entered now.
+    m_executeButton->setText(tr("Execute"));
+    installStatusChanged();
+}
+
+void PageInstall::backButtonClicked()
+{
+    controller().back();
+    m_executeButton->setText(tr("Execute"));
+}
+
+void PageInstall::executeButtonClicked()
+{
+    if (m_executeButton->text() == tr("Execute")) {
+        m_content->install();
+        m_executeButton->setEnabled(!m_content->isBusy());
+    } else {
+        controller().next();
+    }
+}
+
+void PageInstall::installStatusChanged()
+{
+    const bool done = m_content->isDone();
+    if (done) {
+        m_executeButton->setText(tr("Next"));
+    }
+    controller().setInstallDone(done);
+    m_executeButton->setEnabled(!m_content->isBusy());
+}

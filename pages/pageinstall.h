@@ -1,0 +1,34 @@
+#pragma once
+
+#include "basepage.h"
+
+class Install;
+class QPushButton;
+
+/// Frame of the installation step: its button installs until every hub is done, and then leads on.
+class PageInstall : public BasePage
+{
+    Q_OBJECT
+
+public:
+    PageInstall(IPageController* controller, IDocAccessor* doc, QWidget* parent);
+
+    void enterFrom(int previousPageNumber) override;
+    void restoreFromDocument() override;
+
+public Q_SLOTS:
+    /// Goes back; running installations go on.
+    void backButtonClicked();
+    /// Starts the installation of every listed hub, or goes on when all are done.
+    void executeButtonClicked();
+    /// Sets the button and tells the wizard whether every listed hub is done.
+    void installStatusChanged();
+
+private:
+    void load();
+    void layOut();
+
+    Install* m_content;
+    QPushButton* m_backButton;
+    QPushButton* m_executeButton;
+};

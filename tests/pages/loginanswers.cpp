@@ -1,0 +1,95 @@
+#include "loginanswers.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
+#include <QTest>
+#include <QTreeWidget>
+
+namespace {
+
+constexpr int lookEveryMs = 5;
+constexpr int longestHoldMs = 4000;
+constexpr int addressColumn = 2;
+
+QDialog* dialogInFront()
+{
+    return qobject_cast<QDialog*>(QApplication::activeModalWidget());
+}
+
+QString hubOf(const QDialog* dialog)
+{
+    const auto* list = dialog->findChild<QTreeWidget*>(QStringLiteral("hubList"));
+    return list ? list->topLevelItem(0)->text(addressColumn) : QString();
+}
+
+void typeInto(QLineEdit* field, const QString& text)
+{
+    field->selectAll();
+    QTest::keyClick(field, Qt::Key_Delete);
+    QTest::keyClicks(field, text);
+}
+
+} // namespace
+
+LoginAnswers::LoginAnswers(const QString& password)
+    : m_password(password)
+{
+    m_timer.start(lookEveryMs, this);
+}
+
+void LoginAnswers::type(const QString& hub, const QStringList& passwords)
+{
+    m_passwords.insert(hub, passwords);
+}
+
+void LoginAnswers::cancel(const QString& hub)
+{
+    m_cancelled.append(hub);
+}
+
+void LoginAnswers::hold(const QString& hub, std::function<bool()> ready, std::function<void()> look)
+{
+    m_heldHub = hub;
+    m_ready = std::move(ready);
+    m_look = std::move(look);
+    m_patience.setRemainingTime(longestHoldMs);
+}
+
+void LoginAnswers::timerEvent(QTimerEvent* /*event*/)
+{
+    QDialog* dialog = dialogInFront();
+    if (dialog && dialog->isVisible() && !isHeld(hubOf(dialog))) {
+        answer(dialog, hubOf(dialog));
+    }
+}
+
+bool LoginAnswers::isHeld(const QString& hub)
+{
+    if (hub != m_heldHub) {
+        return false;
+    }
+    if (!m_ready() && !m_patience.hasExpired()) {
+        return true;
+    }
+    m_heldHub.clear();
+    m_look();
+    // Looking may have gone as far as destroying the dialog.
+    return true;
+}
+
+void LoginAnswers::answer(QDialog* dialog, const QString& hub)
+{
+    m_prompts.append(hub);
+    if (m_cancelled.removeOne(hub)) {
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        return;
+    }
+    QStringList& passwords = m_passwords[hub];
+    const QString password = passwords.isEmpty() ? m_password : passwords.takeFirst();
+    const auto fields = dialog->findChildren<QLineEdit*>();
+    for (QLineEdit* field : fields) {
+        typeInto(field, password);
+    }
+    QTest::keyClick(fields.first(), Qt::Key_Return);
+}
