@@ -46,9 +46,12 @@ qsizetype fileCount(const SimulatedHub& hub)
 
 QString hubLine(const SimulatedHub& hub)
 {
-    return QStringLiteral("  %1 %2: %3 presets, %4 files, preset %5 recalled\n")
+    const QString recalled = hub.recalledPreset() == 0
+                                 ? QStringLiteral("none recalled")
+                                 : QStringLiteral("preset %1 recalled").arg(hub.recalledPreset());
+    return QStringLiteral("  %1 %2: %3 presets, %4 files, %5\n")
         .arg(hub.address(), hub.description().label, QString::number(hub.presets().size()),
-             QString::number(fileCount(hub)), QString::number(hub.recalledPreset()));
+             QString::number(fileCount(hub)), recalled);
 }
 
 } // namespace

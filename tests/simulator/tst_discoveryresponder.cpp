@@ -141,9 +141,9 @@ void TestDiscoveryResponder::hubWithTwoAddressesAnswersFromBoth()
 
 void TestDiscoveryResponder::manyDevicesAnswerWithoutLoss()
 {
-    START_HALL_AND_QUERIER(50, 200);
+    START_HALL_AND_QUERIER(100, 300);
     querier.ask();
-    QTRY_COMPARE(querier.gathered(), qsizetype(250));
+    QTRY_COMPARE(querier.gathered(), qsizetype(400));
 }
 
 void TestDiscoveryResponder::foreignDatagramsAreNotAnswered_data()
