@@ -7,8 +7,9 @@
 
 namespace {
 
-// A receiver's socket keeps about 166 replies that it has not read yet: send fewer, then pause.
-constexpr int mostAtOnce = 100;
+// A receiver's socket keeps 166 to 256 replies that it has not read yet: this pace leaves it time
+// to be busy with something else now and then.
+constexpr int mostAtOnce = 50;
 constexpr int paceMs = 10;
 
 } // namespace

@@ -31,33 +31,40 @@ HallDescription hallOf(int hubs, int peripherals)
     return hall;
 }
 
-/// Asks and gathers the datagrams that come back.
-class Querier
+} // namespace
+
+/// Asks and gathers the datagrams that come back, as they come.
+class Querier : public QObject
 {
+    Q_OBJECT
+
 public:
-    bool bind() { return m_socket.bind(QHostAddress(querierAddress), DiscoveryResponder::port); }
+    bool bind()
+    {
+        connect(&m_socket, SIGNAL(readyRead()), this, SLOT(gather()));
+        return m_socket.bind(QHostAddress(querierAddress), DiscoveryResponder::port);
+    }
 
     void ask(const QByteArray& bytes = query)
     {
         m_socket.writeDatagram(bytes, QHostAddress(listenAddress), DiscoveryResponder::port);
     }
 
-    qsizetype gathered()
+    qsizetype gathered() const { return m_datagrams.size(); }
+    const QList<QNetworkDatagram>& datagrams() const { return m_datagrams; }
+
+private Q_SLOTS:
+    void gather()
     {
         while (m_socket.hasPendingDatagrams()) {
             m_datagrams.append(m_socket.receiveDatagram());
         }
-        return m_datagrams.size();
     }
-
-    const QList<QNetworkDatagram>& datagrams() const { return m_datagrams; }
 
 private:
     QUdpSocket m_socket;
     QList<QNetworkDatagram> m_datagrams;
 };
-
-} // namespace
 
 /// Discovery over real sockets.
 class TestDiscoveryResponder : public TestCase
