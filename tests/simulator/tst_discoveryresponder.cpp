@@ -9,7 +9,7 @@
 
 namespace {
 
-const QString firstAddress = QStringLiteral("127.10.4.1");
+const QString firstAddress = QStringLiteral("127.10.20.1");
 const QString listenAddress = QStringLiteral("127.10.8.255");
 const QString querierAddress = QStringLiteral("127.10.8.1");
 
