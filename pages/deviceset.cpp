@@ -85,16 +85,17 @@ void DeviceSet::createWidgets()
     m_summaryTable->setFixedHeight(m_summaryTable->header()->sizeHint().height() +
                                    m_summaryTable->sizeHintForRow(0) +
                                    2 * m_summaryTable->frameWidth());
-    m_hubTable = createTable(QStringLiteral("hubTable"));
-    m_peripheralTable = createTable(QStringLiteral("peripheralTable"));
+    m_hubTable = createTable(QStringLiteral("hubTable"), tr("PX-HB"));
+    m_peripheralTable = createTable(QStringLiteral("peripheralTable"), tr("Peripheral"));
 }
 
-DeviceTable* DeviceSet::createTable(const QString& name)
+DeviceTable* DeviceSet::createTable(const QString& name, const QString& accessibleName)
 {
     auto* table = new DeviceTable({tr("Hostname"), QString(), tr("Model"), tr("IP Address"),
                                    tr("Room"), QString(), QString()},
                                   addressColumn, this);
     table->setObjectName(name);
+    table->setAccessibleName(accessibleName);
     for (const auto& [column, width] : columnWidths) {
         table->setColumnWidth(column, width);
     }

@@ -61,7 +61,7 @@ private:
     };
 
     void createWidgets();
-    DeviceTable* createTable(const QString& name);
+    DeviceTable* createTable(const QString& name, const QString& accessibleName);
     void layOut();
     void chainTabOrder(QWidget* previous);
     void addRows();

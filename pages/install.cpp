@@ -92,6 +92,7 @@ void Install::createWidgets()
     m_hubTable = new DeviceTable({tr("Hostname"), QString(), tr("IP Address"), tr("Status")},
                                  addressColumn, this);
     m_hubTable->setObjectName(QStringLiteral("hubList"));
+    m_hubTable->setAccessibleName(tr("PX-HB"));
     m_hubTable->setColumnWidth(0, hostNameWidth);
     m_hubTable->setColumnWidth(1, identifyWidth);
     m_hubTable->setSortingEnabled(true);

@@ -60,6 +60,7 @@ void SpeakerPosition::createWidgets()
                                       tr("Room"), tr("Position"), QString()},
                                      addressColumn, this);
     m_speakerTable->setObjectName(QStringLiteral("speakerTable"));
+    m_speakerTable->setAccessibleName(tr("Speaker Position"));
     for (const auto& [column, width] : columnWidths) {
         m_speakerTable->setColumnWidth(column, width);
     }

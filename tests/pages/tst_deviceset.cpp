@@ -65,6 +65,8 @@ void TestDeviceSet::hubsAndPeripheralsAreListedByHostname()
     QCOMPARE(columnTexts(*step.peripherals(), 0).join(u' '), QStringLiteral("a-odd b-mic"));
     QCOMPARE(columnTexts(*step.peripherals(), 2).join(u' '), QStringLiteral("PX-ODD PX-DL"));
     QCOMPARE(columnTexts(*step.peripherals(), 4).join(u' '), QStringLiteral("1 2"));
+    QCOMPARE(step.hubs()->accessibleName(), QStringLiteral("PX-HB"));
+    QCOMPARE(step.peripherals()->accessibleName(), QStringLiteral("Peripheral"));
 }
 
 void TestDeviceSet::theSummaryCountsWhatIsInTheSet()
