@@ -3,6 +3,7 @@
 #include "broadcasthall.h"
 #include "devicedetector.h"
 #include "deviceinforeceiver.h"
+#include "largehall.h"
 
 #include <QNetworkInterface>
 #include <QProcess>
@@ -125,4 +126,32 @@ void BroadcastWizard::anInterfaceThatVanishesFindsNothingMore()
     QCOMPARE(search.spy.size(), 1);
     QCOMPARE(search.detector.deviceInfo(hallAddress(1)).modelName, QStringLiteral("PX-DL5"));
     QVERIFY(late.findChild<DeviceInfoReceiver*>() == nullptr);
+}
+
+void BroadcastWizard::aSimulatedHallIsFoundWhole()
+{
+    const HallDescription hall = largeHall();
+    QStringList expected;
+    for (const HubDescription& hub : hall.hubs) {
+        const bool isFirstLower = hub.secondAddress.isEmpty() || hub.mac < hub.secondMac;
+        expected += isFirstLower ? hub.address : hub.secondAddress;
+    }
+    for (const DeviceDescription& device : hall.peripherals) {
+        expected += device.address;
+    }
+    expected.sort();
+    QCOMPARE(expected.size(), 250);
+    Search search;
+    search.detector.detect();
+    QTRY_COMPARE_WITH_TIMEOUT(search.spy.size(), expected.size(), 20000);
+    QCOMPARE(search.reported(), expected);
+    for (const DeviceDescription& device : hall.peripherals) {
+        const DetectedDevice found = search.detector.deviceInfo(device.address);
+        QCOMPARE(found.modelName, device.model);
+        QCOMPARE(found.deviceName, device.label);
+        QCOMPARE(found.version, device.version);
+        QCOMPARE(found.macAddress, device.mac);
+        QCOMPARE(found.serialNumber, device.serial);
+        QCOMPARE(found.deviceId, device.deviceId);
+    }
 }

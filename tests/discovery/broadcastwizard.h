@@ -16,4 +16,5 @@ private Q_SLOTS:
     void aDeviceThatRefusesItsIdentityIsNotReported();
     void askingTwiceReportsNobodyTwice();
     void anInterfaceThatVanishesFindsNothingMore();
+    void aSimulatedHallIsFoundWhole();
 };
