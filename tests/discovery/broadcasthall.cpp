@@ -17,6 +17,7 @@ QList<BroadcastHall::Scenario> BroadcastHall::table()
 {
     return {
         {QStringLiteral("theQueryIsTheExactFortyOneBytes"), &BroadcastHall::addEcho},
+        {QStringLiteral("aTakenPortSendsNoQuery"), &BroadcastHall::addEcho},
         {QStringLiteral("twoHundredAndFiftyDevicesAnsweringAtOnceAreAllFound"),
          &BroadcastHall::addTwoHundredAndFifty},
         {QStringLiteral("hubsAreReportedOncePerSerialNumber"), &BroadcastHall::addHubs},

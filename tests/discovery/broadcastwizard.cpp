@@ -5,6 +5,7 @@
 #include "deviceinforeceiver.h"
 #include "largehall.h"
 
+#include <QNetworkDatagram>
 #include <QNetworkInterface>
 #include <QProcess>
 #include <QSignalSpy>
@@ -48,6 +49,20 @@ void BroadcastWizard::theQueryIsTheExactFortyOneBytes()
     QCOMPARE(device.nameText, QStringLiteral("10.54.0.1:54330"));
     QCOMPARE(device.modelName, QStringLiteral("514e464c002300040a360001000000000000000000000000"
                                               "000000000000085f716e6f2d7363700000"));
+}
+
+void BroadcastWizard::aTakenPortSendsNoQuery()
+{
+    QUdpSocket occupant;
+    QVERIFY(occupant.bind(QHostAddress(QStringLiteral("10.54.0.1")), DeviceDetector::port));
+    Search search;
+    search.detector.detect();
+    // The device answers whom it hears first, and tells who that was.
+    occupant.writeDatagram("hello", QHostAddress(QStringLiteral("10.54.255.255")),
+                           DeviceDetector::port);
+    QTRY_VERIFY(occupant.hasPendingDatagrams());
+    QVERIFY(occupant.receiveDatagram().data().contains("10.54.0.1:54330"));
+    QCOMPARE(search.queries(), 0);
 }
 
 void BroadcastWizard::twoHundredAndFiftyDevicesAnsweringAtOnceAreAllFound()

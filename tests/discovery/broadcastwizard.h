@@ -10,6 +10,7 @@ class BroadcastWizard : public TestCase
 
 private Q_SLOTS:
     void theQueryIsTheExactFortyOneBytes();
+    void aTakenPortSendsNoQuery();
     void twoHundredAndFiftyDevicesAnsweringAtOnceAreAllFound();
     void hubsAreReportedOncePerSerialNumber();
     void malformedRepliesAreDroppedAmongGoodOnes();
