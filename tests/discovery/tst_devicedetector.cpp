@@ -1,17 +1,14 @@
-#include "devicedetector.h"
-#include "deviceinforeceiver.h"
 #include "discoverypacket.h"
 #include "interfaceaddress.h"
-#include "simpledevice.h"
+#include "loopbacksearch.h"
 #include "testcase.h"
 
-#include <QElapsedTimer>
-#include <QNetworkInterface>
-#include <QRegularExpression>
-#include <QSignalSpy>
+#include <QNetworkAddressEntry>
 #include <QTest>
 
 #include <functional>
+#include <memory>
+#include <vector>
 
 class TestDeviceDetector : public TestCase
 {
@@ -23,14 +20,6 @@ private Q_SLOTS:
     void anUnknownAddressHasAnEmptyRecord();
     void aModelAndItsAddressAreLogged();
     void aNonHubIsReportedAsSoonAsItsIdentityIsKnown();
-    void aLoneHubIsReportedAThousandMillisecondsAfterItsIdentity();
-    void twoAddressesOfAHubWithinASecondAreReportedOnceAsTheLowerMac_data();
-    void twoAddressesOfAHubWithinASecondAreReportedOnceAsTheLowerMac();
-    void twoAddressesWithEqualMacsAreNotReported();
-    void aThirdAddressIsOnlyLogged();
-    void aSecondAddressAfterTheReportChangesNothing();
-    void aModelThatIsNotInCapitalsIsNoHub();
-    void aReplyWithoutABodyIsNotTreatedAsAHub();
     void aSecondReplyOfAKnownAddressStartsNoNewQuery();
     void theAddressInsideTheReplyCounts();
     void datagramsThatStartNoQuery_data();
@@ -48,66 +37,6 @@ private Q_SLOTS:
     void destroyingTheDetectorInTheMiddleIsHarmless();
     void theFirstIpv4EntryIsTheLocalAddress();
 };
-
-namespace {
-
-const QString wizard = QStringLiteral("127.0.0.1");
-
-int loopbackIndex()
-{
-    for (const QNetworkInterface& nic : QNetworkInterface::allInterfaces()) {
-        if (nic.flags().testFlag(QNetworkInterface::IsLoopBack)) {
-            return nic.index();
-        }
-    }
-    return 0;
-}
-
-QString address(int device)
-{
-    return QStringLiteral("127.30.3.%1").arg(device);
-}
-
-/// A detector that has sent its query, and what it has reported since.
-struct Search
-{
-    Search() { detector.detect(); }
-
-    QStringList reported() const
-    {
-        QStringList addresses;
-        for (const QVariantList& arguments : spy) {
-            addresses += arguments.first().toString();
-        }
-        return addresses;
-    }
-
-    qsizetype queries() const { return detector.findChildren<DeviceInfoReceiver*>().size(); }
-
-    bool isIdentified(const QString& ipText) const
-    {
-        return !detector.deviceInfo(ipText).serialNumber.isEmpty();
-    }
-
-    DeviceDetector detector{nullptr, loopbackIndex()};
-    QSignalSpy spy{&detector, SIGNAL(deviceDetected(QString))};
-};
-
-void answer(SimpleDevice& device)
-{
-    device.send(device.reply().bytes(), wizard);
-}
-
-// A device that is found after all that was sent before it shows what came of the others.
-void waitForControlDevice(Search& search)
-{
-    SimpleDevice control(address(250), "PX-DL5", "control", 9);
-    QVERIFY(control.open());
-    answer(control);
-    QTRY_VERIFY(search.reported().contains(address(250)));
-}
-
-} // namespace
 
 void TestDeviceDetector::init()
 {
@@ -169,121 +98,6 @@ void TestDeviceDetector::aNonHubIsReportedAsSoonAsItsIdentityIsKnown()
     answer(speaker);
     QTRY_VERIFY(search.isIdentified(address(4)));
     QCOMPARE(search.reported(), QStringList{address(4)});
-}
-
-void TestDeviceDetector::aLoneHubIsReportedAThousandMillisecondsAfterItsIdentity()
-{
-    SimpleDevice hub(address(5), "PX-HB2", "H5", 1);
-    QVERIFY(hub.open());
-    Search search;
-    QElapsedTimer sinceReply;
-    sinceReply.start();
-    answer(hub);
-    QTRY_VERIFY(search.isIdentified(address(5)));
-    QCOMPARE(search.spy.size(), 0);
-    QTRY_COMPARE(search.reported(), QStringList{address(5)});
-    QVERIFY(sinceReply.elapsed() >= 1000);
-}
-
-void TestDeviceDetector::twoAddressesOfAHubWithinASecondAreReportedOnceAsTheLowerMac_data()
-{
-    QTest::addColumn<int>("firstMac");
-    QTest::addColumn<int>("secondMac");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("the second address has the lower MAC") << 2 << 1 << address(11);
-    QTest::newRow("the first address has the lower MAC") << 1 << 2 << address(10);
-    QTest::newRow("0x9F is lower than 0xA0") << 0xA0 << 0x9F << address(11);
-}
-
-void TestDeviceDetector::twoAddressesOfAHubWithinASecondAreReportedOnceAsTheLowerMac()
-{
-    QFETCH(const int, firstMac);
-    QFETCH(const int, secondMac);
-    QFETCH(const QString, expected);
-    SimpleDevice first(address(10), "PX-HB", "H10", char(firstMac));
-    SimpleDevice second(address(11), "PX-HB", "H10", char(secondMac));
-    SimpleDevice later(address(12), "PX-HB", "H12", 3);
-    QVERIFY(first.open() && second.open() && later.open());
-    Search search;
-    answer(first);
-    QTRY_VERIFY(search.isIdentified(address(10)));
-    answer(second);
-    QTRY_COMPARE(search.reported(), QStringList{expected});
-
-    // Once a later lone hub's second is over, that of the pair is too.
-    answer(later);
-    QTRY_COMPARE(search.reported(), (QStringList{expected, address(12)}));
-}
-
-void TestDeviceDetector::twoAddressesWithEqualMacsAreNotReported()
-{
-    SimpleDevice first(address(13), "PX-HB", "H13", 1);
-    SimpleDevice second(address(14), "PX-HB", "H13", 1);
-    SimpleDevice later(address(15), "PX-HB", "H15", 2);
-    QVERIFY(first.open() && second.open() && later.open());
-    Search search;
-    answer(first);
-    answer(second);
-    QTRY_VERIFY(search.isIdentified(address(13)) && search.isIdentified(address(14)));
-    answer(later);
-    QTRY_COMPARE(search.reported(), QStringList{address(15)});
-}
-
-void TestDeviceDetector::aThirdAddressIsOnlyLogged()
-{
-    SimpleDevice first(address(16), "PX-HB", "H16", 3);
-    SimpleDevice second(address(17), "PX-HB", "H16", 2);
-    SimpleDevice third(address(18), "PX-HB", "H16", 1);
-    QVERIFY(first.open() && second.open() && third.open());
-    Search search;
-    answer(first);
-    QTRY_VERIFY(search.isIdentified(address(16)));
-    answer(second);
-    QTRY_COMPARE(search.reported(), QStringList{address(17)});
-    QTest::ignoreMessage(QtDebugMsg, "[???]PX-HB:Serial No.=H16");
-    answer(third);
-    QTRY_VERIFY(search.isIdentified(address(18)));
-    QCOMPARE(search.reported(), QStringList{address(17)});
-}
-
-void TestDeviceDetector::aSecondAddressAfterTheReportChangesNothing()
-{
-    SimpleDevice first(address(19), "PX-HB", "H19", 3);
-    SimpleDevice second(address(20), "PX-HB", "H19", 2);
-    SimpleDevice third(address(21), "PX-HB", "H19", 1);
-    QVERIFY(first.open() && second.open() && third.open());
-    Search search;
-    answer(first);
-    QTRY_COMPARE(search.reported(), QStringList{address(19)});
-    answer(second);
-    QTRY_VERIFY(search.isIdentified(address(20)));
-    QTest::ignoreMessage(QtDebugMsg, "[???]PX-HB:Serial No.=H19");
-    answer(third);
-    QTRY_VERIFY(search.isIdentified(address(21)));
-    QCOMPARE(search.reported(), QStringList{address(19)});
-}
-
-void TestDeviceDetector::aModelThatIsNotInCapitalsIsNoHub()
-{
-    SimpleDevice device(address(22), "px-hb", "S22", 1);
-    QVERIFY(device.open());
-    Search search;
-    answer(device);
-    QTRY_VERIFY(search.isIdentified(address(22)));
-    QCOMPARE(search.reported(), QStringList{address(22)});
-}
-
-void TestDeviceDetector::aReplyWithoutABodyIsNotTreatedAsAHub()
-{
-    SimpleDevice device(address(23), "PX-HB", "S23", 1);
-    QVERIFY(device.open());
-    Search search;
-    ScriptedReply reply = device.reply();
-    reply.bodyIndicator = QByteArray(2, '\0');
-    device.send(reply.bytes(), wizard);
-    QTRY_VERIFY(search.isIdentified(address(23)));
-    QCOMPARE(search.reported(), QStringList{address(23)});
-    QCOMPARE(search.detector.deviceInfo(address(23)).modelName, QString());
 }
 
 void TestDeviceDetector::aSecondReplyOfAKnownAddressStartsNoNewQuery()
