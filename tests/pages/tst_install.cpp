@@ -155,8 +155,8 @@ void TestInstall::noTransferStartsBeforeTheSecondDialogIsAnsweredAlthoughTheFirs
 {
     InstallHall step(base, 3);
     // The held dialog comes first and the others open over it, so that they can be answered.
-    step.setFault(1, slow(Exchange::Token, 150));
-    step.setFault(3, slow(Exchange::Token, 150));
+    step.setFault(1, slow(Exchange::Token, 500));
+    step.setFault(3, slow(Exchange::Token, 500));
     step.answers.cancel(step.address(1));
     QString statuses;
     qsizetype transfers = -1;

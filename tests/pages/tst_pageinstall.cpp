@@ -40,7 +40,7 @@ Fault slow(Exchange exchange)
     Fault fault;
     fault.exchange = exchange;
     fault.kind = FaultKind::Slow;
-    fault.number = 300;
+    fault.number = 1000;
     return fault;
 }
 
