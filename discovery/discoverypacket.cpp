@@ -6,7 +6,6 @@
 namespace {
 
 constexpr char magic[] = "QNFL";
-constexpr qsizetype magicSize = 4;
 constexpr qsizetype lengthOffset = 4;
 constexpr qsizetype headerSize = 6; // magic and length, which the length field does not count
 constexpr qsizetype flagsOffset = 6;
