@@ -17,8 +17,12 @@ else()
         $<$<BOOL:${TESSEL_WERROR}>:-Werror>)
 endif()
 
-if(TESSEL_SANITIZE)
+if(TESSEL_SANITIZE OR TESSEL_FUZZ)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    if(TESSEL_FUZZ)
+        # What is fuzzed tells which of its branches an input takes.
+        list(APPEND sanitizers -fsanitize=fuzzer-no-link)
+    endif()
     add_compile_options(${sanitizers})
     add_link_options(${sanitizers})
 endif()

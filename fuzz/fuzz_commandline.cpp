@@ -1,0 +1,66 @@
+// Arguments of the wizard, one per line of the input.
+//
+// - An accepted device has at least five fields, is one that the wizard can configure, has a MAC
+//   address other than zeros and no quotes in model, label and version; and it is in no room.
+// - A device written as an argument again reads the same, and so does an interface index.
+// - All arguments together give the accepted devices in order and the last index.
+#include "acceptancerule.h"
+#include "commandline.h"
+#include "fuzztarget.h"
+
+#include <QString>
+
+namespace {
+
+QStringList fieldsOf(const DeviceData& device)
+{
+    return {device.modelName,  device.label,      device.version, device.ipAddress,
+            device.macAddress, device.searchType, device.password};
+}
+
+void examineDevice(const QString& argument, const DeviceData& device)
+{
+    require(argument.count(u'/') >= 4, "a device has five fields");
+    require(isDeviceAccepted(device.version, device.modelName), "a device can be configured");
+    require(device.macAddress != u"00:00:00:00:00:00", "a device has a MAC address");
+    const QString unquoted = device.modelName + device.label + device.version;
+    require(!unquoted.contains(u'"'), "quotes are gone from model, label and version");
+    require(device.roomNumber == 0 && !device.labelModified, "a device is in no room");
+
+    const QStringList fields = fieldsOf(device);
+    const auto again = deviceFromArgument(QStringLiteral("-D:") + fields.join(u'/'));
+    require(again.has_value(), "a device written again is accepted");
+    require(fieldsOf(*again) == fields, "a device written again reads the same");
+}
+
+void examineIndex(int index)
+{
+    require(index != -1, "-1 is no interface");
+    const auto again = nicIndexFromArgument(QStringLiteral("-N:") + QString::number(index));
+    require(again == index, "an index written again reads the same");
+}
+
+} // namespace
+
+void examine(const QByteArray& input)
+{
+    const QStringList arguments = QString::fromUtf8(input).split(u'\n');
+    int lastIndex = 0;
+    QList<QStringList> devices;
+    for (const QString& argument : arguments) {
+        if (const auto device = deviceFromArgument(argument)) {
+            examineDevice(argument, *device);
+            devices.append(fieldsOf(*device));
+        }
+        if (const auto index = nicIndexFromArgument(argument)) {
+            examineIndex(*index);
+            lastIndex = *index;
+        }
+    }
+    const CommandLine all = readCommandLine(arguments);
+    require(all.nicIndex == lastIndex, "the last index counts");
+    require(all.devices.size() == devices.size(), "all accepted devices are there");
+    for (qsizetype i = 0; i < devices.size(); ++i) {
+        require(fieldsOf(all.devices.at(i)) == devices.at(i), "devices stand in order");
+    }
+}
