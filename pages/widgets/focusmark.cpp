@@ -7,8 +7,7 @@ void FocusMark::focusIn(const QFocusEvent* event)
 {
     switch (event->reason()) {
     case Qt::MouseFocusReason:
-        m_wanted = false;
-        break;
+        // The press that follows says so itself.
     case Qt::ActiveWindowFocusReason:
     case Qt::PopupFocusReason:
         // The focus merely returns: the user goes on as before.

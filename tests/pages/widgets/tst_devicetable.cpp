@@ -25,6 +25,7 @@ private Q_SLOTS:
     void decoratesEveryRowOnceInTheOrderShown();
     void textsSetWhileDecoratingDoNotMoveRows();
     void rowsAreComfortablyHighAndButtonsCentred();
+    void tabGoesThroughTheRowsInReadingOrder_data();
     void tabGoesThroughTheRowsInReadingOrder();
     void tabFollowsTheRowsWhenTheyAreSortedAnew();
     void theCostOfFillingGrowsLinearlyAlsoWhenShown();
@@ -215,15 +216,23 @@ void TestDeviceTable::rowsAreComfortablyHighAndButtonsCentred()
     }
 }
 
+void TestDeviceTable::tabGoesThroughTheRowsInReadingOrder_data()
+{
+    QTest::addColumn<bool>("sorted");
+    QTest::newRow("sorted") << true;
+    QTest::newRow("as given") << false;
+}
+
 void TestDeviceTable::tabGoesThroughTheRowsInReadingOrder()
 {
+    QFETCH(const bool, sorted);
     QWidget window;
     auto* layout = new QVBoxLayout(&window);
     auto* table = new Table(&window);
     auto* after = new QLineEdit(&window);
     layout->addWidget(table);
     layout->addWidget(after);
-    table->setSortingEnabled(true);
+    table->setSortingEnabled(sorted);
     table->setRows(threeDevices(), [table](QTreeWidgetItem* row) { addRoomBox(*table, row); });
     window.show();
     window.activateWindow();

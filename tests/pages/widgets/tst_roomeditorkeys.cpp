@@ -1,3 +1,4 @@
+#include "roomcolor.h"
 #include "roomeditorfixture.h"
 #include "testcase.h"
 
@@ -133,6 +134,7 @@ void TestRoomEditorKeys::theCursorShowsForTheKeyboardOnly()
     QCOMPARE(editor.pixel(inRing + QPoint(50, 0)), QColor(Qt::white));
     editor.clickAt({5, 5});
     QCOMPARE(editor.pixel(inRing + QPoint(50, 0)), QColor(0x34, 0x34, 0x34));
+    QCOMPARE(editor.pixel(inRing + QPoint(250, 250)), roomColor(1, Qt::white));
     // The keyboard goes on where the mouse was.
     editor.key(Qt::Key_Right);
     QCOMPARE(editor.pixel(inRing + QPoint(300, 250)), QColor(Qt::white));

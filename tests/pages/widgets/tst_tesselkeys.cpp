@@ -85,6 +85,11 @@ void TestTesselKeys::theCurrentRoomIsOutlinedForTheKeyboardOnly()
     QTest::keyClick(&picker, Qt::Key_Right);
     QCOMPARE(edge(0), roomOwn(1));
     QCOMPARE(edge(2), QColor(Qt::white));
+    QTest::mouseClick(&picker, Qt::LeftButton, {}, grid.cellRect({2, 3}).center());
+    QVERIFY(picker.hasFocus());
+    QCOMPARE(edge(2), roomOwn(2));
+    QTest::keyClick(&picker, Qt::Key_Right);
+    QCOMPARE(edge(2), QColor(Qt::white));
     picker.clearFocus();
     QCOMPARE(edge(2), roomOwn(2));
 }
@@ -94,8 +99,8 @@ void TestTesselKeys::tabGoesThroughTheBoxesInReadingOrder()
     QWidget window;
     auto* layout = new QVBoxLayout(&window);
     auto* picker = new Picker(fourCorners());
-    auto* after = new QLineEdit(&window);
     layout->addWidget(picker);
+    auto* after = new QLineEdit(&window);
     layout->addWidget(after);
     // Filled anew, as on entering the page, when everything else is there already.
     picker->fill(fourCorners());
