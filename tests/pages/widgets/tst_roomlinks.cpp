@@ -77,7 +77,7 @@ void TestRoomLinks::unlinkedPairsCountForNothing()
 void TestRoomLinks::allRoomsOfAChainAreOneGroup()
 {
     QList<QList<int>> groups = linked({{1, 3}, {2, 4}, {3, 4}}).groups();
-    groups.removeAll(QList<int>());
+    groups.removeIf([](const QList<int>& group) { return group.isEmpty(); });
     QCOMPARE(groups.size(), 1);
     std::sort(groups.first().begin(), groups.first().end());
     QCOMPARE(groups.first(), QList<int>({1, 2, 3, 4}));
