@@ -1,0 +1,277 @@
+#include "mainwindow.h"
+
+#include "basepage.h"
+#include "devicedetector.h"
+#include "devicequeries.h"
+#include "idocaccessor.h"
+#include "networkdialog.h"
+#include "pagefactory.h"
+#include "resumedialog.h"
+#include "sessionqueries.h"
+#include "shownetworkdialogevent.h"
+#include "startdiscoveryevent.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QIcon>
+#include <QLabel>
+#include <QMessageBox>
+#include <QStackedWidget>
+#include <QStandardPaths>
+#include <QTimerEvent>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize minimumWindowSize(800, 600);
+constexpr QSize maximumWindowSize(1200, 1200);
+constexpr qreal titlePointSize = 14.0;
+// Time for discovery to find the devices that the saved configuration names.
+constexpr int resumeDelayMs = 5000;
+
+QString resumeFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::HomeLocation) +
+           QStringLiteral("/AppData/Roaming/Korvane/Nodewise/Tessel");
+}
+
+QString resumePath()
+{
+    return resumeFolder() + QStringLiteral("/resume.dat");
+}
+
+bool isWorkInProgress(int pageIndex)
+{
+    return pageIndex >= 1 && pageIndex <= pageTotal - 2;
+}
+
+} // namespace
+
+MainWindow::MainWindow(QWidget* parent, IDocAccessor* doc)
+    : QWidget(parent)
+    , m_doc(doc)
+    , m_titleLabel(new QLabel(this))
+    , m_pageStack(new QStackedWidget(this))
+{
+    setWindowTitle(tr("Divide / Combine Room Wizard"));
+    setWindowIcon(QIcon(QStringLiteral(":/image/tessel.svg")));
+    setMinimumSize(minimumWindowSize);
+    setMaximumSize(maximumWindowSize);
+    buildLayout();
+    appendPage(0);
+    showCurrentPage();
+    if (nicIndex(*m_doc) == 0) {
+        QCoreApplication::postEvent(this, new ShowNetworkDialogEvent);
+    } else {
+        loadResumeFile();
+    }
+}
+
+void MainWindow::buildLayout()
+{
+    m_titleLabel->setObjectName(QStringLiteral("titleLabel"));
+    QFont titleFont = font();
+    titleFont.setPointSizeF(titlePointSize);
+    m_titleLabel->setFont(titleFont);
+    m_pageStack->setObjectName(QStringLiteral("pageStack"));
+    m_pageStack->setFrameStyle(0);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_titleLabel);
+    layout->addWidget(m_pageStack, 1);
+}
+
+void MainWindow::next()
+{
+    const BasePage* previous = pageAt(m_currentIndex);
+    if (m_currentIndex < pageTotal - 1) {
+        ++m_currentIndex;
+    }
+    if (m_currentIndex >= m_pageStack->count()) {
+        appendPage(m_currentIndex);
+    }
+    enterCurrentPage(previous);
+}
+
+void MainWindow::back()
+{
+    const BasePage* previous = pageAt(m_currentIndex);
+    if (m_currentIndex > 0) {
+        --m_currentIndex;
+    }
+    enterCurrentPage(previous);
+}
+
+void MainWindow::quit()
+{
+    QCoreApplication::quit();
+}
+
+void MainWindow::setInstallDone(bool done)
+{
+    m_installDone = done;
+}
+
+void MainWindow::notifyDetectDevice(const QString& ipAddress)
+{
+    const DetectedDevice found = m_detector->deviceInfo(ipAddress);
+    addDevice(*m_doc, {found.deviceName, found.modelName, found.version, found.ipAddress,
+                       found.macAddress, found.searchType, found.password});
+}
+
+void MainWindow::customEvent(QEvent* event)
+{
+    if (event->type() == ShowNetworkDialogEvent::eventType) {
+        chooseInterface();
+    } else if (event->type() == StartDiscoveryEvent::eventType) {
+        startDiscovery();
+    }
+}
+
+void MainWindow::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != m_resumeTimerId) {
+        return;
+    }
+    killTimer(m_resumeTimerId);
+    m_resumeTimerId = 0;
+    loadResumeFile();
+    m_resumeDialog->hide();
+    setEnabled(true);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!isWorkInProgress(m_currentIndex) || m_installDone) {
+        event->accept();
+        return;
+    }
+    const QMessageBox::StandardButton answer = QMessageBox::question(
+        this, QStringLiteral("Save Information?"),
+        QStringLiteral("Would you like to save the information gathered so far and continue the "
+                       "configuration at the next startup?"),
+        QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    if (answer == QMessageBox::Cancel) {
+        event->ignore();
+        return;
+    }
+    if (answer == QMessageBox::Yes) {
+        saveResumeFile();
+    }
+    event->accept();
+}
+
+BasePage* MainWindow::appendPage(int index)
+{
+    BasePage* page = makePage(index, this, m_doc, this);
+    m_pageStack->addWidget(page);
+    return page;
+}
+
+BasePage* MainWindow::pageAt(int index) const
+{
+    return qobject_cast<BasePage*>(m_pageStack->widget(index));
+}
+
+void MainWindow::enterCurrentPage(const BasePage* previous)
+{
+    // Pages fill their tables here, before they are shown: a visible table is far slower to fill.
+    pageAt(m_currentIndex)->enterFrom(previous->pageNumber());
+    showCurrentPage();
+}
+
+void MainWindow::showCurrentPage()
+{
+    m_pageStack->setCurrentIndex(m_currentIndex);
+    m_titleLabel->setText(pageAt(m_currentIndex)->title());
+}
+
+void MainWindow::chooseInterface()
+{
+    NetworkDialog dialog(this);
+    dialog.fill(nicIndex(*m_doc));
+    if (dialog.exec() != QDialog::Accepted) {
+        quit();
+        return;
+    }
+    setNicIndex(*m_doc, dialog.selectedIndex());
+    startDiscovery();
+}
+
+void MainWindow::startDiscovery()
+{
+    if (!m_detector) {
+        m_detector = new DeviceDetector(this, nicIndex(*m_doc));
+        connect(m_detector, SIGNAL(deviceDetected(QString)), this,
+                SLOT(notifyDetectDevice(QString)));
+    }
+    m_detector->detect();
+    if (QFile::exists(resumePath()) && m_resumeTimerId == 0) {
+        waitForSavedDevices();
+    }
+}
+
+void MainWindow::waitForSavedDevices()
+{
+    m_resumeTimerId = startTimer(resumeDelayMs, Qt::CoarseTimer);
+    if (!m_resumeDialog) {
+        m_resumeDialog = new ResumeDialog(this);
+    }
+    m_resumeDialog->show();
+    setEnabled(false);
+}
+
+void MainWindow::loadResumeFile()
+{
+    if (!QFile::exists(resumePath())) {
+        return;
+    }
+    if (!m_doc->loadResume(resumePath())) {
+        offerToRemoveResumeFile();
+        return;
+    }
+    restorePages();
+    const QSize size = windowSize(*m_doc);
+    if (size.isValid()) {
+        resize(size);
+    }
+    QFile::remove(resumePath());
+}
+
+void MainWindow::restorePages()
+{
+    m_currentIndex = pageIndex(*m_doc);
+    for (int index = 0; index < m_pageStack->count(); ++index) {
+        pageAt(index)->restoreFromDocument();
+    }
+    for (int index = m_pageStack->count(); index <= m_currentIndex; ++index) {
+        appendPage(index)->restoreFromDocument();
+    }
+    showCurrentPage();
+}
+
+void MainWindow::offerToRemoveResumeFile()
+{
+    const QMessageBox::StandardButton answer = QMessageBox::critical(
+        this, QStringLiteral("Error"),
+        tr("We could not resume the configuration. Do you want to remove the information?"),
+        QMessageBox::Yes | QMessageBox::No);
+    if (answer == QMessageBox::Yes) {
+        QFile::remove(resumePath());
+    }
+}
+
+void MainWindow::saveResumeFile()
+{
+    if (!QDir().mkpath(resumeFolder())) {
+        return;
+    }
+    setPageIndex(*m_doc, m_currentIndex);
+    setWindowSize(*m_doc, size());
+    pageAt(m_currentIndex)->storeToDocument();
+    if (!m_doc->saveResume(resumePath())) {
+        QMessageBox::critical(this, QStringLiteral("Error"), tr("Information could not be saved."),
+                              QMessageBox::Ok);
+    }
+}

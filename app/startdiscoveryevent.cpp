@@ -1,0 +1,8 @@
+#include "startdiscoveryevent.h"
+
+const QEvent::Type StartDiscoveryEvent::eventType = QEvent::Type(QEvent::registerEventType());
+
+StartDiscoveryEvent::StartDiscoveryEvent()
+    : QEvent(eventType)
+{
+}
