@@ -1,0 +1,119 @@
+#include "demodesk.h"
+
+#include "demoscenario.h"
+#include "demouser.h"
+#include "dialoganswerer.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QStackedWidget>
+#include <QTest>
+#include <QTextStream>
+#include <QTreeWidget>
+
+namespace {
+
+constexpr int windowWaitMs = 10000;
+// Within this the interface dialog is up, where one is due.
+constexpr int dialogWaitMs = 300;
+
+} // namespace
+
+DemoDesk::DemoDesk(const QString& pictureFolder, QObject* parent)
+    : QObject(parent)
+    , m_pictureFolder(pictureFolder)
+    , m_dialogs(new DialogAnswerer(this))
+{
+    QDir().mkpath(m_pictureFolder);
+}
+
+bool DemoDesk::waitForWindow()
+{
+    QTest::qWait(dialogWaitMs);
+    return QTest::qWaitFor(
+        [this] {
+            for (QWidget* widget : QApplication::topLevelWidgets()) {
+                if (widget->inherits("MainWindow")) {
+                    m_window = widget;
+                }
+            }
+            // The interface dialog, when one comes up, is answered meanwhile.
+            return m_window && m_window->isVisible() && !QApplication::activeModalWidget();
+        },
+        windowWaitMs);
+}
+
+bool DemoDesk::press(const QString& buttonName)
+{
+    auto* button = page()->findChild<QAbstractButton*>(buttonName);
+    if (!button || !button->isEnabled()) {
+        return failed(QStringLiteral("%1 cannot be pressed").arg(buttonName));
+    }
+    DemoUser::click(button);
+    letPaint();
+    return true;
+}
+
+QWidget* DemoDesk::page() const
+{
+    return m_window->findChild<QStackedWidget*>(QStringLiteral("pageStack"))->currentWidget();
+}
+
+bool DemoDesk::isOnPage(int number) const
+{
+    return m_window->findChild<QStackedWidget*>(QStringLiteral("pageStack"))->currentIndex() ==
+           number - 1;
+}
+
+QTreeWidget* DemoDesk::tree(const QString& name) const
+{
+    for (auto* found : page()->findChildren<QTreeWidget*>(name)) {
+        if (found->isVisible()) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+QTreeWidget* DemoDesk::tableOf(const DemoDevice& device) const
+{
+    return tree(device.isHub() ? QStringLiteral("hubTable") : QStringLiteral("peripheralTable"));
+}
+
+void DemoDesk::picture(const QString& name)
+{
+    letPaint();
+    pictureOf(m_window, name);
+}
+
+void DemoDesk::pictureOf(QWidget* window, const QString& name)
+{
+    window->grab().save(QStringLiteral("%1/%2.png").arg(m_pictureFolder, name));
+}
+
+bool DemoDesk::done(int step, const QString& what)
+{
+    say(QStringLiteral("Step %1: %2").arg(step).arg(what));
+    return true;
+}
+
+bool DemoDesk::failed(const QString& why)
+{
+    say(QStringLiteral("FAILED on \"%1\": %2")
+            .arg(m_window ? page()->metaObject()->className() : "", why));
+    if (m_window) {
+        picture(QStringLiteral("failed"));
+    }
+    return false;
+}
+
+void DemoDesk::say(const QString& line)
+{
+    QTextStream(stdout) << line << Qt::endl;
+}
+
+void DemoDesk::letPaint()
+{
+    QCoreApplication::processEvents();
+}

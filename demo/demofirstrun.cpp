@@ -1,0 +1,203 @@
+#include "demofirstrun.h"
+
+#include "demodesk.h"
+#include "demoscenario.h"
+#include "demouser.h"
+#include "dialoganswerer.h"
+#include "treerows.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QDeadlineTimer>
+#include <QMenu>
+#include <QTest>
+#include <QTreeWidget>
+
+namespace {
+
+constexpr int discoveryWaitMs = 20000;
+constexpr int addressColumn = 3;
+constexpr int roomColumn = 4;
+// The room grid of step 2: 2 pixels between cells of 48.
+constexpr int cellPitch = 50;
+constexpr QPoint cellMiddle(26, 26);
+
+} // namespace
+
+DemoFirstRun::DemoFirstRun(DemoDesk& desk, const DemoScenario& scenario)
+    : m_desk(desk)
+    , m_scenario(scenario)
+{
+    answerDialogs();
+}
+
+bool DemoFirstRun::play()
+{
+    return introduction() && drawRooms() && findDevices() && placeDevices() && makeLayouts() &&
+           saveAndClose();
+}
+
+void DemoFirstRun::answerDialogs()
+{
+    m_desk.dialogs().onDialog(QStringLiteral("networkDialog"), [this](QWidget* dialog) {
+        auto* list = dialog->findChild<QTreeWidget*>(QStringLiteral("nicList"));
+        DemoUser::clickRow(list, list->topLevelItem(list->topLevelItemCount() - 1));
+        m_desk.pictureOf(dialog, QStringLiteral("dialog-interface"));
+        DemoUser::click(dialog->findChild<QWidget*>(QStringLiteral("okButton")));
+    });
+    m_desk.dialogs().onDialog(QStringLiteral("Save Information?"), [this](QWidget* dialog) {
+        m_desk.pictureOf(dialog, QStringLiteral("dialog-save"));
+        DemoUser::pressKey(dialog, Qt::Key_Y, Qt::AltModifier);
+    });
+}
+
+bool DemoFirstRun::introduction()
+{
+    m_desk.picture(QStringLiteral("step-1"));
+    return m_desk.press(QStringLiteral("nextButton")) && m_desk.isOnPage(2) &&
+           m_desk.done(1, QStringLiteral("introduction read"));
+}
+
+bool DemoFirstRun::drawRooms()
+{
+    auto* editor = m_desk.page()->findChild<QWidget*>(QStringLiteral("roomEditor"));
+    for (int room = 1; room <= 4; ++room) {
+        QList<QPoint> path;
+        for (const QPoint& cell : m_scenario.cellsOfRoom(room)) {
+            path.append(cell * cellPitch + cellMiddle);
+        }
+        DemoUser::drag(editor, path);
+    }
+    m_desk.picture(QStringLiteral("step-2"));
+    return m_desk.press(QStringLiteral("nextButton")) && m_desk.isOnPage(3) &&
+           m_desk.done(2, QStringLiteral("4 rooms drawn"));
+}
+
+bool DemoFirstRun::findDevices()
+{
+    const int expected = int(m_scenario.devices().size());
+    const auto listed = [this] {
+        return m_desk.tree(QStringLiteral("hubTable"))->topLevelItemCount() +
+               m_desk.tree(QStringLiteral("peripheralTable"))->topLevelItemCount();
+    };
+    // Devices found since are listed when the page is entered again.
+    QDeadlineTimer patience(discoveryWaitMs);
+    while (listed() < expected && !patience.hasExpired()) {
+        m_desk.press(QStringLiteral("backButton"));
+        m_desk.press(QStringLiteral("nextButton"));
+        QTest::qWait(200);
+    }
+    if (listed() != expected) {
+        return m_desk.failed(QStringLiteral("%1 of %2 devices found").arg(listed()).arg(expected));
+    }
+    m_desk.say(QStringLiteral("  %1 devices found").arg(expected));
+    return true;
+}
+
+bool DemoFirstRun::placeDevices()
+{
+    for (const DemoDevice& device : m_scenario.devices()) {
+        QTreeWidget* table = m_desk.tableOf(device);
+        QTreeWidgetItem* row = findRow(table, addressColumn, device.address);
+        if (!row) {
+            return m_desk.failed(QStringLiteral("%1 is not listed").arg(device.address));
+        }
+        table->scrollToItem(row);
+        DemoDesk::letPaint();
+        auto* combo = qobject_cast<QComboBox*>(table->itemWidget(row, roomColumn));
+        DemoUser::choose(combo, QString::number(device.room));
+        if (combo->currentIndex() != device.room) {
+            return m_desk.failed(
+                QStringLiteral("%1 is not in room %2").arg(device.address).arg(device.room));
+        }
+        if (m_scenario.renames().contains(device.address) && !renameDevice(table, device)) {
+            return false;
+        }
+    }
+    m_desk.picture(QStringLiteral("step-3"));
+    return m_desk.press(QStringLiteral("nextButton")) && m_desk.isOnPage(4) &&
+           m_desk.done(3, QStringLiteral("every device placed, two renamed"));
+}
+
+bool DemoFirstRun::renameDevice(QTreeWidget* table, const DemoDevice& device)
+{
+    const QString label = m_scenario.labelOf(device);
+    m_desk.dialogs().onDialog(QStringLiteral("deviceNameDialog"), [this, label](QWidget* dialog) {
+        DemoUser::click(dialog->findChild<QWidget*>(QStringLiteral("nameEdit")));
+        DemoUser::pressKey(dialog, Qt::Key_A, Qt::ControlModifier);
+        DemoUser::type(dialog, label);
+        m_desk.pictureOf(dialog, QStringLiteral("dialog-name"));
+        DemoUser::click(dialog->findChild<QWidget*>(QStringLiteral("okButton")));
+    });
+    DemoUser::doubleClickCell(table, findRow(table, addressColumn, device.address), 0);
+    const QTreeWidgetItem* row = findRow(table, addressColumn, device.address);
+    return row->text(0) == label ||
+           m_desk.failed(QStringLiteral("%1 kept its name").arg(device.address));
+}
+
+bool DemoFirstRun::makeLayouts()
+{
+    auto* picker = m_desk.page()->findChild<QWidget*>(QStringLiteral("tessel"));
+    for (const DemoLayout& layout : m_scenario.layouts()) {
+        for (const auto& [room, other] : layout.linkBoxes) {
+            DemoUser::click(findByAccessibleName(
+                picker, QStringLiteral("Link room %1 and room %2").arg(room).arg(other)));
+        }
+        for (const auto& [room, other] : layout.menuLinks) {
+            if (!linkByMenu(room, other)) {
+                return false;
+            }
+        }
+        m_desk.press(QStringLiteral("addLayoutButton"));
+    }
+    const int listed = m_desk.tree(QStringLiteral("layoutList"))->topLevelItemCount();
+    if (listed != m_scenario.layouts().size()) {
+        return m_desk.failed(QStringLiteral("%1 layouts listed").arg(listed));
+    }
+    m_desk.picture(QStringLiteral("step-4"));
+    return m_desk.press(QStringLiteral("nextButton")) && m_desk.isOnPage(5) &&
+           m_desk.done(4, QStringLiteral("%1 layouts made").arg(listed));
+}
+
+bool DemoFirstRun::linkByMenu(int room, int other)
+{
+    auto* picker = m_desk.page()->findChild<QWidget*>(QStringLiteral("tessel"));
+    // Room 1 lies in the upper left corner; a right click anywhere in it opens its menu.
+    QTest::mouseClick(picker->window()->windowHandle(), Qt::RightButton, Qt::NoModifier,
+                      picker->mapTo(picker->window(), QPoint(20, 20)));
+    QContextMenuEvent request(QContextMenuEvent::Mouse, QPoint(20, 20),
+                              picker->mapToGlobal(QPoint(20, 20)));
+    if (!QApplication::activePopupWidget()) {
+        QCoreApplication::sendEvent(picker, &request);
+    }
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (!menu) {
+        return m_desk.failed(QStringLiteral("room %1 shows no menu").arg(room));
+    }
+    DemoDesk::letPaint();
+    m_desk.pictureOf(menu, QStringLiteral("menu-room"));
+    const QString text = QStringLiteral("Room %1 + %2").arg(room).arg(other);
+    for (QAction* action : menu->actions()) {
+        if (action->text() == text) {
+            DemoUser::click(menu, menu->actionGeometry(action).center());
+            return true;
+        }
+    }
+    return m_desk.failed(QStringLiteral("no entry \"%1\"").arg(text));
+}
+
+bool DemoFirstRun::saveAndClose()
+{
+    m_desk.picture(QStringLiteral("step-5-before-closing"));
+    m_desk.window()->resize(1000, 760);
+    DemoDesk::letPaint();
+    if (!m_desk.window()->close()) {
+        return m_desk.failed(QStringLiteral("the window stayed open"));
+    }
+    if (m_desk.dialogs().answered(QStringLiteral("Save Information?")) != 1) {
+        return m_desk.failed(QStringLiteral("closing did not ask"));
+    }
+    m_desk.say(QStringLiteral("  saved and closed on step 5"));
+    return true;
+}
