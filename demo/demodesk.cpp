@@ -100,8 +100,7 @@ bool DemoDesk::done(int step, const QString& what)
 
 bool DemoDesk::failed(const QString& why)
 {
-    say(QStringLiteral("FAILED on \"%1\": %2")
-            .arg(m_window ? page()->metaObject()->className() : "", why));
+    say(QStringLiteral("FAILED: ") + why);
     if (m_window) {
         picture(QStringLiteral("failed"));
     }
