@@ -12,11 +12,15 @@
 #include <QTextStream>
 #include <QTreeWidget>
 
+#include <cstdlib>
+
 namespace {
 
 constexpr int windowWaitMs = 10000;
 // Within this the interface dialog is up, where one is due.
 constexpr int dialogWaitMs = 300;
+// No step of the demo takes this long on a slow machine.
+constexpr int stuckAfterMs = 150000;
 
 } // namespace
 
@@ -26,12 +30,13 @@ DemoDesk::DemoDesk(const QString& pictureFolder, QObject* parent)
     , m_dialogs(new DialogAnswerer(this))
 {
     QDir().mkpath(m_pictureFolder);
+    m_watchdog.start(stuckAfterMs, this);
 }
 
 bool DemoDesk::waitForWindow()
 {
     QTest::qWait(dialogWaitMs);
-    return QTest::qWaitFor(
+    const bool shown = QTest::qWaitFor(
         [this] {
             for (QWidget* widget : QApplication::topLevelWidgets()) {
                 if (widget->inherits("MainWindow")) {
@@ -42,6 +47,7 @@ bool DemoDesk::waitForWindow()
             return m_window && m_window->isVisible() && !QApplication::activeModalWidget();
         },
         windowWaitMs);
+    return shown || failed(QStringLiteral("the window did not come up"));
 }
 
 bool DemoDesk::press(const QString& buttonName)
@@ -105,6 +111,15 @@ bool DemoDesk::failed(const QString& why)
         picture(QStringLiteral("failed"));
     }
     return false;
+}
+
+void DemoDesk::timerEvent(QTimerEvent* /*event*/)
+{
+    const QWidget* dialog = QApplication::activeModalWidget();
+    failed(QStringLiteral("stuck behind \"%1\"")
+               .arg(dialog ? dialog->windowTitle() : QStringLiteral("the page")));
+    // A dialog that nobody answers holds up everything else; only leaving at once is left.
+    std::_Exit(EXIT_FAILURE);
 }
 
 void DemoDesk::say(const QString& line)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBasicTimer>
 #include <QObject>
 
 class DialogAnswerer;
@@ -47,7 +48,12 @@ public:
     /// Lets the windows catch up with what was done to them.
     static void letPaint();
 
+protected:
+    /// Nothing has happened for far too long: says so and ends the program.
+    void timerEvent(QTimerEvent* event) override;
+
 private:
+    QBasicTimer m_watchdog;
     QString m_pictureFolder;
     DialogAnswerer* m_dialogs;
     QWidget* m_window = nullptr;

@@ -34,15 +34,16 @@ DemoFirstRun::DemoFirstRun(DemoDesk& desk, const DemoScenario& scenario)
 
 bool DemoFirstRun::play()
 {
-    return introduction() && drawRooms() && findDevices() && placeDevices() && makeLayouts() &&
-           saveAndClose();
+    return m_desk.waitForWindow() && introduction() && drawRooms() && findDevices() &&
+           placeDevices() && makeLayouts() && saveAndClose();
 }
 
 void DemoFirstRun::answerDialogs()
 {
     m_desk.dialogs().onDialog(QStringLiteral("networkDialog"), [this](QWidget* dialog) {
         auto* list = dialog->findChild<QTreeWidget*>(QStringLiteral("nicList"));
-        DemoUser::clickRow(list, list->topLevelItem(list->topLevelItemCount() - 1));
+        // A machine may have idle interfaces beside the one that leads to the hall.
+        DemoUser::clickRow(list, firstRowWithText(list, 1));
         m_desk.pictureOf(dialog, QStringLiteral("dialog-interface"));
         DemoUser::click(dialog->findChild<QWidget*>(QStringLiteral("okButton")));
     });

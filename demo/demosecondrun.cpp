@@ -35,8 +35,8 @@ DemoSecondRun::DemoSecondRun(DemoDesk& desk, const DemoScenario& scenario)
 
 bool DemoSecondRun::play()
 {
-    return resume() && chooseDevices() && choosePositions() && namePresets() && install() &&
-           finish();
+    return m_desk.waitForWindow() && resume() && chooseDevices() && choosePositions() &&
+           namePresets() && install() && finish();
 }
 
 void DemoSecondRun::answerDialogs()

@@ -60,9 +60,6 @@ std::optional<DemoScenario> readScenario()
 bool play(const DemoScenario& scenario)
 {
     DemoDesk desk(option(QStringLiteral("pictures")), nullptr);
-    if (!desk.waitForWindow()) {
-        return desk.failed(QStringLiteral("the window did not come up"));
-    }
     return option(QStringLiteral("part")) == QLatin1String("2")
                ? DemoSecondRun(desk, scenario).play()
                : DemoFirstRun(desk, scenario).play();

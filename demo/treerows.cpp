@@ -7,6 +7,16 @@ QTreeWidgetItem* findRow(const QTreeWidget* tree, int column, const QString& tex
     return tree ? tree->findItems(text, Qt::MatchExactly, column).value(0) : nullptr;
 }
 
+QTreeWidgetItem* firstRowWithText(const QTreeWidget* tree, int column)
+{
+    for (int row = 0; row < tree->topLevelItemCount(); ++row) {
+        if (!tree->topLevelItem(row)->text(column).isEmpty()) {
+            return tree->topLevelItem(row);
+        }
+    }
+    return nullptr;
+}
+
 QWidget* findByAccessibleName(const QWidget* root, const QString& name)
 {
     for (auto* widget : root->findChildren<QWidget*>()) {
