@@ -124,7 +124,7 @@ bool DemoFirstRun::placeDevices()
 bool DemoFirstRun::renameDevice(QTreeWidget* table, const DemoDevice& device)
 {
     const QString label = m_scenario.labelOf(device);
-    m_desk.dialogs().onDialog(QStringLiteral("deviceNameDialog"), [this, label](QWidget* dialog) {
+    m_desk.dialogs().onDialog(QStringLiteral("Change Name"), [this, label](QWidget* dialog) {
         DemoUser::click(dialog->findChild<QWidget*>(QStringLiteral("nameEdit")));
         DemoUser::pressKey(dialog, Qt::Key_A, Qt::ControlModifier);
         DemoUser::type(dialog, label);

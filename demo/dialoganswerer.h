@@ -21,7 +21,7 @@ public:
     explicit DialogAnswerer(QObject* parent);
 
     /// From now on dialogs with this object name are answered by `answer`, which is called once
-    /// each time one is shown. Message boxes without a name go by their window title.
+    /// each time one is shown. Dialogs without a name go by their window title.
     void onDialog(const QString& name, Answer answer);
 
     /// How often a dialog of this name has been answered.
