@@ -46,6 +46,8 @@ void drag(QWidget* widget, const QList<QPoint>& path)
 {
     QWindow* window = windowOf(widget);
     QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, inWindow(widget, path.front()));
+    // A hand moves within the first cell before it leaves it.
+    QTest::mouseMove(window, inWindow(widget, path.front() + QPoint(3, 3)));
     for (const QPoint& at : path) {
         QTest::mouseMove(window, inWindow(widget, at));
         QCoreApplication::processEvents();
