@@ -235,7 +235,7 @@ void TestMainWindow::closingOnTheStepsBetweenAsks()
              QStringLiteral("Would you like to save the information gathered so far and continue "
                             "the configuration at the next startup?"));
     QCOMPARE(answer.buttons(),
-             QStringList({QStringLiteral("Yes"), QStringLiteral("No"), QStringLiteral("Cancel")}));
+             QStringList({QStringLiteral("Cancel"), QStringLiteral("No"), QStringLiteral("Yes")}));
     QVERIFY(QFile::exists(resumePath()));
     QCOMPARE(pageIndex(wizard.doc), index);
     QCOMPARE(windowSize(wizard.doc), wizard.window->size());
@@ -351,7 +351,7 @@ void TestMainWindow::anUnreadableFileIsRemovedOnlyOnYes()
     QCOMPARE(answer.title(), QStringLiteral("Error"));
     QCOMPARE(answer.text(), QStringLiteral("We could not resume the configuration. Do you want to "
                                            "remove the information?"));
-    QCOMPARE(answer.buttons(), QStringList({QStringLiteral("Yes"), QStringLiteral("No")}));
+    QCOMPARE(answer.buttons(), QStringList({QStringLiteral("No"), QStringLiteral("Yes")}));
     QCOMPARE(QFile::exists(resumePath()), kept);
     QCOMPARE(wizard.stack()->currentIndex(), 0);
 }

@@ -41,6 +41,7 @@ void ModalAnswer::timerEvent(QTimerEvent* /*event*/)
         for (const QAbstractButton* button : box->buttons()) {
             m_buttons.append(plainText(button));
         }
+        m_buttons.sort();
     }
     m_act(dialog);
 }

@@ -26,7 +26,8 @@ public:
     /// Title and text of the dialog, when it was a message box.
     QString title() const { return m_title; }
     QString text() const { return m_text; }
-    /// Texts of a message box's buttons, as the dialog shows them, in the order of their making.
+    /// Texts of a message box's buttons in alphabetical order: where each stands is up to the
+    /// platform.
     QStringList buttons() const { return m_buttons; }
 
 protected:
