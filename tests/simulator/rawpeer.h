@@ -11,7 +11,8 @@ class RawPeer : public QObject
     Q_OBJECT
 
 public:
-    /// Connects unless it is connected; false when the connection is refused or does not come about.
+    /// Connects unless it is connected; false when the connection is refused or does not come
+    /// about.
     bool connectTo(const QString& address, quint16 port);
     /// Sends the bytes in one packet.
     void send(const QByteArray& bytes);
