@@ -26,6 +26,7 @@ PictureText::PictureText(const QStringList& texts, const QString& picture, QWidg
     : QWidget(parent)
 {
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(makeParagraph(texts.at(0), this));
     layout->addSpacing(firstGap);

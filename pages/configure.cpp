@@ -53,6 +53,7 @@ void Configure::layOut()
     row->addWidget(m_stack, 4);
 
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
     addTexts(layout);
     layout->addLayout(row, 1);
 }

@@ -50,6 +50,7 @@ void CreatePreset::layOut()
     row->addLayout(listColumn, 1);
 
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(
         textLabel(tr("Each room combination will be configured as a preset on the PX-HBs."), this));
     layout->addWidget(textLabel(tr("Please provide a name for the preset."), this));

@@ -50,6 +50,7 @@ void DanteSpeaker::layOut()
     row->addWidget(m_stack, 4);
 
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(textLabel(tr("For each room combination listed on the left, select whether "
                                    "speakers are positioned on the left or right."),
                                 this));

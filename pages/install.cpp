@@ -103,6 +103,7 @@ void Install::layOut()
     auto* listTitle = new QLabel(tr("PX-HB"), this);
     listTitle->setBuddy(m_hubTable);
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(textLabel(tr("Configure the presets on the PX-HBs."), this));
     layout->addWidget(
         textLabel(tr("The password for each PX-HB is required to install the presets."), this));
