@@ -1,0 +1,296 @@
+#include "devicequeries.h"
+#include "layoutqueries.h"
+#include "mainwindow.h"
+#include "pagefactory.h"
+#include "roomqueries.h"
+#include "sessionqueries.h"
+#include "tesseldoc.h"
+#include "testcase.h"
+
+#include <QAccessible>
+#include <QAccessibleInterface>
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QSet>
+#include <QStackedWidget>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+// A hall of two rooms with a device of every class in each.
+void fillHall(TesselDoc& doc)
+{
+    setNicIndex(doc, 7); // handed over, so that nothing is looked for
+    const QStringList models{QStringLiteral("PX-HB"), QStringLiteral("PX-DL8"),
+                             QStringLiteral("LQA4-08S"), QStringLiteral("PNB-QE7")};
+    int number = 0;
+    for (int room = 1; room <= 2; ++room) {
+        setRoomCells(doc, room, {{room - 1, 0}, {room - 1, 1}});
+        for (const QString& model : models) {
+            const QString address = QStringLiteral("127.62.0.%1").arg(++number);
+            const QString mac = QStringLiteral("00:A0:DE:00:00:0%1").arg(number);
+            const QString label = QStringLiteral("%1-%2").arg(model).arg(room);
+            addDevice(doc, {label, model, QStringLiteral("2.1.0"), address, mac, {}, {}});
+            setDeviceRoom(doc, address, room);
+        }
+    }
+    QPixmap thumbnail(64, 64);
+    thumbnail.fill(Qt::darkGreen);
+    addLayout(doc, {1, QStringLiteral("1/2"), thumbnail});
+    addLayout(doc, {2, QStringLiteral("1+2"), thumbnail});
+}
+
+// The wizard's window on one of its pages.
+struct Wizard
+{
+    explicit Wizard(int page)
+    {
+        fillHall(doc);
+        window = std::make_unique<MainWindow>(nullptr, &doc);
+        window->show();
+        while (stack()->currentIndex() < page - 1) {
+            window->next();
+        }
+        QApplication::setActiveWindow(window.get());
+        QCoreApplication::processEvents();
+    }
+
+    QStackedWidget* stack() const
+    {
+        return window->findChild<QStackedWidget*>(QStringLiteral("pageStack"));
+    }
+
+    template <typename Widget = QWidget>
+    QList<Widget*> shown() const
+    {
+        QList<Widget*> found;
+        for (auto* widget : window->findChildren<Widget*>()) {
+            if (widget->isVisible()) {
+                found.append(widget);
+            }
+        }
+        return found;
+    }
+
+    QList<QWidget*> tabStops() const
+    {
+        QList<QWidget*> stops;
+        for (QWidget* widget : shown()) {
+            if (widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus)) {
+                stops.append(widget);
+            }
+        }
+        return stops;
+    }
+
+    QRect placeOf(const QWidget* widget) const
+    {
+        return {widget->mapTo(window.get(), QPoint()), widget->size()};
+    }
+
+    TesselDoc doc{nullptr};
+    std::unique_ptr<MainWindow> window;
+};
+
+QString nameOf(QWidget* widget)
+{
+    // Qt tells some platforms what a combo box shows as its name, and its own name otherwise.
+    if (!widget->accessibleName().isEmpty()) {
+        return widget->accessibleName();
+    }
+    return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+}
+
+// For messages of failed tests.
+QByteArray describe(QWidget* widget)
+{
+    return QByteArray(widget->metaObject()->className()) + ' ' + widget->objectName().toUtf8() +
+           " \"" + nameOf(widget).toUtf8() + '"';
+}
+
+// Lists stand to the left of what they choose from, and everything in a row left to right; apart
+// from that the eye goes down.
+bool isReadAfter(const QRect& next, const QRect& previous)
+{
+    if (next.top() > previous.bottom() || next.left() > previous.right()) {
+        return true;
+    }
+    return previous.contains(next) || (next.top() >= previous.top() && next.intersects(previous));
+}
+
+// The enabled button that stands farthest to the right: the end of the page's reading order.
+QPushButton* lastButton(const Wizard& wizard)
+{
+    QPushButton* last = nullptr;
+    for (auto* button : wizard.shown<QPushButton>()) {
+        if (button->isEnabled() && button->parentWidget() == wizard.stack()->currentWidget() &&
+            (last == nullptr || wizard.placeOf(button).left() > wizard.placeOf(last).left())) {
+            last = button;
+        }
+    }
+    return last;
+}
+
+void addPages()
+{
+    QTest::addColumn<int>("page");
+    for (int page = 1; page <= pageTotal; ++page) {
+        QTest::addRow("page %d", page) << page;
+    }
+}
+
+} // namespace
+
+/// What has to hold on every page for people who use the keyboard or a screen reader.
+class TestAccessibility : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyTabStopHasANameOfItsOwn_data() { addPages(); }
+    void everyTabStopHasANameOfItsOwn();
+    void tabVisitsEverythingInReadingOrder_data() { addPages(); }
+    void tabVisitsEverythingInReadingOrder();
+    void paintedButtonsAreButtonsWithAToolTip_data();
+    void paintedButtonsAreButtonsWithAToolTip();
+    void titlesOfListsBelongToTheirLists_data();
+    void titlesOfListsBelongToTheirLists();
+    void textsBeginUnderTheTitle_data() { addPages(); }
+    void textsBeginUnderTheTitle();
+    void everyTextFitsIntoTheSmallestWindow_data() { addPages(); }
+    void everyTextFitsIntoTheSmallestWindow();
+};
+
+void TestAccessibility::everyTabStopHasANameOfItsOwn()
+{
+    QFETCH(const int, page);
+    const Wizard wizard(page);
+    QSet<QString> names;
+    for (QWidget* stop : wizard.tabStops()) {
+        QVERIFY2(!nameOf(stop).trimmed().isEmpty(), describe(stop).constData());
+        QVERIFY2(!names.contains(nameOf(stop)), describe(stop).constData());
+        names.insert(nameOf(stop));
+    }
+    QVERIFY(!names.isEmpty());
+}
+
+void TestAccessibility::tabVisitsEverythingInReadingOrder()
+{
+    QFETCH(const int, page);
+    const Wizard wizard(page);
+    const QList<QWidget*> stops = wizard.tabStops();
+    lastButton(wizard)->setFocus();
+    QSet<QWidget*> visited;
+    QWidget* previous = nullptr;
+    for (qsizetype i = 0; i < stops.size(); ++i) {
+        QTest::keyClick(wizard.window->focusWidget(), Qt::Key_Tab);
+        QWidget* focused = wizard.window->focusWidget();
+        if (previous != nullptr) {
+            QVERIFY2(isReadAfter(wizard.placeOf(focused), wizard.placeOf(previous)),
+                     (describe(focused) + " after " + describe(previous)).constData());
+        }
+        visited.insert(focused);
+        previous = focused;
+    }
+    for (QWidget* stop : stops) {
+        QVERIFY2(visited.contains(stop), describe(stop).constData());
+    }
+}
+
+void TestAccessibility::paintedButtonsAreButtonsWithAToolTip_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<int>("count");
+    QTest::newRow("pencils and lamps of the eight devices") << 3 << 16;
+    QTest::newRow("the link box") << 4 << 1;
+    QTest::newRow("lamps and remove buttons of room 1") << 5 << 8;
+    QTest::newRow("the lamp of the speaker in room 1") << 6 << 1;
+    QTest::newRow("the lamps of the hubs") << 8 << 2;
+}
+
+void TestAccessibility::paintedButtonsAreButtonsWithAToolTip()
+{
+    QFETCH(const int, page);
+    QFETCH(const int, count);
+    const Wizard wizard(page);
+    int found = 0;
+    for (QWidget* widget : wizard.shown()) {
+        if (widget->inherits("PressButton")) {
+            ++found;
+            QVERIFY2(!widget->toolTip().isEmpty(), describe(widget).constData());
+            const QAccessible::Role role = QAccessible::queryAccessibleInterface(widget)->role();
+            QVERIFY2(role == QAccessible::Button || role == QAccessible::CheckBox,
+                     describe(widget).constData());
+        }
+    }
+    QCOMPARE(found, count);
+}
+
+void TestAccessibility::titlesOfListsBelongToTheirLists_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("list");
+    const auto row = [](int page, const char* title, const char* list) {
+        QTest::addRow("page %d: %s", page, title)
+            << page << QString::fromLatin1(title) << QString::fromLatin1(list);
+    };
+    row(3, "PX-HB", "hubTable");
+    row(3, "Peripheral", "peripheralTable");
+    row(5, "Select a room combination", "roomGroupList");
+    row(5, "PX-HB", "hubTable");
+    row(5, "Peripheral", "peripheralTable");
+    row(6, "Select a room combination", "roomGroupList");
+    row(6, "Speaker Position", "speakerTable");
+    row(7, "Select a room combination", "roomGroupList");
+    row(8, "PX-HB", "hubList");
+}
+
+void TestAccessibility::titlesOfListsBelongToTheirLists()
+{
+    QFETCH(const int, page);
+    QFETCH(const QString, title);
+    QFETCH(const QString, list);
+    const Wizard wizard(page);
+    int found = 0;
+    for (const QLabel* label : wizard.shown<QLabel>()) {
+        if (label->text() == title) {
+            ++found;
+            QVERIFY(label->buddy());
+            QCOMPARE(label->buddy()->objectName(), list);
+        }
+    }
+    QCOMPARE(found, 1);
+}
+
+void TestAccessibility::textsBeginUnderTheTitle()
+{
+    QFETCH(const int, page);
+    const Wizard wizard(page);
+    const auto* title = wizard.window->findChild<QLabel*>(QStringLiteral("titleLabel"));
+    const auto* text = wizard.stack()->currentWidget()->findChild<QLabel*>();
+    QCOMPARE(wizard.placeOf(text).left(), wizard.placeOf(title).left());
+}
+
+void TestAccessibility::everyTextFitsIntoTheSmallestWindow()
+{
+    QFETCH(const int, page);
+    const Wizard wizard(page);
+    QCOMPARE(wizard.window->size(), wizard.window->minimumSize());
+    for (QLabel* label : wizard.shown<QLabel>()) {
+        const int height =
+            label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
+        QVERIFY2(label->height() >= height, describe(label).constData());
+        QVERIFY2(label->wordWrap() || label->width() >= label->sizeHint().width(),
+                 describe(label).constData());
+    }
+    for (QPushButton* button : wizard.shown<QPushButton>()) {
+        QVERIFY2(button->width() >= button->sizeHint().width(), describe(button).constData());
+    }
+}
+
+TESSEL_TEST_MAIN(TestAccessibility)
+#include "tst_accessibility.moc"
