@@ -220,6 +220,8 @@ void MainWindow::waitForSavedDevices()
     }
     m_resumeDialog->show();
     setEnabled(false);
+    // The window disables its dialogs as well, and this one is there to be read.
+    m_resumeDialog->setEnabled(true);
 }
 
 void MainWindow::loadResumeFile()

@@ -418,6 +418,7 @@ void TestMainWindow::savedWorkWaitsForDiscoveryBehindPleaseWait()
     QTRY_VERIFY(wizard.window->findChild<QWidget*>(QStringLiteral("resumeDialog")));
     const auto* dialog = wizard.window->findChild<QWidget*>(QStringLiteral("resumeDialog"));
     QVERIFY(dialog->isVisible());
+    QVERIFY2(dialog->isEnabled(), "its text would be grey");
     QVERIFY(!wizard.window->isEnabled());
     QCOMPARE(wizard.stack()->currentIndex(), 0);
 
