@@ -3,6 +3,7 @@
 #include "demoscenario.h"
 #include "demouser.h"
 #include "dialoganswerer.h"
+#include "treerows.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -16,6 +17,7 @@
 
 namespace {
 
+constexpr int interfaceAddressColumn = 1;
 constexpr int windowWaitMs = 10000;
 // Within this the interface dialog is up, where one is due.
 constexpr int dialogWaitMs = 300;
@@ -48,6 +50,17 @@ bool DemoDesk::waitForWindow()
         },
         windowWaitMs);
     return shown || failed(QStringLiteral("the window did not come up"));
+}
+
+void DemoDesk::answerInterfaceDialog()
+{
+    m_dialogs->onDialog(QStringLiteral("networkDialog"), [this](QWidget* dialog) {
+        auto* list = dialog->findChild<QTreeWidget*>(QStringLiteral("nicList"));
+        // A machine may have idle interfaces beside the one that leads to the hall.
+        DemoUser::clickRow(list, firstRowWithText(list, interfaceAddressColumn));
+        pictureOf(dialog, QStringLiteral("dialog-interface"));
+        DemoUser::click(dialog->findChild<QWidget*>(QStringLiteral("okButton")));
+    });
 }
 
 bool DemoDesk::press(const QString& buttonName)

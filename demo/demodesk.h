@@ -22,6 +22,8 @@ public:
     bool waitForWindow();
 
     DialogAnswerer& dialogs() const { return *m_dialogs; }
+    /// From now on the interface dialog is answered with the interface that leads to the hall.
+    void answerInterfaceDialog();
     QWidget* window() const { return m_window; }
     /// The page that is shown.
     QWidget* page() const;

@@ -40,13 +40,7 @@ bool DemoFirstRun::play()
 
 void DemoFirstRun::answerDialogs()
 {
-    m_desk.dialogs().onDialog(QStringLiteral("networkDialog"), [this](QWidget* dialog) {
-        auto* list = dialog->findChild<QTreeWidget*>(QStringLiteral("nicList"));
-        // A machine may have idle interfaces beside the one that leads to the hall.
-        DemoUser::clickRow(list, firstRowWithText(list, 1));
-        m_desk.pictureOf(dialog, QStringLiteral("dialog-interface"));
-        DemoUser::click(dialog->findChild<QWidget*>(QStringLiteral("okButton")));
-    });
+    m_desk.answerInterfaceDialog();
     m_desk.dialogs().onDialog(QStringLiteral("Save Information?"), [this](QWidget* dialog) {
         m_desk.pictureOf(dialog, QStringLiteral("dialog-save"));
         DemoUser::pressKey(dialog, Qt::Key_Y, Qt::AltModifier);
@@ -191,7 +185,7 @@ bool DemoFirstRun::linkByMenu(int room, int other)
 bool DemoFirstRun::saveAndClose()
 {
     m_desk.picture(QStringLiteral("step-5-before-closing"));
-    m_desk.window()->resize(1000, 760);
+    m_desk.window()->resize(DemoScenario::savedWindowSize);
     DemoDesk::letPaint();
     if (!m_desk.window()->close()) {
         return m_desk.failed(QStringLiteral("the window stayed open"));

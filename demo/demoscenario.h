@@ -4,6 +4,7 @@
 #include <QList>
 #include <QPair>
 #include <QPoint>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -44,6 +45,9 @@ struct DemoGroup
 class DemoScenario
 {
 public:
+    /// The window's size when the work is saved; it has to come back with it.
+    static constexpr QSize savedWindowSize{1000, 760};
+
     /// The hubs come first in `devices`; the k-th hub goes to room k.
     explicit DemoScenario(QList<DemoDevice> devices);
 

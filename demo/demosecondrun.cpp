@@ -41,12 +41,7 @@ bool DemoSecondRun::play()
 
 void DemoSecondRun::answerDialogs()
 {
-    m_desk.dialogs().onDialog(QStringLiteral("networkDialog"), [this](QWidget* dialog) {
-        auto* list = dialog->findChild<QTreeWidget*>(QStringLiteral("nicList"));
-        DemoUser::clickRow(list, list->topLevelItem(list->topLevelItemCount() - 1));
-        m_desk.pictureOf(dialog, QStringLiteral("dialog-interface"));
-        DemoUser::click(dialog->findChild<QWidget*>(QStringLiteral("okButton")));
-    });
+    m_desk.answerInterfaceDialog();
     m_desk.dialogs().onDialog(QStringLiteral("initialPasswordDialog"), [this](QWidget* dialog) {
         DemoUser::click(dialog->findChild<QWidget*>(QStringLiteral("passwordEdit")));
         DemoUser::type(dialog, QStringLiteral("hall2026"));
@@ -85,9 +80,11 @@ bool DemoSecondRun::resume()
     if (!resumed()) {
         return m_desk.failed(QStringLiteral("the saved work did not come back"));
     }
-    if (m_desk.window()->size() != QSize(1000, 760)) {
+    if (m_desk.window()->size() != DemoScenario::savedWindowSize) {
         return m_desk.failed(QStringLiteral("the window came back in another size"));
     }
+    // As a window manager does when the dialog in front of a window is gone.
+    m_desk.window()->activateWindow();
     m_desk.say(QStringLiteral("  started again on step 5%1")
                    .arg(waited ? QStringLiteral(" after \"Please wait...\"") : QString()));
     return true;
@@ -166,10 +163,7 @@ bool DemoSecondRun::namePresets()
         QTreeWidgetItem* row = list->topLevelItem(group.number - 1);
         list->scrollToItem(row);
         DemoDesk::letPaint();
-        auto* edit = list->itemWidget(row, nameColumn)->findChild<QLineEdit*>();
-        if (!edit) {
-            edit = qobject_cast<QLineEdit*>(list->itemWidget(row, nameColumn));
-        }
+        auto* edit = qobject_cast<QLineEdit*>(list->itemWidget(row, nameColumn));
         DemoUser::click(edit);
         DemoUser::type(m_desk.window(), group.presetName);
         if (edit->text() != group.presetName) {

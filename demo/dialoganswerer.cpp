@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QTimer>
+#include <QTimerEvent>
 #include <QWidget>
 
 namespace {
@@ -24,9 +24,9 @@ DialogAnswerer::DialogAnswerer(QObject* parent)
     m_timer.start(lookEveryMs, this);
 }
 
-void DialogAnswerer::onDialog(const QString& name, Answer answer)
+void DialogAnswerer::onDialog(const QString& name, const Answer& answer)
 {
-    m_answers.insert(name, std::move(answer));
+    m_answers.insert(name, answer);
 }
 
 int DialogAnswerer::answered(const QString& name) const

@@ -22,7 +22,7 @@ public:
 
     /// From now on dialogs with this object name are answered by `answer`, which is called once
     /// each time one is shown. Dialogs without a name go by their window title.
-    void onDialog(const QString& name, Answer answer);
+    void onDialog(const QString& name, const Answer& answer);
 
     /// How often a dialog of this name has been answered.
     int answered(const QString& name) const;

@@ -4,7 +4,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QRegularExpression>
+
+#include <algorithm>
 
 namespace {
 
@@ -74,7 +75,7 @@ void HubCheck::checkState(const DemoDevice& hub)
         differ(QStringLiteral("preset 1 was not recalled"));
     }
     const auto requests = state.value(QLatin1String("differences")).toArray();
-    for (const QJsonValue& difference : requests) {
+    for (const QJsonValue difference : requests) {
         differ(difference.toString());
     }
     const QStringList presets =
