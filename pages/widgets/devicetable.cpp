@@ -5,6 +5,8 @@
 
 #include <QHeaderView>
 
+#include <algorithm>
+
 namespace {
 
 /// `widget` itself, or what it consists of, where the Tab key stops.
@@ -46,6 +48,7 @@ int DeviceTable::addressWidth() const
 void DeviceTable::setRows(const QList<QStringList>& rows, const Decorate& decorate)
 {
     const bool sorted = isSortingEnabled();
+    m_filling = true;
     setSortingEnabled(false);
     clear();
     addRows(rows);
@@ -60,6 +63,7 @@ void DeviceTable::setRows(const QList<QStringList>& rows, const Decorate& decora
         }
     }
     setSortingEnabled(sorted);
+    m_filling = false;
     chainTabOrder();
 }
 
@@ -80,16 +84,23 @@ void DeviceTable::forgetRows()
 
 void DeviceTable::chainTabOrder()
 {
+    if (m_filling) {
+        return;
+    }
     // Widgets made late would come after everything else in the window, and stay in the order of
     // their making when the rows are sorted anew.
-    QWidget* last = this;
+    QList<QWidget*> stops;
     for (int i = 0; i < topLevelItemCount(); ++i) {
         for (int column = 0; column < columnCount(); ++column) {
-            for (QWidget* stop : tabStops(itemWidget(topLevelItem(i), column))) {
-                setTabOrder(last, stop);
-                last = stop;
-            }
+            stops.append(tabStops(itemWidget(topLevelItem(i), column)));
         }
+    }
+    // From the last one on, each right behind the table: what Qt looks at for a move is what stands
+    // before the moved widget. From the first one on that would be all widgets that were passed
+    // over, more with every row.
+    std::reverse(stops.begin(), stops.end());
+    for (QWidget* stop : std::as_const(stops)) {
+        setTabOrder(this, stop);
     }
 }
 

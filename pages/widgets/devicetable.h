@@ -49,4 +49,5 @@ private:
 
     QHash<QString, QTreeWidgetItem*> m_rows;
     int m_addressColumn;
+    bool m_filling = false; ///< the tab order waits for all rows
 };

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void tabGoesThroughTheRowsInReadingOrder();
     void tabFollowsTheRowsWhenTheyAreSortedAnew();
     void theCostOfFillingGrowsLinearlyAlsoWhenShown();
+    void theCostOfRefillingGrowsLinearlyToFourThousandRows();
 };
 
 namespace {
@@ -283,6 +284,30 @@ void TestDeviceTable::theCostOfFillingGrowsLinearlyAlsoWhenShown()
     const qint64 many = milliseconds(1000);
     // Linear would be four times; row by row it was 17 times and 12 seconds.
     QVERIFY2(many <= 8 * some + 100, qPrintable(QStringLiteral("%1 %2").arg(some).arg(many)));
+}
+
+void TestDeviceTable::theCostOfRefillingGrowsLinearlyToFourThousandRows()
+{
+    const auto milliseconds = [](int rows) {
+        Table table;
+        table.setSortingEnabled(true);
+        // A frame that takes no focus around one that does, as the pencils of the hostnames have.
+        const auto addFramedBox = [&table](QTreeWidgetItem* row) {
+            auto* frame = new QWidget(&table);
+            new IdentifyButton(QString(), frame);
+            table.setItemWidget(row, roomColumn, frame);
+        };
+        table.setRows(devices(rows), addFramedBox);
+        QElapsedTimer timer;
+        timer.start();
+        table.setRows(devices(rows), addFramedBox);
+        return timer.elapsed();
+    };
+    milliseconds(10);
+    const qint64 some = milliseconds(1000);
+    const qint64 many = milliseconds(4000);
+    // Linear would be four times.
+    QVERIFY2(many <= 10 * some + 100, qPrintable(QStringLiteral("%1 %2").arg(some).arg(many)));
 }
 
 TESSEL_TEST_MAIN(TestDeviceTable)
