@@ -3,7 +3,12 @@
 #include "savedwork.h"
 
 #include <QCoreApplication>
+#include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -16,6 +21,22 @@ constexpr qsizetype maxFieldLength = 100;
 QString field(const QString& text)
 {
     return text.left(maxFieldLength);
+}
+
+/// Puts the text of a box that would not fit on the screen behind a scroll bar.
+void keepOnScreen(QMessageBox& box)
+{
+    auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    const QSize room = box.screen()->availableSize() * 2 / 3;
+    if (label == nullptr || label->sizeHint().height() <= room.height()) {
+        return;
+    }
+    auto* scroller = new QScrollArea(&box);
+    const int barWidth = scroller->verticalScrollBar()->sizeHint().width();
+    scroller->setMinimumSize((label->sizeHint() + QSize(barWidth, 0)).boundedTo(room));
+    scroller->setFrameShape(QFrame::NoFrame);
+    delete box.layout()->replaceWidget(label, scroller);
+    scroller->setWidget(label);
 }
 
 } // namespace
@@ -37,6 +58,9 @@ QString missingDevicesText(const QList<SavedDevice>& devices)
 
 void warnOfMissingDevices(const QList<SavedDevice>& devices)
 {
-    QMessageBox::warning(nullptr, QCoreApplication::translate("MissingDevices", "Missing device"),
-                         missingDevicesText(devices));
+    QMessageBox box(QMessageBox::Warning,
+                    QCoreApplication::translate("MissingDevices", "Missing device"),
+                    missingDevicesText(devices), QMessageBox::Ok);
+    keepOnScreen(box);
+    box.exec();
 }

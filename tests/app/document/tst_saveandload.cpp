@@ -15,6 +15,7 @@
 #include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextDocument>
@@ -122,6 +123,7 @@ public:
     QMessageBox::Icon icon = QMessageBox::NoIcon;
     QMessageBox::StandardButtons buttons;
     bool hasParent = false;
+    bool fitsOnScreen = false;
 
 private Q_SLOTS:
     void look()
@@ -136,6 +138,7 @@ private Q_SLOTS:
         icon = box->icon();
         buttons = box->standardButtons();
         hasParent = box->parent() != nullptr;
+        fitsOnScreen = box->screen()->availableGeometry().contains(box->frameGeometry());
         QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
     }
 
@@ -170,6 +173,7 @@ private Q_SLOTS:
     void missingDeviceInNoRoomIsForgotten();
     void textsOfMissingDevicesAreTakenLiterally();
     void messageOfAHostileFileStaysShort();
+    void aHallFullOfMissingDevicesIsListedOnTheScreen();
     void missingDevicesStopTheLoadThere();
     void layoutsOfOneTextGetTheirOwnPictures();
     void pictureWithoutAMatchIsDropped();
@@ -430,6 +434,22 @@ void TestSaveAndLoad::messageOfAHostileFileStaysShort()
     const QString text = missingDevicesText(QList<SavedDevice>(50'000, device));
     QVERIFY(text.size() < 200'000);
     QCOMPARE(text.count(QLatin1Char('\n')), 1002);
+}
+
+void TestSaveAndLoad::aHallFullOfMissingDevicesIsListedOnTheScreen()
+{
+    TesselDoc before(nullptr);
+    addDevices(before, 250);
+    for (int number = 0; number < 250; ++number) {
+        QVERIFY(setDeviceRoom(before, addressOf(number), 1));
+    }
+    QVERIFY(before.saveResume(m_path));
+    TesselDoc after(nullptr);
+    const BoxReader reader;
+    QVERIFY(!after.loadResume(m_path));
+    QCOMPARE(reader.boxes, 1);
+    QCOMPARE(reader.text.count(QStringLiteral("Hostname:")), 250);
+    QVERIFY(reader.fitsOnScreen);
 }
 
 void TestSaveAndLoad::missingDevicesStopTheLoadThere()
