@@ -154,6 +154,8 @@ private Q_SLOTS:
     void everyTabStopHasANameOfItsOwn();
     void tabVisitsEverythingInReadingOrder_data() { addPages(); }
     void tabVisitsEverythingInReadingOrder();
+    void nextByKeyGoesOnAtTheTopOfTheNewPage_data();
+    void nextByKeyGoesOnAtTheTopOfTheNewPage();
     void paintedButtonsAreButtonsWithAToolTip_data();
     void paintedButtonsAreButtonsWithAToolTip();
     void titlesOfListsBelongToTheirLists_data();
@@ -198,6 +200,30 @@ void TestAccessibility::tabVisitsEverythingInReadingOrder()
     for (QWidget* stop : stops) {
         QVERIFY2(visited.contains(stop), describe(stop).constData());
     }
+}
+
+void TestAccessibility::nextByKeyGoesOnAtTheTopOfTheNewPage_data()
+{
+    QTest::addColumn<int>("page");
+    for (const int page : {1, 2, 3, 4, 6, 7}) {
+        QTest::addRow("from page %d", page) << page;
+    }
+}
+
+void TestAccessibility::nextByKeyGoesOnAtTheTopOfTheNewPage()
+{
+    QFETCH(const int, page);
+    const Wizard wizard(page);
+    QPushButton* next = lastButton(wizard);
+    QCOMPARE(next->text(), QStringLiteral("Next"));
+    next->setFocus();
+    QTest::keyClick(next, Qt::Key_Space);
+    QCOMPARE(wizard.stack()->currentIndex(), page);
+    const QWidget* focused = wizard.window->focusWidget();
+
+    lastButton(wizard)->setFocus();
+    QTest::keyClick(lastButton(wizard), Qt::Key_Tab);
+    QCOMPARE(focused, wizard.window->focusWidget());
 }
 
 void TestAccessibility::paintedButtonsAreButtonsWithAToolTip_data()
