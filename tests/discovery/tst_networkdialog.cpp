@@ -237,6 +237,7 @@ void TestNetworkDialog::theKeyboardAloneChoosesAndAccepts()
     ShownDialog shown(twoRows());
     QVERIFY(shown.waitUntilActive());
     QCOMPARE(shown.dialog.focusWidget(), shown.list);
+    QCOMPARE(shown.list->accessibleName(), QStringLiteral("Network interfaces"));
     QTest::keyClick(shown.list, Qt::Key_Return);
     QVERIFY2(shown.dialog.isVisible(), "nothing is selected yet");
     QTest::keyClick(shown.list, Qt::Key_Down);

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void okAndReturnAccept();
     void cancelAndEscapeReject();
     void returnOnAnEmptyNameDoesNotAccept();
+    void tabFollowsReading();
 };
 
 namespace {
@@ -123,6 +124,21 @@ void TestDeviceNameDialog::returnOnAnEmptyNameDoesNotAccept()
     QTest::keyClick(opened.edit, Qt::Key_Return);
     QCOMPARE(finished.size(), 0);
     QVERIFY(opened.dialog.isVisible());
+}
+
+void TestDeviceNameDialog::tabFollowsReading()
+{
+    Opened opened(QStringLiteral("Hub-A"));
+    QVERIFY(QTest::qWaitForWindowActive(&opened.dialog));
+    QCOMPARE(opened.dialog.focusWidget(), opened.edit);
+    // Which of the buttons stands on the left is up to the platform.
+    const bool okIsLeft = opened.ok->x() < opened.cancel->x();
+    QTest::keyClick(opened.edit, Qt::Key_Tab);
+    QCOMPARE(opened.dialog.focusWidget(), okIsLeft ? opened.ok : opened.cancel);
+    QTest::keyClick(opened.dialog.focusWidget(), Qt::Key_Tab);
+    QCOMPARE(opened.dialog.focusWidget(), okIsLeft ? opened.cancel : opened.ok);
+    QTest::keyClick(opened.dialog.focusWidget(), Qt::Key_Tab);
+    QCOMPARE(opened.dialog.focusWidget(), opened.edit);
 }
 
 TESSEL_TEST_MAIN(TestDeviceNameDialog)
