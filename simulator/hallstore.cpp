@@ -111,7 +111,7 @@ bool HallStore::writeFile(const QString& path, const QByteArray& bytes, QString*
 {
     QSaveFile file(path);
     if (QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
-        file.write(bytes) == bytes.size() && file.commit()) {
+        file.write(bytes) == bytes.size() && file.flush() && file.commit()) {
         return true;
     }
     *error = QStringLiteral("cannot write %1: %2").arg(path, file.errorString());

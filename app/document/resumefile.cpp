@@ -120,9 +120,10 @@ std::optional<ResumeFile> unpackResumeFile(const QByteArray& bytes)
 bool writeResumeFile(const QString& path, const QByteArray& bytes)
 {
     // Written beside the earlier file and renamed into its place once all of it is on the disk.
+    // Flushed by itself: when the last bytes find no room, the commit would not notice.
     QSaveFile file(path);
     return bytes.size() <= maxFileSize && file.open(QIODevice::WriteOnly) &&
-           file.write(bytes) == bytes.size() && file.commit();
+           file.write(bytes) == bytes.size() && file.flush() && file.commit();
 }
 
 std::optional<QByteArray> readResumeFile(const QString& path)

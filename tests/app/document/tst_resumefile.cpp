@@ -139,6 +139,7 @@ private Q_SLOTS:
     void writtenFileReadsBack();
     void unwritablePlacesAreTold_data();
     void unwritablePlacesAreTold();
+    void fullDiskLeavesTheEarlierFileWhole_data();
     void fullDiskLeavesTheEarlierFileWhole();
     void nothingIsLeftBesideTheFile();
     void oversizedFilesAreNeitherWrittenNorRead();
@@ -175,7 +176,9 @@ void TestResumeFile::contentComesBack()
 
 void TestResumeFile::fileOfAPlainDataStreamIsRead()
 {
-    const QPixmap mono = QPixmap::fromImage(QImage(64, 64, QImage::Format_Mono));
+    QImage image(64, 64, QImage::Format_Mono);
+    image.fill(0);
+    const QPixmap mono = QPixmap::fromImage(image);
     const auto read = unpackResumeFile(withTail([&](QDataStream& stream) {
         stream << qint64(2) << qint32(7) << QString() << mono;
         stream << qint32(-1) << QStringLiteral("1") << picture(Qt::green, {256, 256});
@@ -349,18 +352,26 @@ void TestResumeFile::unwritablePlacesAreTold()
     QVERIFY(!writeResumeFile(scratch.filePath(path), "content"));
 }
 
+void TestResumeFile::fullDiskLeavesTheEarlierFileWhole_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::newRow("small enough to be written in one piece at the end") << 5'000;
+    QTest::newRow("large") << 100'000;
+}
+
 void TestResumeFile::fullDiskLeavesTheEarlierFileWhole()
 {
 #ifdef Q_OS_LINUX
+    QFETCH(const int, size);
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("resume.dat"));
     QVERIFY(writeResumeFile(path, "earlier"));
-    for (const rlim_t room : {rlim_t(0), rlim_t(1), rlim_t(4096), rlim_t(99'999)}) {
-        QVERIFY(!writeLimited(path, QByteArray(100'000, 'x'), room));
+    for (const int room : {0, 1, 4096, size - 1}) {
+        QVERIFY(!writeLimited(path, QByteArray(size, 'x'), rlim_t(room)));
     }
     QCOMPARE(contentOf(path), QByteArray("earlier"));
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
-    QVERIFY(writeResumeFile(path, QByteArray(100'000, 'x')));
+    QVERIFY(writeResumeFile(path, QByteArray(size, 'x')));
 #else
     QSKIP("Files cannot be limited in size here.");
 #endif
