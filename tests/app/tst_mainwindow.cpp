@@ -61,8 +61,10 @@ struct Wizard
         setRoomCells(doc, 2, {{1, 0}, {1, 1}});
         setDeviceRoom(doc, QStringLiteral("127.60.0.1"), 1);
         setDeviceRoom(doc, QStringLiteral("127.60.0.2"), 2);
-        addLayout(doc, {1, QStringLiteral("1/2"), QPixmap(64, 64)});
-        addLayout(doc, {2, QStringLiteral("1+2"), QPixmap(64, 64)});
+        QPixmap picture(64, 64);
+        picture.fill(Qt::white);
+        addLayout(doc, {1, QStringLiteral("1/2"), picture});
+        addLayout(doc, {2, QStringLiteral("1+2"), picture});
     }
 
     void open()

@@ -142,11 +142,12 @@ pid_t startSaving(const QString& path, TesselDoc& one, TesselDoc& other)
     if (pipe(began.data()) != 0) {
         return -1;
     }
+    const pid_t test = getpid();
     const pid_t child = fork();
     if (child == 0) {
         one.saveResume(path);
         const bool told = write(began[1], "", 1) == 1;
-        while (told) {
+        while (told && getppid() == test) {
             other.saveResume(path);
             one.saveResume(path);
         }

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void cancelRejects();
     void typedTextStaysForTheNextPrompt();
     void everyPromptBeginsInThePasswordField();
+    void theNextPromptDoesNotRememberHowTheTextWasTyped();
     void labelsAndTabOrderFollowReading();
 };
 
@@ -199,6 +200,21 @@ void TestLoginDialog::everyPromptBeginsInThePasswordField()
     dialog->accept();
     dialog->show();
     QCOMPARE(dialog->focusWidget(), password);
+}
+
+void TestLoginDialog::theNextPromptDoesNotRememberHowTheTextWasTyped()
+{
+    QWidget page;
+    auto* dialog = newDialog(&page);
+    auto* password = find<QLineEdit>(*dialog, "passwordEdit");
+    dialog->show();
+    QTest::keyClicks(password, QStringLiteral("first"));
+    dialog->accept();
+    dialog->show();
+    QCOMPARE(password->text(), QStringLiteral("first"));
+    // What was typed can be taken back in a readable field only.
+    password->setEchoMode(QLineEdit::Normal);
+    QVERIFY(!password->isUndoAvailable());
 }
 
 void TestLoginDialog::labelsAndTabOrderFollowReading()
