@@ -1,0 +1,174 @@
+#include "secretrun.h"
+
+#include "hall.h"
+#include "hallreport.h"
+#include "hallstore.h"
+#include "loginanswers.h"
+#include "mainwindow.h"
+#include "modalanswer.h"
+#include "pagefixtures.h"
+#include "presetqueries.h"
+#include "recordingrelay.h"
+#include "sessionqueries.h"
+#include "setqueries.h"
+#include "tablefixtures.h"
+#include "tesseldoc.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <memory>
+#include <vector>
+
+const char* const wrongPassword = "wr0ngSecretOne";
+const char* const rightPassword = "r1ghtSecretTwo";
+const char* const firstPassword = "f1rstSecretSix";
+
+namespace {
+
+constexpr int hubCount = 3;
+constexpr int installPage = 7;
+constexpr int statusColumn = 3;
+constexpr int longestWaitMs = 20'000;
+
+QString hubAddress(int hub)
+{
+    return QStringLiteral("127.83.2.%1").arg(hub);
+}
+
+QString relayAddress(int hub)
+{
+    return QStringLiteral("127.83.1.%1").arg(hub);
+}
+
+HallDescription describe()
+{
+    HallDescription description = HallDescription::byCounts(hubCount, 0, hubAddress(1)).value();
+    for (HubDescription& hub : description.hubs) {
+        hub.exportPolls = 0; // each poll would block the whole program for a second
+    }
+    description.hubs.first().password = QString::fromLatin1(rightPassword);
+    description.hubs.last().password = QString::fromLatin1(rightPassword);
+    return description;
+}
+
+/// Every hub in a room of its own, and one layout.
+void fill(TesselDoc& doc)
+{
+    setNicIndex(doc, installPage); // any interface: the window must not ask for one
+    drawRooms(doc, hubCount);
+    for (int hub = 1; hub <= hubCount; ++hub) {
+        addTestDevice(doc, QStringLiteral("Hub-%1").arg(hub), QStringLiteral("PX-HB"),
+                      relayAddress(hub), hub);
+        addToDeviceSet(doc, hub, 1, relayAddress(hub), false);
+        addPreset(doc, hub, 1, QStringLiteral("Room %1").arg(hub));
+    }
+    addTestLayout(doc, 1, QStringLiteral("1/2/3"));
+}
+
+void install(const MainWindow& window)
+{
+    LoginAnswers answers(QString::fromLatin1(firstPassword));
+    answers.type(relayAddress(1),
+                 {QString::fromLatin1(wrongPassword), QString::fromLatin1(rightPassword)});
+    answers.cancel(relayAddress(3));
+    press(buttonOf(window, "executeButton"));
+    const auto* list = window.findChild<QTreeWidget*>(QStringLiteral("hubList"));
+    QTRY_COMPARE_WITH_TIMEOUT(columnTexts(*list, statusColumn).join(u' '),
+                              QStringLiteral("Done Done Error"), longestWaitMs);
+}
+
+void installAndSave(TesselDoc& doc)
+{
+    MainWindow window(nullptr, &doc);
+    window.show();
+    for (int page = 0; page < installPage; ++page) {
+        window.next();
+    }
+    install(window);
+    const ModalAnswer question(QStringLiteral("Yes"));
+    QVERIFY(window.close());
+    QVERIFY(question.wasShown());
+}
+
+/// The program's own file is gone once it has been resumed; a copy stays to be searched.
+void keepResumeFile()
+{
+    const QString path =
+        QDir::homePath() + QStringLiteral("/AppData/Roaming/Korvane/Nodewise/Tessel/resume.dat");
+    QVERIFY(QFile::copy(path, QDir::homePath() + QStringLiteral("/resume-copy.dat")));
+}
+
+QByteArray md5(const char* password)
+{
+    return QCryptographicHash::hash(password, QCryptographicHash::Md5).toHex();
+}
+
+/// How many of the requests have it in the body; -1 when any has it in its head, or when a request
+/// has it that is none of the two which may.
+int bodiesWith(const RecordingRelay& relay, const QByteArray& digest)
+{
+    int bodies = 0;
+    for (const QByteArray& request : relay.requests()) {
+        if (!request.contains(digest)) {
+            continue;
+        }
+        const QByteArray line = request.first(request.indexOf("\r\n"));
+        const bool mayHaveIt =
+            line.contains("/api/v0/auth/validate ") || line.contains("/api/v0/auth/authenticate ");
+        if (!mayHaveIt || request.indexOf(digest) < request.indexOf("\r\n\r\n")) {
+            return -1;
+        }
+        ++bodies;
+    }
+    return bodies;
+}
+
+void printHall(const Hall& hall)
+{
+    qInfo().noquote() << hallSummary(hall);
+    for (const SimulatedHub* hub : hall.hubs()) {
+        for (const JournalEntry& entry : hub->journal()) {
+            qInfo().noquote() << entry.name << entry.text << entry.differences.join(u'|');
+        }
+    }
+}
+
+} // namespace
+
+void SecretRun::installsSavesAndResumes()
+{
+    Hall hall(describe());
+    QString error;
+    QVERIFY2(hall.start(&error), qPrintable(error));
+    HallStore store(hall, QDir::homePath() + QStringLiteral("/hall"));
+    QVERIFY2(store.start(&error), qPrintable(error));
+    std::vector<std::unique_ptr<RecordingRelay>> relays;
+    for (int hub = 1; hub <= hubCount; ++hub) {
+        relays.push_back(std::make_unique<RecordingRelay>(relayAddress(hub), hubAddress(hub)));
+        QVERIFY(relays.back()->isListening());
+    }
+
+    TesselDoc doc(nullptr);
+    fill(doc);
+    installAndSave(doc);
+    keepResumeFile();
+    const MainWindow resumed(nullptr, &doc);
+    QCOMPARE(pageIndex(doc), installPage);
+    printHall(hall);
+
+    QCOMPARE(bodiesWith(*relays.at(0), md5(wrongPassword)), 1);
+    QCOMPARE(bodiesWith(*relays.at(0), md5(rightPassword)), 1);
+    QCOMPARE(bodiesWith(*relays.at(1), md5(firstPassword)), 2);
+    QVERIFY(!relays.at(2)->requests().isEmpty());
+    for (const auto& relay : relays) {
+        for (const char* password : {wrongPassword, rightPassword, firstPassword}) {
+            QVERIFY(!relay->requests().join().contains(password));
+        }
+    }
+    QCOMPARE(bodiesWith(*relays.at(2), md5(rightPassword)), 0);
+}
