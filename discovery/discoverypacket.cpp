@@ -2,6 +2,9 @@
 
 #include <QHostAddress>
 #include <QStringList>
+#include <QtEndian>
+
+#include <algorithm>
 
 namespace {
 
@@ -87,9 +90,12 @@ QString addressText(const QByteArray& bytes)
 // Takes the text at `offset` and moves the offset behind it.
 QString takeText(const QByteArray& bytes, qsizetype& offset)
 {
-    const QByteArray text = bytes.mid(offset + 1, signedByteAt(bytes, offset));
-    offset += 1 + text.size();
-    return QString::fromUtf8(text);
+    const qsizetype start = std::min(offset + 1, bytes.size());
+    const qsizetype rest = bytes.size() - start;
+    const int length = signedByteAt(bytes, offset);
+    const qsizetype taken = length < 0 ? rest : std::min<qsizetype>(length, rest);
+    offset += 1 + taken;
+    return QString::fromUtf8(QByteArrayView(bytes).sliced(start, taken));
 }
 
 } // namespace
@@ -134,11 +140,7 @@ std::optional<DiscoveryPacket> parseDiscoveryPacket(const QByteArray& bytes)
 QString formatAddressBytes(const QByteArray& address)
 {
     if (address.size() == ipv4Size) {
-        return QStringLiteral("%1.%2.%3.%4")
-            .arg(byteAt(address, 0))
-            .arg(byteAt(address, 1))
-            .arg(byteAt(address, 2))
-            .arg(byteAt(address, 3));
+        return QHostAddress(qFromBigEndian<quint32>(address.constData())).toString();
     }
     if (address.size() != ipv6Size) {
         return {};
