@@ -13,8 +13,6 @@
 
 namespace {
 
-constexpr qint64 bytesPerKiB = 1024;
-
 void addWithChildren(QSet<QObject*>& objects, QObject* root)
 {
     const auto children = root->findChildren<QObject*>();
@@ -49,6 +47,8 @@ qint64 openFiles()
     return folder.exists() ? folder.entryList(QDir::Files | QDir::System).size() : -1;
 }
 
+// A checker of addresses has a heap of its own and holds back what the program has freed.
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
 qint64 residentKiB()
 {
     QFile status(QStringLiteral("/proc/self/status"));
@@ -61,6 +61,17 @@ qint64 residentKiB()
     }
     return -1;
 }
+
+void measureMemory(Footprint& footprint)
+{
+    constexpr qint64 bytesPerKiB = 1024;
+    malloc_trim(0);
+    footprint.heapKiB = qint64(mallinfo2().uordblks) / bytesPerKiB;
+    footprint.residentKiB = residentKiB();
+}
+#else
+void measureMemory(Footprint& /*footprint*/) {}
+#endif
 
 } // namespace
 
@@ -81,11 +92,6 @@ Footprint measureFootprint(const QObject& root)
     footprint.objects = objects.size();
     footprint.timers = timersOf(objects);
     footprint.files = openFiles();
-#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
-    // A checker of addresses has a heap of its own and holds back what the program has freed.
-    malloc_trim(0);
-    footprint.heapKiB = qint64(mallinfo2().uordblks) / bytesPerKiB;
-    footprint.residentKiB = residentKiB();
-#endif
+    measureMemory(footprint);
     return footprint;
 }
