@@ -12,6 +12,8 @@
 #include <QTimerEvent>
 #include <QWidget>
 
+#include <utility>
+
 namespace {
 
 constexpr int tickMs = 1000;
@@ -52,11 +54,7 @@ void PresetFileSender::start()
     m_state = State::AwaitingReply;
     setErrorVisible(false);
     startCountdown();
-    if (m_socket->state() == QAbstractSocket::ConnectedState) {
-        send();
-    } else {
-        connectToHub();
-    }
+    send();
 }
 
 void PresetFileSender::sendPresets()
@@ -90,10 +88,7 @@ void PresetFileSender::timerEvent(QTimerEvent* event)
 
 void PresetFileSender::tcpConnected()
 {
-    // Every later request was written when the connection was ordered, and is on its way.
-    if (m_run.step() == InstallStep::Status) {
-        send();
-    }
+    writeUnsent();
 }
 
 void PresetFileSender::tcpReadyRead()
@@ -175,8 +170,18 @@ void PresetFileSender::send()
     m_state = State::AwaitingReply;
     // What arrived before the question is no answer to it.
     m_reader->reset();
+    m_unsent = request->toUtf8();
     connectToHub();
-    m_socket->write(request->toUtf8());
+    writeUnsent();
+}
+
+/// A socket that is still connecting must not be given anything: should the hub refuse, it would
+/// not get over it, and no later connection would come about.
+void PresetFileSender::writeUnsent()
+{
+    if (m_socket->state() == QAbstractSocket::ConnectedState) {
+        m_socket->write(std::exchange(m_unsent, QByteArray()));
+    }
 }
 
 void PresetFileSender::evaluate(const QString& reply)
@@ -250,6 +255,7 @@ void PresetFileSender::end(bool success)
 {
     m_ticks.stop();
     m_state = State::Idle;
+    m_unsent.clear();
     if (!success) {
         m_socket->abort();
     }

@@ -91,6 +91,7 @@ private:
     void connectToHub();
     void startCountdown();
     void send();
+    void writeUnsent();
     void evaluate(const QString& reply);
     void carryOut(InstallMove move);
     void ask();
@@ -110,6 +111,7 @@ private:
     bool m_loggedIn = false;
     bool m_loginCancelled = false;
     QTcpSocket* m_socket = nullptr;
+    QByteArray m_unsent; ///< the request that waits for the connection
     std::unique_ptr<ReplyReader> m_reader;
     QBasicTimer m_ticks;
     int m_secondsLeft = 0;
