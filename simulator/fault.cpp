@@ -26,6 +26,7 @@ constexpr std::array rows = {
     KindRow{FaultKind::ConnectionHeader, "connection", Channel::Http, FaultValue::Bytes},
     KindRow{FaultKind::Garbage, "garbage", Channel::Http, FaultValue::None},
     KindRow{FaultKind::Body, "body", Channel::Http, FaultValue::Bytes},
+    KindRow{FaultKind::InsertedText, "inserted-text", Channel::Http, FaultValue::Bytes},
     KindRow{FaultKind::RawReply, "raw-reply", Channel::Http, FaultValue::Bytes},
     KindRow{FaultKind::Reboot, "reboot", Channel::Http, FaultValue::Number},
     KindRow{FaultKind::RefuseHttp, "refuse", Channel::Http, FaultValue::None},

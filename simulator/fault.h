@@ -25,6 +25,7 @@ enum class FaultKind
     ConnectionHeader,   ///< the Connection line holds `bytes`; the hub closes on exactly "close"
     Garbage,            ///< the body is no JSON, with its right length
     Body,               ///< the body is `bytes`, with its right length
+    InsertedText,       ///< `bytes` stand behind the body's first character, with the right length
     RawReply,           ///< the whole reply is `bytes`
     Reboot,             ///< connections and tokens are dropped, the hub is deaf for `number` ms
     RefuseHttp,         ///< connections to the HTTP port are refused

@@ -59,6 +59,8 @@ void applyToBody(HubReply& reply, const Fault& fault)
         reply.setBody("{\"is-initialized\": <<<");
     } else if (fault.kind == FaultKind::Body) {
         reply.setBody(fault.bytes);
+    } else if (fault.kind == FaultKind::InsertedText) {
+        reply.setBody(reply.body.first(1) + fault.bytes + reply.body.sliced(1));
     }
 }
 

@@ -16,15 +16,19 @@ constexpr int addressColumn = 2;
 constexpr int statusColumn = 3;
 const char* const password = "secret7";
 
-HallDescription describe(const QString& base, int hubs)
+} // namespace
+
+HallDescription quickHall(const QString& base, int hubs, int peripherals)
 {
-    HallDescription description = HallDescription::byCounts(hubs, 0, base).value();
+    HallDescription description = HallDescription::byCounts(hubs, peripherals, base).value();
     for (HubDescription& hub : description.hubs) {
         hub.password = QString::fromLatin1(password);
-        hub.exportPolls = 0; // each poll would block the whole program for a second
+        hub.exportPolls = 0;
     }
     return description;
 }
+
+namespace {
 
 /// Layout 1 has every room for itself; in layout 2 all rooms are one, with the first hub.
 void fillDocument(IDocAccessor& doc, const QList<HubDescription>& hubs)
@@ -45,16 +49,32 @@ void fillDocument(IDocAccessor& doc, const QList<HubDescription>& hubs)
     addTestLayout(doc, 2, numbers.join(u'+'));
 }
 
+/// The peripherals stand in room 1 and belong to its set in each layout.
+void addPeripherals(IDocAccessor& doc, const HallDescription& description)
+{
+    for (const DeviceDescription& device : description.peripherals) {
+        addTestDevice(doc, device.label, device.model, device.address, 1);
+        addToDeviceSet(doc, 1, 1, device.address, false);
+        addToDeviceSet(doc, int(description.hubs.size()) + 1, 2, device.address, false);
+    }
+}
+
 } // namespace
 
 InstallHall::InstallHall(const QString& base, int hubs)
-    : hall(describe(base, hubs))
+    : InstallHall(quickHall(base, hubs, 0))
+{
+}
+
+InstallHall::InstallHall(const HallDescription& description)
+    : hall(description)
     , answers(QString::fromLatin1(password))
 {
     QString error;
     const bool started = hall.start(&error);
     QVERIFY2(started, qPrintable(error));
-    fillDocument(doc, hall.description().hubs);
+    fillDocument(doc, description.hubs);
+    addPeripherals(doc, description);
     page.enterFrom(7);
     page.resize(780, 540);
     page.show();

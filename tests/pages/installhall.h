@@ -9,12 +9,18 @@
 class QPushButton;
 class QTreeWidget;
 
+/// A hall whose hubs have the password that the user knows, and export at once: each poll for an
+/// export that is not ready yet would block the whole program for a second.
+HallDescription quickHall(const QString& base, int hubs, int peripherals);
+
 /// A simulated hall with its hubs one per room, a document with two layouts and named presets for
 /// it, and the installation step in front of a user who knows the password of every hub.
 struct InstallHall
 {
     /// The hubs get the addresses base, base + 1, ...
     InstallHall(const QString& base, int hubs);
+    /// The peripherals of the description are placed with its first hub.
+    explicit InstallHall(const HallDescription& description);
 
     /// The address of a hub, from 1, and the hub itself.
     QString address(int hub) const;

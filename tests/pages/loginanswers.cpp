@@ -48,6 +48,11 @@ void LoginAnswers::cancel(const QString& hub)
     m_cancelled.append(hub);
 }
 
+void LoginAnswers::giveUpAfter(const QString& hub, int answers)
+{
+    m_mostAnswers.insert(hub, answers);
+}
+
 void LoginAnswers::hold(const QString& hub, std::function<bool()> ready, std::function<void()> look)
 {
     m_heldHub = hub;
@@ -59,8 +64,9 @@ void LoginAnswers::hold(const QString& hub, std::function<bool()> ready, std::fu
 void LoginAnswers::timerEvent(QTimerEvent* /*event*/)
 {
     QDialog* dialog = dialogInFront();
-    if (dialog && dialog->isVisible() && !isHeld(hubOf(dialog))) {
-        answer(dialog, hubOf(dialog));
+    const QString hub = dialog && dialog->isVisible() ? hubOf(dialog) : QString();
+    if (!hub.isEmpty() && !isHeld(hub)) {
+        answer(dialog, hub);
     }
 }
 
@@ -81,7 +87,9 @@ bool LoginAnswers::isHeld(const QString& hub)
 void LoginAnswers::answer(QDialog* dialog, const QString& hub)
 {
     m_prompts.append(hub);
-    if (m_cancelled.removeOne(hub)) {
+    const bool isTired =
+        m_mostAnswers.contains(hub) && m_prompts.count(hub) > m_mostAnswers.value(hub);
+    if (isTired || m_cancelled.removeOne(hub)) {
         QTest::keyClick(dialog, Qt::Key_Escape);
         return;
     }

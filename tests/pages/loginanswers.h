@@ -24,6 +24,8 @@ public:
     void type(const QString& hub, const QStringList& passwords);
     /// Presses Escape in the dialog of this hub, once.
     void cancel(const QString& hub);
+    /// Presses Escape in every dialog of this hub after so many answers.
+    void giveUpAfter(const QString& hub, int answers);
     /// Leaves the dialog of this hub open until it is in front and `ready` is true; then looks
     /// around with `look` before it answers. A test that waits for something waits inside the
     /// dialog that has come up meanwhile, so that what is true while it is open is seen here only.
@@ -43,6 +45,7 @@ private:
     QString m_password;
     QHash<QString, QStringList> m_passwords;
     QStringList m_cancelled;
+    QHash<QString, int> m_mostAnswers;
     QString m_heldHub;
     QDeadlineTimer m_patience; ///< a condition that never comes true must not hang the test
     std::function<bool()> m_ready;

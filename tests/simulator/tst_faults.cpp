@@ -160,6 +160,9 @@ void TestFaults::replyUnderAFault_data()
     row("another body", {.kind = FaultKind::Body, .bytes = "\xC3\x84\r\n\r\n"},
         "7\r\nConnection: keep-alive\r\n\r\n{\"a\":1}",
         "6\r\nConnection: keep-alive\r\n\r\n\xC3\x84\r\n\r\n", false, false);
+    row("text in the body", {.kind = FaultKind::InsertedText, .bytes = "\r\n\xC3\x84"},
+        "7\r\nConnection: keep-alive\r\n\r\n{\"a\":1}",
+        "11\r\nConnection: keep-alive\r\n\r\n{\r\n\xC3\x84\"a\":1}", false, false);
     row("raw bytes", {.kind = FaultKind::RawReply, .bytes = "xyz"}, okBytes.constData(), "xyz",
         false, false);
     row("a reboot", {.kind = FaultKind::Reboot, .number = 9}, okBytes.constData(), "", false, true);

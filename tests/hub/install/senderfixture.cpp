@@ -2,10 +2,6 @@
 
 #include "hubdialog.h"
 
-#include <QAbstractEventDispatcher>
-#include <QCoreApplication>
-#include <QTimerEvent>
-
 namespace {
 
 constexpr int waitMs = 10000;
@@ -65,21 +61,4 @@ QString SenderFixture::outcomes() const
         results.append(arguments.at(1).toString());
     }
     return results.join(u' ');
-}
-
-void passSeconds(QObject* sender, int seconds)
-{
-    for (int i = 0; i < seconds; ++i) {
-        const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(sender);
-        if (timers.isEmpty()) {
-            return;
-        }
-        QTimerEvent event(timers.first().timerId);
-        QCoreApplication::sendEvent(sender, &event);
-    }
-}
-
-bool isClockRunning(QObject* sender)
-{
-    return !QAbstractEventDispatcher::instance()->registeredTimers(sender).isEmpty();
 }

@@ -5,6 +5,7 @@
 #include "installpage.h"
 #include "presetfilesender.h"
 #include "promptwatcher.h"
+#include "senderclock.h"
 
 #include <QSignalSpy>
 
@@ -42,9 +43,3 @@ struct SenderFixture
     PromptWatcher::Answer answer; ///< may be replaced by a test
     PromptWatcher watcher;
 };
-
-/// Lets the seconds of a sender's time-out pass.
-void passSeconds(QObject* sender, int seconds);
-
-/// Whether a sender's clock runs.
-bool isClockRunning(QObject* sender);

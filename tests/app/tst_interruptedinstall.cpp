@@ -1,0 +1,267 @@
+#include "installhall.h"
+#include "installwatch.h"
+#include "mainwindow.h"
+#include "modalanswer.h"
+#include "pagefixtures.h"
+#include "sessionqueries.h"
+#include "tablefixtures.h"
+#include "testcase.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStackedWidget>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <memory>
+
+/// The real window, left or closed while it installs.
+class TestInterruptedInstall : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void backDuringAnyRequestAndForthAgainLetsTheInstallationGoOn_data();
+    void backDuringAnyRequestAndForthAgainLetsTheInstallationGoOn();
+    void closedDuringAnyRequestNothingBreaksAndTheNextWindowInstalls_data();
+    void closedDuringAnyRequestNothingBreaksAndTheNextWindowInstalls();
+    void theInstallationGoesOnBehindTheQuestionAndAfterCancel();
+    void aHubMayAskForItsPasswordOverTheQuestion_data();
+    void aHubMayAskForItsPasswordOverTheQuestion();
+    void workSavedDuringAnInstallationIsInstalledAtTheNextStart();
+};
+
+namespace {
+
+const QString base = QStringLiteral("127.71.1.1");
+constexpr int slowMs = 150;
+constexpr int installIndex = 7;
+constexpr int statusColumn = 3;
+
+HallDescription describe(Exchange exchange)
+{
+    HallDescription description = quickHall(base, 2, 1);
+    if (exchange == Exchange::SetPassword) {
+        description.hubs.first().password.reset();
+    }
+    return description;
+}
+
+std::unique_ptr<MainWindow> openWindow(IDocAccessor& doc)
+{
+    setNicIndex(doc, 1);
+    auto window = std::make_unique<MainWindow>(nullptr, &doc);
+    window->show();
+    return window;
+}
+
+/// A hall, and the window on the installation step in front of it.
+struct Wizard
+{
+    explicit Wizard(Exchange exchange)
+        : step(describe(exchange))
+    {
+        step.page.hide();
+        open();
+    }
+
+    void open()
+    {
+        window = openWindow(step.doc);
+        for (int index = 0; index < installIndex; ++index) {
+            window->next();
+        }
+    }
+
+    QPushButton* button(const char* name) const { return buttonOf(page(), name); }
+    QString statuses() const
+    {
+        return columnTexts(*tableOf(page(), "hubList"), statusColumn).join(u' ');
+    }
+    const QWidget& page() const
+    {
+        return *window->findChild<QStackedWidget*>(QStringLiteral("pageStack"))
+                    ->widget(installIndex);
+    }
+
+    /// "Execute", until the first hub is at this request.
+    void installUntil(Exchange exchange) const
+    {
+        QSignalSpy handled(&step.hall, SIGNAL(requestHandled(QString, QString)));
+        press(button("executeButton"));
+        while (timesAsked(*step.hub(1), exchange) == 0 && handled.wait()) {
+        }
+        QCOMPARE(timesAsked(*step.hub(1), exchange), 1);
+    }
+
+    void installWhole() const
+    {
+        QCOMPARE(button("executeButton")->text(), QStringLiteral("Execute"));
+        press(button("executeButton"));
+        QVERIFY(waitUntilOver(page()));
+        QCOMPARE(statuses(), QStringLiteral("Done Done"));
+        QCOMPARE(button("executeButton")->text(), QStringLiteral("Next"));
+        QCOMPARE(step.hub(1)->presets().size(), 2);
+        QCOMPARE(step.hub(1)->presets().value(2).files.size(), 2);
+        QCOMPARE(step.hub(1)->recalledPreset(), 1);
+    }
+
+    InstallHall step;
+    std::unique_ptr<MainWindow> window;
+};
+
+void addRequestRows()
+{
+    QTest::addColumn<Exchange>("exchange");
+    for (int step = 0; step <= lastInstallationStep; ++step) {
+        const auto exchange = static_cast<Exchange>(step);
+        QTest::newRow(qPrintable(exchangeName(exchange))) << exchange;
+    }
+}
+
+QString resumePath()
+{
+    return QDir::homePath() + QStringLiteral("/AppData/Roaming/Korvane/Nodewise/Tessel/resume.dat");
+}
+
+} // namespace
+
+void TestInterruptedInstall::cleanup()
+{
+    QDir(QDir::homePath() + QStringLiteral("/AppData")).removeRecursively();
+}
+
+void TestInterruptedInstall::backDuringAnyRequestAndForthAgainLetsTheInstallationGoOn_data()
+{
+    addRequestRows();
+}
+
+void TestInterruptedInstall::backDuringAnyRequestAndForthAgainLetsTheInstallationGoOn()
+{
+    QFETCH(const Exchange, exchange);
+    Wizard wizard(exchange);
+    wizard.step.setFault(1, {.exchange = exchange, .kind = FaultKind::Slow, .number = slowMs});
+    wizard.installUntil(exchange);
+    press(wizard.button("backButton"));
+    QVERIFY(!wizard.page().isVisible());
+    wizard.window->next();
+    QVERIFY(wizard.statuses().startsWith(QLatin1String("Installing...")));
+    QVERIFY(!wizard.button("executeButton")->isEnabled());
+    QVERIFY(waitUntilOver(wizard.page()));
+    QVERIFY(wizard.statuses().startsWith(QLatin1String("Done")));
+    QCOMPARE(wizard.step.hub(1)->presets().size(), 2);
+    QCOMPARE(wizard.step.hub(1)->logInCount(), 1);
+    QVERIFY(wizard.button("executeButton")->isEnabled());
+}
+
+void TestInterruptedInstall::closedDuringAnyRequestNothingBreaksAndTheNextWindowInstalls_data()
+{
+    addRequestRows();
+}
+
+void TestInterruptedInstall::closedDuringAnyRequestNothingBreaksAndTheNextWindowInstalls()
+{
+    QFETCH(const Exchange, exchange);
+    Wizard wizard(exchange);
+    wizard.step.setFault(1, {.exchange = exchange, .kind = FaultKind::Silence});
+    wizard.installUntil(exchange);
+    waitUntilQuiet(wizard.step);
+    {
+        const ModalAnswer answer(QStringLiteral("No"));
+        QVERIFY(wizard.window->close());
+        QVERIFY(answer.wasShown());
+    }
+    wizard.window.reset();
+    waitUntilQuiet(wizard.step);
+    QCOMPARE(wizard.step.hub(1)->exchangeNames().last(), exchangeName(exchange));
+    QVERIFY(!QApplication::activeModalWidget());
+
+    wizard.step.hall.clearFaults();
+    wizard.open();
+    wizard.installWhole();
+}
+
+void TestInterruptedInstall::theInstallationGoesOnBehindTheQuestionAndAfterCancel()
+{
+    Wizard wizard(Exchange::StartExport);
+    wizard.step.setFault(
+        1, {.exchange = Exchange::StartExport, .kind = FaultKind::Slow, .number = slowMs});
+    wizard.step.setFault(1,
+                         {.exchange = Exchange::Recall, .kind = FaultKind::Slow, .number = slowMs});
+    wizard.installUntil(Exchange::StartExport);
+    int heldBehind = 0;
+    const ModalAnswer answer([&](QWidget* question) {
+        QTRY_COMPARE(timesAsked(*wizard.step.hub(1), Exchange::Recall), 1);
+        heldBehind = int(wizard.step.hub(1)->presets().size());
+        clickButton(question, QStringLiteral("Cancel"));
+    });
+    QVERIFY(!wizard.window->close());
+    QVERIFY(answer.wasShown());
+    QCOMPARE(heldBehind, 2);
+    QVERIFY(wizard.window->isVisible());
+    QVERIFY(waitUntilOver(wizard.page()));
+    QCOMPARE(wizard.statuses(), QStringLiteral("Done Done"));
+    QVERIFY2(wizard.window->close(), "with everything installed nothing is asked");
+}
+
+void TestInterruptedInstall::aHubMayAskForItsPasswordOverTheQuestion_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("isClosed");
+    QTest::newRow("Yes") << QStringLiteral("Yes") << true;
+    QTest::newRow("No") << QStringLiteral("No") << true;
+    QTest::newRow("Cancel") << QStringLiteral("Cancel") << false;
+}
+
+void TestInterruptedInstall::aHubMayAskForItsPasswordOverTheQuestion()
+{
+    QFETCH(const QString, button);
+    QFETCH(const bool, isClosed);
+    Wizard wizard(Exchange::Token);
+    // Closed before the first hub could say a word, so that its question comes over the one of the
+    // window.
+    press(wizard.button("executeButton"));
+    const ModalAnswer answer([&](QWidget*) {
+        auto* question = wizard.window->findChild<QMessageBox*>();
+        QTRY_COMPARE(wizard.step.answers.prompts().size(), 2);
+        QTRY_VERIFY(QApplication::activeModalWidget() == question);
+        clickButton(question, button);
+    });
+    QCOMPARE(wizard.window->close(), isClosed);
+    QVERIFY(answer.wasShown());
+    QVERIFY(waitUntilOver(wizard.page()));
+    QCOMPARE(wizard.statuses(), QStringLiteral("Done Done"));
+}
+
+void TestInterruptedInstall::workSavedDuringAnInstallationIsInstalledAtTheNextStart()
+{
+    Wizard wizard(Exchange::HubFile);
+    wizard.step.setFault(1, {.exchange = Exchange::HubFile, .kind = FaultKind::Silence});
+    wizard.installUntil(Exchange::HubFile);
+    const ModalAnswer answer(QStringLiteral("Yes"));
+    QVERIFY(wizard.window->close());
+    QVERIFY(QFile::exists(resumePath()));
+    wizard.window.reset();
+    wizard.step.hall.clearFaults();
+
+    TesselDoc doc(nullptr);
+    const HallDescription hall = wizard.step.hall.description();
+    for (const HubDescription& hub : hall.hubs) {
+        addTestDevice(doc, hub.label, hub.model, hub.address);
+    }
+    for (const DeviceDescription& device : hall.peripherals) {
+        addTestDevice(doc, device.label, device.model, device.address);
+    }
+    wizard.window = openWindow(doc);
+    QCOMPARE(wizard.statuses(), QStringLiteral(" "));
+    wizard.installWhole();
+    wizard.window.reset();
+}
+
+TESSEL_TEST_MAIN(TestInterruptedInstall)
+#include "tst_interruptedinstall.moc"
