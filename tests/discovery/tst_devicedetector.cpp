@@ -24,6 +24,8 @@ private Q_SLOTS:
     void theAddressInsideTheReplyCounts();
     void datagramsThatStartNoQuery_data();
     void datagramsThatStartNoQuery();
+    void oddRepliesThatAreTakenNonetheless_data();
+    void oddRepliesThatAreTakenNonetheless();
     void twoDatagramsOfOneSenderReadTogetherAreDropped();
     void repliesOfManySendersReadTogetherAreAllTaken();
     void repliesWithoutAUsableAddressAreNeverReported_data();
@@ -161,6 +163,42 @@ void TestDeviceDetector::datagramsThatStartNoQuery()
     waitForControlDevice(search);
     QCOMPARE(search.reported(), QStringList{address(250)});
     QCOMPARE(search.queries(), 1);
+    answer(device);
+    QTRY_COMPARE(search.reported(), (QStringList{address(250), address(30)}));
+}
+
+void TestDeviceDetector::oddRepliesThatAreTakenNonetheless_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("model");
+    const auto row = [](const char* name, const char* model,
+                        const std::function<void(ScriptedReply&)>& spoil) {
+        auto reply = ScriptedReply::from(address(37), "PX-DL5", 1);
+        spoil(reply);
+        QTest::newRow(name) << reply.bytes() << QString::fromUtf8(model);
+    };
+    row("byte 6 is 0x81", "PX-DL5", [](ScriptedReply& reply) { reply.flags = char(0x81); });
+    row("byte 6 is 0xFF", "PX-DL5", [](ScriptedReply& reply) { reply.flags = char(0xFF); });
+    row("another service", "PX-DL5", [](ScriptedReply& reply) { reply.service = "_other"; });
+    row("no service", "PX-DL5", [](ScriptedReply& reply) { reply.service.clear(); });
+    row("no body", "", [](ScriptedReply& reply) { reply.bodyIndicator = QByteArray(2, '\0'); });
+    row("an empty model", "", [](ScriptedReply& reply) { reply.model.clear(); });
+    row("a name that is no UTF-8", "PX-DL5", [](ScriptedReply& reply) { reply.name = "\xFF"; });
+    row("a non-ASCII model", "PX-\xC3\x9C",
+        [](ScriptedReply& reply) { reply.model = "PX-\xC3\x9C"; });
+    row("a MAC address of zeros", "PX-DL5",
+        [](ScriptedReply& reply) { reply.mac = QByteArray(6, '\0'); });
+}
+
+void TestDeviceDetector::oddRepliesThatAreTakenNonetheless()
+{
+    QFETCH(const QByteArray, bytes);
+    SimpleDevice device(address(37), "PX-DL5", "S37", 1);
+    QVERIFY(device.open());
+    Search search;
+    device.send(bytes, wizard);
+    QTRY_COMPARE(search.reported(), QStringList{address(37)});
+    QTEST(search.detector.deviceInfo(address(37)).modelName, "model");
 }
 
 void TestDeviceDetector::twoDatagramsOfOneSenderReadTogetherAreDropped()
