@@ -41,6 +41,10 @@ bool DemoFirstRun::play()
 void DemoFirstRun::answerDialogs()
 {
     m_desk.answerInterfaceDialog();
+    m_desk.dialogs().onDialog(QStringLiteral("Confirmation"), [this](QWidget* dialog) {
+        m_desk.pictureOf(dialog, QStringLiteral("dialog-confirmation"));
+        DemoUser::pressKey(dialog, Qt::Key_Return);
+    });
     m_desk.dialogs().onDialog(QStringLiteral("Save Information?"), [this](QWidget* dialog) {
         m_desk.pictureOf(dialog, QStringLiteral("dialog-save"));
         DemoUser::pressKey(dialog, Qt::Key_Y, Qt::AltModifier);
@@ -145,6 +149,11 @@ bool DemoFirstRun::makeLayouts()
             }
         }
         m_desk.press(QStringLiteral("addLayoutButton"));
+    }
+    // Once more what is listed already: a notice comes up, and the list stays as it is.
+    m_desk.press(QStringLiteral("addLayoutButton"));
+    if (m_desk.dialogs().answered(QStringLiteral("Confirmation")) != 1) {
+        return m_desk.failed(QStringLiteral("the same layout was added twice"));
     }
     const int listed = m_desk.tree(QStringLiteral("layoutList"))->topLevelItemCount();
     if (listed != m_scenario.layouts().size()) {

@@ -4,10 +4,10 @@
 #include "roomdevices.h"
 #include "roomgroup.h"
 #include "roomgrouplist.h"
+#include "roomgrouppanels.h"
 #include "setqueries.h"
 #include "textlabel.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -16,46 +16,26 @@ namespace {
 
 constexpr int numberColumn = 0;
 constexpr int layoutColumn = 1;
-constexpr int numberWidth = 15;
-constexpr int layoutWidth = 40;
-constexpr int roomWidth = 40;
 
 } // namespace
 
 Configure::Configure(IDocAccessor* doc, QWidget* parent)
     : QWidget(parent)
     , m_doc(doc)
+    , m_panelsView(new RoomGroupPanels(QStringLiteral("deviceSetStack"), this))
+    , m_groupList(m_panelsView->list())
+    , m_stack(m_panelsView->stack())
 {
-    createWidgets();
     layOut();
     connect(m_groupList, SIGNAL(itemSelectionChanged()), this, SLOT(deviceSetSelected()));
 }
 
-void Configure::createWidgets()
-{
-    m_groupList = new RoomGroupList({tr("No."), tr("Layout"), tr("Room")},
-                                    {numberWidth, layoutWidth, roomWidth}, this);
-    m_groupList->setObjectName(QStringLiteral("roomGroupList"));
-    m_stack = new QStackedWidget(this);
-    m_stack->setObjectName(QStringLiteral("deviceSetStack"));
-}
-
 void Configure::layOut()
 {
-    auto* listTitle = new QLabel(tr("Select a room combination"), this);
-    listTitle->setBuddy(m_groupList);
-    auto* listColumn = new QVBoxLayout;
-    listColumn->addWidget(listTitle);
-    listColumn->addWidget(m_groupList, 1);
-
-    auto* row = new QHBoxLayout;
-    row->addLayout(listColumn, 1);
-    row->addWidget(m_stack, 4);
-
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     addTexts(layout);
-    layout->addLayout(row, 1);
+    layout->addWidget(m_panelsView, 1);
 }
 
 void Configure::addTexts(QVBoxLayout* layout)
@@ -73,20 +53,12 @@ void Configure::addTexts(QVBoxLayout* layout)
 
 void Configure::initialise()
 {
-    clearSets();
+    m_sets.clear();
+    m_panelsView->clear();
     addSets();
     deviceRemoveStatusChanged();
     m_groupList->selectRow(0);
     deviceSetSelected();
-}
-
-void Configure::clearSets()
-{
-    for (DeviceSet* set : std::as_const(m_sets)) {
-        m_stack->removeWidget(set);
-        delete set;
-    }
-    m_sets.clear();
 }
 
 void Configure::addSets()

@@ -8,6 +8,7 @@ class IDocAccessor;
 class QStackedWidget;
 class QVBoxLayout;
 class RoomGroupList;
+class RoomGroupPanels;
 
 /// Content of the device set step: every combined room of every layout, with a panel for choosing
 /// its devices. Combined rooms with more devices than a conference system supports are listed in
@@ -40,14 +41,13 @@ public Q_SLOTS:
     void deviceRemoveStatusChanged();
 
 private:
-    void createWidgets();
     void layOut();
     void addTexts(QVBoxLayout* layout);
-    void clearSets();
     void addSets();
 
     IDocAccessor* m_doc;
-    RoomGroupList* m_groupList = nullptr;
-    QStackedWidget* m_stack = nullptr;
+    RoomGroupPanels* m_panelsView;
+    RoomGroupList* m_groupList;
+    QStackedWidget* m_stack;
     QList<DeviceSet*> m_sets; ///< one per row, in list order; owned by the stack
 };

@@ -3,52 +3,27 @@
 #include "roomdevices.h"
 #include "roomgroup.h"
 #include "roomgrouplist.h"
+#include "roomgrouppanels.h"
 #include "speakerposition.h"
 #include "textlabel.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-namespace {
-
-constexpr int numberWidth = 15;
-constexpr int layoutWidth = 40;
-constexpr int roomWidth = 40;
-
-} // namespace
-
 DanteSpeaker::DanteSpeaker(IDocAccessor* doc, QWidget* parent)
     : QWidget(parent)
     , m_doc(doc)
+    , m_panelsView(new RoomGroupPanels(QStringLiteral("speakerPositionStack"), this))
+    , m_groupList(m_panelsView->list())
+    , m_stack(m_panelsView->stack())
 {
-    createWidgets();
     layOut();
     connect(m_groupList, SIGNAL(itemSelectionChanged()), this, SLOT(deviceSetSelected()));
 }
 
-void DanteSpeaker::createWidgets()
-{
-    m_groupList = new RoomGroupList({tr("No."), tr("Layout"), tr("Room")},
-                                    {numberWidth, layoutWidth, roomWidth}, this);
-    m_groupList->setObjectName(QStringLiteral("roomGroupList"));
-    m_stack = new QStackedWidget(this);
-    m_stack->setObjectName(QStringLiteral("speakerPositionStack"));
-}
-
 void DanteSpeaker::layOut()
 {
-    auto* listTitle = new QLabel(tr("Select a room combination"), this);
-    listTitle->setBuddy(m_groupList);
-    auto* listColumn = new QVBoxLayout;
-    listColumn->addWidget(listTitle);
-    listColumn->addWidget(m_groupList, 1);
-
-    auto* row = new QHBoxLayout;
-    row->addLayout(listColumn, 1);
-    row->addWidget(m_stack, 4);
-
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(textLabel(tr("For each room combination listed on the left, select whether "
@@ -56,24 +31,16 @@ void DanteSpeaker::layOut()
                                 this));
     layout->addWidget(
         textLabel(tr("NOTE: For mono use only, choose Left for all speakers."), this));
-    layout->addLayout(row, 1);
+    layout->addWidget(m_panelsView, 1);
 }
 
 void DanteSpeaker::initialise()
 {
-    clearPanels();
+    m_panels.clear();
+    m_panelsView->clear();
     addPanels();
     m_groupList->selectRow(0);
     deviceSetSelected();
-}
-
-void DanteSpeaker::clearPanels()
-{
-    for (SpeakerPosition* panel : std::as_const(m_panels)) {
-        m_stack->removeWidget(panel);
-        delete panel;
-    }
-    m_panels.clear();
 }
 
 void DanteSpeaker::addPanels()

@@ -6,6 +6,7 @@
 class IDocAccessor;
 class QStackedWidget;
 class RoomGroupList;
+class RoomGroupPanels;
 class SpeakerPosition;
 
 /// Content of the speaker position step: every combined room of every layout, with a panel that
@@ -32,13 +33,12 @@ public Q_SLOTS:
     void deviceSetSelected();
 
 private:
-    void createWidgets();
     void layOut();
-    void clearPanels();
     void addPanels();
 
     IDocAccessor* m_doc;
-    RoomGroupList* m_groupList = nullptr;
-    QStackedWidget* m_stack = nullptr;
+    RoomGroupPanels* m_panelsView;
+    RoomGroupList* m_groupList;
+    QStackedWidget* m_stack;
     QList<SpeakerPosition*> m_panels; ///< one per row, in list order; owned by the stack
 };
