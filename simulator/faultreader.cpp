@@ -161,7 +161,8 @@ std::optional<QString> valueText(const QJsonValue& value)
     }
     if (value.isArray()) {
         QStringList parts;
-        for (const QJsonValue& part : value.toArray()) {
+        const QJsonArray array = value.toArray();
+        for (const auto& part : array) {
             parts.append(part.toVariant().toString());
         }
         return parts.join(QLatin1Char(';'));

@@ -5,6 +5,7 @@
 #include "jsonfields.h"
 
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
 
@@ -20,13 +21,13 @@ const QString pollsKey = QStringLiteral("export-polls");
 struct HubDefaults
 {
     std::optional<QString> password;
-    int exportPolls;
+    int exportPolls = 0;
 };
 
 QString macField(JsonFields& fields, const QString& key, const QString& fallback)
 {
     static const QRegularExpression form(QStringLiteral("^(?:[0-9A-F]{2}(?::[0-9A-F]{2}){5})?$"));
-    const QString mac = fields.text(key, fallback);
+    QString mac = fields.text(key, fallback);
     if (!form.match(mac).hasMatch()) {
         fields.complain(key, QStringLiteral("is no MAC address such as 02:1A:00:00:00:01"));
     }
@@ -74,7 +75,8 @@ QList<QJsonObject> entries(JsonFields& fields, const QString& key)
         objects.resize(fields.number(key, 0, 0, HallDescription::mostDevices));
         return objects;
     }
-    for (const QJsonValue& value : fields.value(key).toArray()) {
+    const QJsonArray array = fields.value(key).toArray();
+    for (const auto& value : array) {
         if (!value.isObject()) {
             fields.complain(key, QStringLiteral("holds something that is no object"));
         }
@@ -120,7 +122,8 @@ void readFaults(JsonFields& fields, HallDescription& hall, QString* error)
     if (!list.isUndefined() && !list.isArray()) {
         fields.complain(QStringLiteral("faults"), QStringLiteral("is no list"));
     }
-    for (const QJsonValue& value : list.toArray()) {
+    const QJsonArray array = list.toArray();
+    for (const auto& value : array) {
         const QString where = QStringLiteral("fault %1").arg(hall.faults.size() + 1);
         if (const std::optional<Fault> fault = faultFromJson(value.toObject(), where, error)) {
             hall.faults.append(*fault);

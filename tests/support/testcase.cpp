@@ -17,6 +17,8 @@ int runTestCase(TestCase& test, int argc, char** argv)
 {
     const QTemporaryDir home;
     qputenv("HOME", home.path().toLocal8Bit());
+    // Where the session has none, Qt warns that it makes up a folder of its own.
+    qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
     const QApplication application(argc, argv);
     return QTest::qExec(&test, argc, argv);
 }
