@@ -2,15 +2,36 @@
 
 #include <QApplication>
 #include <QRegularExpression>
+#include <QStringList>
 #include <QTemporaryDir>
 #include <QTest>
 
+namespace {
+
+QtMessageHandler testLog = nullptr;
+
+/// Takes out what the offscreen platform says of itself, whatever the program does: one line for
+/// every window, and one for every menu and list that drops down. Nothing else is exempt.
+void passOn(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    static const QStringList exempt{
+        QStringLiteral("This plugin does not support propagateSizeHints()"),
+        QStringLiteral("This plugin does not support raise()"),
+        QStringLiteral("This plugin does not support grabbing the keyboard")};
+    if (!exempt.contains(text)) {
+        testLog(type, context, text);
+    }
+}
+
+} // namespace
+
 void TestCase::init()
 {
-    // The offscreen platform says of itself that it lacks these three, the last of them for every
-    // menu; nothing else is exempt.
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(
-        R"(^(?!This plugin does not support (propagateSizeHints\(\)|raise\(\)|grabbing the keyboard)))")));
+    // Not earlier: the test log takes the place of a handler that is there before it.
+    if (testLog == nullptr) {
+        testLog = qInstallMessageHandler(passOn);
+    }
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
 }
 
 int runTestCase(TestCase& test, int argc, char** argv)

@@ -13,7 +13,6 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
@@ -92,12 +91,23 @@ bool writeBytes(const QString& path, const QByteArray& bytes)
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
+/// Whether this byte, in place of the zero before a plain letter, makes it one from a script with
+/// shapes of its own, Hebrew to Vedic. No font of a bare machine has them all, and Qt warns of each
+/// that is missing when the box of missing devices is to show such a label.
+bool makesShapedLetter(char before, char after)
+{
+    return before == 0 && after >= 0x05 && after < 0x1E;
+}
+
 /// Changes one byte, or two wherever they are.
 QByteArray damaged(QByteArray bytes, int changes, std::mt19937& random)
 {
     for (int change = 0; change < changes; ++change) {
         const auto at = qsizetype(random() % quint32(bytes.size()));
-        bytes[at] = char(bytes.at(at) ^ char(1 + random() % 255));
+        const char before = bytes.at(at);
+        do {
+            bytes[at] = char(before ^ char(1 + random() % 255));
+        } while (makesShapedLetter(before, bytes.at(at)));
     }
     return bytes;
 }
@@ -180,7 +190,6 @@ class TestResumeTorture : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void changedBytesCostNeitherTimeNorMemory_data();
     void changedBytesCostNeitherTimeNorMemory();
     void aFileIsWholeWheneverTheProgramIsKilled();
@@ -189,13 +198,6 @@ private:
     QTemporaryDir m_folder;
     QString m_path = m_folder.filePath(QStringLiteral("resume.dat"));
 };
-
-void TestResumeTorture::init()
-{
-    // As everywhere, but for this: a damaged label may be in a script that no font here has.
-    QTest::failOnWarning(QRegularExpression(
-        QStringLiteral("^(?!This plugin does not support|  OpenType support missing for)")));
-}
 
 void TestResumeTorture::changedBytesCostNeitherTimeNorMemory_data()
 {
