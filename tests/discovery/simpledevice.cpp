@@ -40,7 +40,7 @@ void SimpleDevice::send(const QByteArray& bytes, const QString& wizard)
     m_socket.writeDatagram(bytes, QHostAddress(wizard), discoveryPort);
 }
 
-ScriptedPeer& SimpleDevice::commands()
+TextPeer& SimpleDevice::commands()
 {
     return m_commands;
 }

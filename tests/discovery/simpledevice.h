@@ -1,7 +1,7 @@
 #pragma once
 
-#include "scriptedpeer.h"
 #include "scriptedreply.h"
+#include "textpeer.h"
 
 #include <QUdpSocket>
 
@@ -22,10 +22,10 @@ public:
     /// Sends a datagram from the device to the wizard at `wizard`.
     void send(const QByteArray& bytes, const QString& wizard);
 
-    ScriptedPeer& commands();
+    TextPeer& commands();
 
 private:
     ScriptedReply m_reply;
-    ScriptedPeer m_commands;
+    TextPeer m_commands;
     QUdpSocket m_socket;
 };

@@ -1,6 +1,6 @@
 #include "deviceinforeceiver.h"
-#include "scriptedpeer.h"
 #include "testcase.h"
+#include "textpeer.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -55,7 +55,7 @@ QStringList valuesOf(const DeviceInfoReceiver& receiver)
 
 // Lets each entry arrive on its own: the receiver asks on at every arrival, so the next one is sent
 // when the question that the last one provoked is there.
-void deliver(ScriptedPeer& peer, const QList<QByteArray>& arrivals)
+void deliver(TextPeer& peer, const QList<QByteArray>& arrivals)
 {
     for (const QByteArray& arrival : arrivals) {
         QTRY_COMPARE(peer.lines(), peer.sends() + 1);
@@ -67,7 +67,7 @@ void deliver(ScriptedPeer& peer, const QList<QByteArray>& arrivals)
 
 void TestDeviceInfoReceiver::theSixQuestionsAreAskedInOrderAndTheFirstTwice()
 {
-    ScriptedPeer peer(QStringLiteral("127.30.4.1"));
+    TextPeer peer(QStringLiteral("127.30.4.1"));
     QVERIFY(peer.listen());
     peer.answerWith(wellBehaved());
     DeviceInfoReceiver receiver(peer.hostAddress(), nullptr);
@@ -125,7 +125,7 @@ void TestDeviceInfoReceiver::answers_data()
 void TestDeviceInfoReceiver::answers()
 {
     QFETCH(const QList<QByteArray>, arrivals);
-    ScriptedPeer peer(QStringLiteral("127.30.4.2"));
+    TextPeer peer(QStringLiteral("127.30.4.2"));
     QVERIFY(peer.listen());
     DeviceInfoReceiver receiver(peer.hostAddress(), nullptr);
     const QSignalSpy received(&receiver, SIGNAL(deviceInfoReceived()));
@@ -137,7 +137,7 @@ void TestDeviceInfoReceiver::answers()
 
 void TestDeviceInfoReceiver::theAnswersAreEmptyUntilAllAreIn()
 {
-    ScriptedPeer peer(QStringLiteral("127.30.4.3"));
+    TextPeer peer(QStringLiteral("127.30.4.3"));
     QVERIFY(peer.listen());
     DeviceInfoReceiver receiver(peer.hostAddress(), nullptr);
     const QSignalSpy received(&receiver, SIGNAL(deviceInfoReceived()));
@@ -153,7 +153,7 @@ void TestDeviceInfoReceiver::theAnswersAreEmptyUntilAllAreIn()
 
 void TestDeviceInfoReceiver::afterTheSixthAnswerItIsReportedOnceAndNothingMoreHappens()
 {
-    ScriptedPeer peer(QStringLiteral("127.30.4.4"));
+    TextPeer peer(QStringLiteral("127.30.4.4"));
     QVERIFY(peer.listen());
     peer.answerWith(wellBehaved());
     DeviceInfoReceiver receiver(peer.hostAddress(), nullptr);
@@ -194,7 +194,7 @@ void TestDeviceInfoReceiver::aDeviceThatStopsAnsweringIsNeverReported_data()
 void TestDeviceInfoReceiver::aDeviceThatStopsAnsweringIsNeverReported()
 {
     QFETCH(const int, answered);
-    ScriptedPeer peer(QStringLiteral("127.30.4.6"));
+    TextPeer peer(QStringLiteral("127.30.4.6"));
     QVERIFY(peer.listen());
     DeviceInfoReceiver receiver(peer.hostAddress(), nullptr);
     const QSignalSpy received(&receiver, SIGNAL(deviceInfoReceived()));
@@ -209,7 +209,7 @@ void TestDeviceInfoReceiver::aDeviceThatStopsAnsweringIsNeverReported()
 
 void TestDeviceInfoReceiver::startingTwiceAsksOnce()
 {
-    ScriptedPeer peer(QStringLiteral("127.30.4.7"));
+    TextPeer peer(QStringLiteral("127.30.4.7"));
     QVERIFY(peer.listen());
     DeviceInfoReceiver receiver(peer.hostAddress(), nullptr);
     const QSignalSpy received(&receiver, SIGNAL(deviceInfoReceived()));
@@ -224,7 +224,7 @@ void TestDeviceInfoReceiver::startingTwiceAsksOnce()
 
 void TestDeviceInfoReceiver::startingAfterTheDeviceClosedAsksFromTheBeginning()
 {
-    ScriptedPeer peer(QStringLiteral("127.30.4.8"));
+    TextPeer peer(QStringLiteral("127.30.4.8"));
     QVERIFY(peer.listen());
     DeviceInfoReceiver receiver(peer.hostAddress(), nullptr);
     const QSignalSpy received(&receiver, SIGNAL(deviceInfoReceived()));

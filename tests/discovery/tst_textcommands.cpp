@@ -1,8 +1,8 @@
 #include "currentpresetsender.h"
 #include "identifysender.h"
 #include "presetrecallsender.h"
-#include "scriptedpeer.h"
 #include "testcase.h"
+#include "textpeer.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -45,7 +45,7 @@ bool isClosed(const SCPCommandSender& sender)
 
 void TestTextCommands::identifyOnAFreshSenderConnectsFirstAndThenSends()
 {
-    ScriptedPeer peer(QStringLiteral("127.30.2.1"));
+    TextPeer peer(QStringLiteral("127.30.2.1"));
     QVERIFY(peer.listen());
     IdentifySender sender(peer.hostAddress(), nullptr);
     QVERIFY(socketOf(sender) == nullptr);
@@ -55,7 +55,7 @@ void TestTextCommands::identifyOnAFreshSenderConnectsFirstAndThenSends()
 
 void TestTextCommands::identifyOnAConnectedSenderSendsAgainWithoutReconnecting()
 {
-    ScriptedPeer peer(QStringLiteral("127.30.2.2"));
+    TextPeer peer(QStringLiteral("127.30.2.2"));
     QVERIFY(peer.listen());
     IdentifySender sender(peer.hostAddress(), nullptr);
     sender.identify(5);
@@ -68,7 +68,7 @@ void TestTextCommands::identifyOnAConnectedSenderSendsAgainWithoutReconnecting()
 
 void TestTextCommands::identifyTwiceWhileConnectingSendsTheLatestNumberOnce()
 {
-    ScriptedPeer peer(QStringLiteral("127.30.2.3"));
+    TextPeer peer(QStringLiteral("127.30.2.3"));
     QVERIFY(peer.listen());
     IdentifySender sender(peer.hostAddress(), nullptr);
     sender.identify(1);
@@ -83,7 +83,7 @@ void TestTextCommands::identifyTwiceWhileConnectingSendsTheLatestNumberOnce()
 
 void TestTextCommands::identifyAfterTheDeviceClosedConnectsAnew()
 {
-    ScriptedPeer peer(QStringLiteral("127.30.2.4"));
+    TextPeer peer(QStringLiteral("127.30.2.4"));
     QVERIFY(peer.listen());
     IdentifySender sender(peer.hostAddress(), nullptr);
     sender.identify(5);
@@ -98,7 +98,7 @@ void TestTextCommands::identifyAfterTheDeviceClosedConnectsAnew()
 
 void TestTextCommands::identifyReachesADeviceThatRefusedBefore()
 {
-    ScriptedPeer peer(QStringLiteral("127.30.2.5"));
+    TextPeer peer(QStringLiteral("127.30.2.5"));
     IdentifySender sender(peer.hostAddress(), nullptr);
     sender.identify(5);
     QTRY_VERIFY(isClosed(sender));
@@ -109,7 +109,7 @@ void TestTextCommands::identifyReachesADeviceThatRefusedBefore()
 
 void TestTextCommands::identifyDropsWhatTheDeviceAnswers()
 {
-    ScriptedPeer peer(QStringLiteral("127.30.2.6"));
+    TextPeer peer(QStringLiteral("127.30.2.6"));
     QVERIFY(peer.listen());
     IdentifySender sender(peer.hostAddress(), nullptr);
     sender.identify(5);
@@ -122,7 +122,7 @@ void TestTextCommands::identifyDropsWhatTheDeviceAnswers()
 
 void TestTextCommands::destroyingASenderClosesItsConnection()
 {
-    ScriptedPeer peer(QStringLiteral("127.30.2.7"));
+    TextPeer peer(QStringLiteral("127.30.2.7"));
     QVERIFY(peer.listen());
     auto sender = std::make_unique<IdentifySender>(peer.hostAddress(), nullptr);
     sender->identify(5);
@@ -153,7 +153,7 @@ void TestTextCommands::recallNumber_data()
 void TestTextCommands::recallNumber()
 {
     QFETCH(const QByteArray, answer);
-    ScriptedPeer peer(QStringLiteral("127.30.2.8"));
+    TextPeer peer(QStringLiteral("127.30.2.8"));
     QVERIFY(peer.listen());
     PresetRecallSender sender(peer.hostAddress(), 4, nullptr);
     const QSignalSpy recalls(&sender, SIGNAL(notifyPresetRecall(int)));
@@ -190,7 +190,7 @@ void TestTextCommands::currentPresetNumber_data()
 void TestTextCommands::currentPresetNumber()
 {
     QFETCH(const QByteArray, answer);
-    ScriptedPeer peer(QStringLiteral("127.30.2.9"));
+    TextPeer peer(QStringLiteral("127.30.2.9"));
     QVERIFY(peer.listen());
     CurrentPresetSender sender(peer.hostAddress(), nullptr);
     const QSignalSpy presets(&sender, SIGNAL(notifyCurrentPreset(QString, int)));
@@ -210,7 +210,7 @@ void TestTextCommands::currentPresetNumber()
 
 void TestTextCommands::startingTwiceSendsOnce()
 {
-    ScriptedPeer peer(QStringLiteral("127.30.2.10"));
+    TextPeer peer(QStringLiteral("127.30.2.10"));
     QVERIFY(peer.listen());
     CurrentPresetSender sender(peer.hostAddress(), nullptr);
     const QSignalSpy presets(&sender, SIGNAL(notifyCurrentPreset(QString, int)));
@@ -226,7 +226,7 @@ void TestTextCommands::startingTwiceSendsOnce()
 
 void TestTextCommands::everyPeerMisbehaviourLeavesTheSendersSilent()
 {
-    ScriptedPeer peer(QStringLiteral("127.30.2.11"));
+    TextPeer peer(QStringLiteral("127.30.2.11"));
     CurrentPresetSender sender(peer.hostAddress(), nullptr);
     const QSignalSpy presets(&sender, SIGNAL(notifyCurrentPreset(QString, int)));
     sender.start();

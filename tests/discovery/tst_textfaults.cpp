@@ -2,8 +2,8 @@
 #include "deviceinforeceiver.h"
 #include "identifysender.h"
 #include "presetrecallsender.h"
-#include "scriptedpeer.h"
 #include "testcase.h"
+#include "textpeer.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -221,7 +221,7 @@ struct Talk
     }
 
     /// Lets the bytes arrive on their own.
-    void receive(ScriptedPeer& peer, const QByteArray& bytes) const
+    void receive(TextPeer& peer, const QByteArray& bytes) const
     {
         QSignalSpy arrived(socket(), SIGNAL(readyRead()));
         peer.send(bytes);
@@ -234,7 +234,7 @@ struct Talk
     std::unique_ptr<QSignalSpy> spy;
 };
 
-void begin(const Talk& talk, ScriptedPeer& peer, const Conversation& conversation)
+void begin(const Talk& talk, TextPeer& peer, const Conversation& conversation)
 {
     const int lines = peer.lines();
     talk.sender->start();
@@ -265,7 +265,7 @@ void TestTextFaults::everyMisbehaviourHasItsOutcomeAndIsGoneAtTheNextTry()
     QFETCH(const int, fault);
     const Conversation& spoken = conversations().at(conversation);
     const TextFault& row = faults().at(fault);
-    ScriptedPeer peer(peerAddress);
+    TextPeer peer(peerAddress);
     QVERIFY(peer.listen());
     const Talk talk(spoken);
     begin(talk, peer, spoken);

@@ -1,4 +1,4 @@
-#include "scriptedpeer.h"
+#include "textpeer.h"
 
 namespace {
 
@@ -6,34 +6,34 @@ constexpr quint16 commandPort = 49280;
 
 } // namespace
 
-ScriptedPeer::ScriptedPeer(const QString& address)
+TextPeer::TextPeer(const QString& address)
     : m_address(address)
 {
     connect(&m_server, SIGNAL(newConnection()), this, SLOT(takeConnection()));
 }
 
-bool ScriptedPeer::listen()
+bool TextPeer::listen()
 {
     return m_server.listen(hostAddress(), commandPort);
 }
 
-void ScriptedPeer::answerWith(const QList<QByteArray>& answers)
+void TextPeer::answerWith(const QList<QByteArray>& answers)
 {
     m_answers = answers;
 }
 
-void ScriptedPeer::send(const QByteArray& bytes)
+void TextPeer::send(const QByteArray& bytes)
 {
     m_socket->write(bytes);
     ++m_sends;
 }
 
-void ScriptedPeer::hangUp()
+void TextPeer::hangUp()
 {
     m_socket->disconnectFromHost();
 }
 
-void ScriptedPeer::switchOff()
+void TextPeer::switchOff()
 {
     m_server.close();
     if (m_socket != nullptr) {
@@ -41,49 +41,49 @@ void ScriptedPeer::switchOff()
     }
 }
 
-const QString& ScriptedPeer::address() const
+const QString& TextPeer::address() const
 {
     return m_address;
 }
 
-QHostAddress ScriptedPeer::hostAddress() const
+QHostAddress TextPeer::hostAddress() const
 {
     return QHostAddress(m_address);
 }
 
-const QByteArray& ScriptedPeer::received() const
+const QByteArray& TextPeer::received() const
 {
     return m_received;
 }
 
-int ScriptedPeer::lines() const
+int TextPeer::lines() const
 {
     return int(m_received.count('\n'));
 }
 
-int ScriptedPeer::sends() const
+int TextPeer::sends() const
 {
     return m_sends;
 }
 
-int ScriptedPeer::connections() const
+int TextPeer::connections() const
 {
     return m_connections;
 }
 
-bool ScriptedPeer::isOnline() const
+bool TextPeer::isOnline() const
 {
     return m_socket != nullptr && m_socket->state() == QAbstractSocket::ConnectedState;
 }
 
-void ScriptedPeer::takeConnection()
+void TextPeer::takeConnection()
 {
     m_socket = m_server.nextPendingConnection();
     ++m_connections;
     connect(m_socket, SIGNAL(readyRead()), this, SLOT(takeBytes()));
 }
 
-void ScriptedPeer::takeBytes()
+void TextPeer::takeBytes()
 {
     auto* const socket = qobject_cast<QTcpSocket*>(sender());
     const QByteArray bytes = socket->readAll();

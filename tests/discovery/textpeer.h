@@ -9,12 +9,12 @@
 #include <QTcpSocket>
 
 /// A device's text-command port that says exactly what a test tells it to say.
-class ScriptedPeer : public QObject
+class TextPeer : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit ScriptedPeer(const QString& address);
+    explicit TextPeer(const QString& address);
 
     /// Opens the port; false when it is taken.
     bool listen();
