@@ -109,9 +109,14 @@ bool HallStore::writeChanges(const QString& address, QString* error)
 
 bool HallStore::writeFile(const QString& path, const QByteArray& bytes, QString* error) const
 {
+    const QString folder = QFileInfo(path).path();
+    if (!QDir().mkpath(folder)) {
+        *error = QStringLiteral("cannot make the folder %1").arg(folder);
+        return false;
+    }
     QSaveFile file(path);
-    if (QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
-        file.write(bytes) == bytes.size() && file.flush() && file.commit()) {
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
+        file.commit()) {
         return true;
     }
     *error = QStringLiteral("cannot write %1: %2").arg(path, file.errorString());

@@ -155,7 +155,13 @@ void TestTesselHall::unwritableStoreIsToldAtTheStart()
     HallStore store(hall, path);
     QString error;
     QVERIFY(!store.start(&error));
-    QVERIFY2(error.startsWith(QStringLiteral("cannot write ") + path), qPrintable(error));
+    QCOMPARE(error, QStringLiteral("cannot make the folder %1/%2").arg(path, address));
+
+    const QString state = folder.filePath(address) + QStringLiteral("/state.json");
+    QVERIFY(QDir().mkpath(state));
+    HallStore blocked(hall, folder.path());
+    QVERIFY(!blocked.start(&error));
+    QVERIFY2(error.startsWith(QStringLiteral("cannot write ") + state), qPrintable(error));
 }
 
 void TestTesselHall::programServesAndEndsCleanly()
