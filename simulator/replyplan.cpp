@@ -60,7 +60,7 @@ void applyToBody(HubReply& reply, const Fault& fault)
     } else if (fault.kind == FaultKind::Body) {
         reply.setBody(fault.bytes);
     } else if (fault.kind == FaultKind::InsertedText) {
-        reply.setBody(reply.body.first(1) + fault.bytes + reply.body.sliced(1));
+        reply.setBody(reply.body.left(1) + fault.bytes + reply.body.mid(1));
     }
 }
 

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void replyUnderAFault_data();
     void replyUnderAFault();
     void faultsAddUp();
+    void textIsInsertedIntoAnEmptyBody();
     void piecesAreCutWhereAsked();
     void answerUnderAFault_data();
     void answerUnderAFault();
@@ -188,6 +189,13 @@ void TestFaults::faultsAddUp()
     QCOMPARE(plan.delivery.pieces.size(), wire(plan).size());
     QCOMPARE(plan.delivery.pieces.front().waitMs, 5);
     QVERIFY(plan.delivery.pieces.last().waitMs > 0);
+}
+
+void TestFaults::textIsInsertedIntoAnEmptyBody()
+{
+    const ReplyPlan plan = planReply(okReply(), {{.kind = FaultKind::Body, .bytes = ""},
+                                                 {.kind = FaultKind::InsertedText, .bytes = "x"}});
+    QVERIFY(wire(plan).endsWith("Content-Length: 1\r\nConnection: keep-alive\r\n\r\nx"));
 }
 
 void TestFaults::piecesAreCutWhereAsked()
