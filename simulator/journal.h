@@ -13,8 +13,6 @@ struct JournalEntry
     QString name = {};
     /// The request line's target, or the text command.
     QString text = {};
-    /// The status code of the reply that was sent; 0 for text commands and where none was sent.
-    int status = 0;
     /// In what the message differed from the prescribed form.
     QStringList differences = {};
 };

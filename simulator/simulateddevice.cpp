@@ -174,7 +174,7 @@ Delivery SimulatedDevice::answerLine(const QByteArray& line)
     if (!isPrevented(faults)) {
         answer = m_commands.answer(line);
     }
-    JournalEntry entry{0, exchangeName(exchange), redacted(line), 0, {}};
+    JournalEntry entry{0, exchangeName(exchange), redacted(line), {}};
     if (exchange == Exchange::UnknownCommand) {
         entry.differences.append(QStringLiteral("unknown command \"%1\"").arg(entry.text));
     }

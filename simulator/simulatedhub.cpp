@@ -60,7 +60,7 @@ ReplyPlan SimulatedHub::answerReading(const RequestReading& reading, const QStri
     if (reading.verdict == RequestReading::Verdict::Complete) {
         return answerRequest(reading.request, reachedAt);
     }
-    record({0, exchangeName(Exchange::UnknownRequest), {}, 400, {reading.problem}});
+    record({0, exchangeName(Exchange::UnknownRequest), {}, {reading.problem}});
     Q_EMIT requestHandled(address(), exchangeName(Exchange::UnknownRequest));
     ReplyPlan plan = planReply(HubReply::error(400, reading.problem), {});
     plan.delivery.closeAfter = true;
@@ -73,7 +73,7 @@ ReplyPlan SimulatedHub::answerRequest(HubRequest request, const QString& reached
     const QList<Fault> planned = faults().take(request.exchange);
     const HubReply reply = carryOut(request, planned);
     record({0, exchangeName(request.exchange), redacted(request.method() + ' ' + request.target()),
-            reply.status, requestDifferences(request, reachedAt)});
+            requestDifferences(request, reachedAt)});
     report(request, reply, planned);
     return planReply(reply, planned);
 }
