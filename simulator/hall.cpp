@@ -37,6 +37,7 @@ bool Hall::start(QString* error)
 void Hall::stop()
 {
     if (m_responder) {
+        m_queryCount += m_responder->queryCount();
         m_queryDifferences += m_responder->differences();
     }
     m_responder.reset();
@@ -57,7 +58,7 @@ SimulatedDevice* Hall::device(const QString& address) const
 
 int Hall::queryCount() const
 {
-    return m_responder ? m_responder->queryCount() : 0;
+    return m_responder ? m_queryCount + m_responder->queryCount() : m_queryCount;
 }
 
 QStringList Hall::differences() const

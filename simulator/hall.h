@@ -78,6 +78,7 @@ private:
     QList<SimulatedDevice*> m_devices;
     QHash<QString, SimulatedDevice*> m_byAddress;
     std::unique_ptr<DiscoveryResponder> m_responder;
-    /// Those that a responder found before the hall was stopped.
+    /// What responders heard and found before the hall was stopped.
+    int m_queryCount = 0;
     QStringList m_queryDifferences;
 };

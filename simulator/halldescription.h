@@ -23,6 +23,8 @@ struct DeviceDescription
 /// A hub: a device with a management interface.
 struct HubDescription : DeviceDescription
 {
+    static constexpr int mostExportPolls = 1000;
+
     /// The password of the account "admin"; nothing: the hub has never been given one.
     std::optional<QString> password = {};
     /// A second network port of the same hub; empty: it has one only.

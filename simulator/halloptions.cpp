@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr int mostPolls = 1000;
-
 struct Option
 {
     QString name;
@@ -137,7 +135,7 @@ void setUpHubs(const QCommandLineParser& parser, HallDescription& hall, QString*
             hub.password = parser.value(password);
         }
         if (parser.isSet(polls)) {
-            hub.exportPolls = Numbers(parser, error).number(polls, mostPolls);
+            hub.exportPolls = Numbers(parser, error).number(polls, HubDescription::mostExportPolls);
         }
     }
 }

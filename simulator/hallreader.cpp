@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr int mostPolls = 1000;
 const QString hubsKey = QStringLiteral("hubs");
 const QString peripheralsKey = QStringLiteral("peripherals");
 const QString passwordKey = QStringLiteral("password");
@@ -58,7 +57,7 @@ std::optional<QString> passwordField(JsonFields& fields, const std::optional<QSt
 void readHub(JsonFields& fields, HubDescription& hub)
 {
     hub.password = passwordField(fields, hub.password);
-    hub.exportPolls = fields.number(pollsKey, hub.exportPolls, 0, mostPolls);
+    hub.exportPolls = fields.number(pollsKey, hub.exportPolls, 0, HubDescription::mostExportPolls);
     hub.exportFile = fields.text(QStringLiteral("export-file"), hub.exportFile);
     hub.secondAddress = fields.text(QStringLiteral("second-address"), hub.secondAddress);
     hub.secondMac = macField(fields, QStringLiteral("second-mac"), hub.secondMac);
@@ -137,8 +136,9 @@ HallDescription readFields(const QJsonObject& object, QString* error)
     HallDescription hall;
     AddressSequence addresses(
         fields.text(QStringLiteral("base"), QLatin1String(HallDescription::defaultBase)));
-    const HubDefaults defaults{passwordField(fields, std::nullopt),
-                               fields.number(pollsKey, HubDescription().exportPolls, 0, mostPolls)};
+    const HubDefaults defaults{
+        passwordField(fields, std::nullopt),
+        fields.number(pollsKey, HubDescription().exportPolls, 0, HubDescription::mostExportPolls)};
     fields.value(passwordKey);
     hall.discovery = fields.flag(QStringLiteral("discovery"), hall.discovery);
     hall.discoveryListen = fields.text(QStringLiteral("discovery-listen"), hall.discoveryListen);
