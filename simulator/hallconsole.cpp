@@ -18,8 +18,8 @@ HallConsole::HallConsole(const Hall& hall, QTextStream& out, QObject* parent)
 void HallConsole::showHall()
 {
     m_out << "The hall is open.\n\n"
-          << hallTable(m_hall.description()) << "\nStart the wizard with\n\n  "
-          << m_hall.description().wizardCommandLine() << "\n\nCtrl+C closes the hall.\n\n";
+          << hallTable(m_hall.description()) << '\n'
+          << howToStart(m_hall.description()) << "\nCtrl+C closes the hall.\n\n";
     m_out.flush();
 }
 

@@ -46,6 +46,9 @@ QString quotedForShell(const QString& argument)
     for (const char16_t special : {u'\\', u'"', u'$', u'`'}) {
         quoted.replace(QChar(special), QStringLiteral("\\") + QChar(special));
     }
+    // An interactive shell would look for an earlier command behind it, even between double quotes,
+    // where a backslash stops that but stays.
+    quoted.replace(u'!', QStringLiteral("\"'!'\""));
     return QStringLiteral("\"%1\"").arg(quoted);
 }
 

@@ -69,6 +69,16 @@ QString hallTable(const HallDescription& hall)
     return table;
 }
 
+QString howToStart(const HallDescription& hall)
+{
+    const QString handedOver = QStringLiteral("\n\n  %1\n").arg(hall.wizardCommandLine());
+    return hall.discovery ? QStringLiteral("Start the wizard and let it search for the devices:\n\n"
+                                           "  tessel\n\n"
+                                           "Or hand the devices over to it, without a search:") +
+                                handedOver
+                          : QStringLiteral("Start the wizard with") + handedOver;
+}
+
 QString hallSummary(const Hall& hall)
 {
     QString summary;

@@ -2,6 +2,7 @@
 #include "halldescription.h"
 #include "halloptions.h"
 #include "hallreader.h"
+#include "hallreport.h"
 #include "testcase.h"
 
 #include <QFile>
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void impossibleCountsMakeNoHall();
     void commandLineOfTheWizard();
     void labelsAreQuotedForTheShell();
+    void searchComesFirstWhereDevicesAnswerIt();
     void secondAddressesFollowTheDevices();
     void fileFillsInWhatItLeavesOut();
     void fileDescribesEveryDetail();
@@ -108,6 +110,21 @@ void TestHallDescription::labelsAreQuotedForTheShell()
     HallDescription hall = *HallDescription::byCounts(1, 0);
     hall.hubs.front().label = QStringLiteral("a $b `c` \\d \"e\"");
     QVERIFY(hall.wizardCommandLine().contains(QStringLiteral("/a \\$b \\`c\\` \\\\d \\\"e\\\"/")));
+    // An interactive shell looks for "!" between double quotes, where a backslash would stay.
+    hall.hubs.front().label = QStringLiteral("f!");
+    QVERIFY(hall.wizardCommandLine().contains(QStringLiteral("/f\"'!'\"/")));
+}
+
+void TestHallDescription::searchComesFirstWhereDevicesAnswerIt()
+{
+    HallDescription hall = *HallDescription::byCounts(1, 0);
+    const QString handedOver = QStringLiteral("  ") + hall.wizardCommandLine() + QLatin1Char('\n');
+    QCOMPARE(howToStart(hall), QStringLiteral("Start the wizard with\n\n") + handedOver);
+    hall.discovery = true;
+    QCOMPARE(howToStart(hall),
+             QStringLiteral("Start the wizard and let it search for the devices:\n\n  tessel\n\n"
+                            "Or hand the devices over to it, without a search:\n\n") +
+                 handedOver);
 }
 
 void TestHallDescription::secondAddressesFollowTheDevices()
