@@ -139,6 +139,7 @@ private Q_SLOTS:
 
 void TestSaveFailure::initTestCase()
 {
+    TestCase::initTestCase();
     const QString refusal = privateMountsRefusal();
     if (!refusal.isEmpty()) {
         QSKIP(qPrintable(refusal));

@@ -107,6 +107,7 @@ private:
 
 void TestSecrets::initTestCase()
 {
+    TestCase::initTestCase();
     QProcess run;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char* name : {"HOME", "TMPDIR", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME",

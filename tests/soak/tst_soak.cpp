@@ -82,6 +82,7 @@ private Q_SLOTS:
 
 void TestSoak::initTestCase()
 {
+    TestCase::initTestCase();
     // What the wizard logs about each request would be most of this program's output.
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
 }

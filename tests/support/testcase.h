@@ -9,6 +9,8 @@ class TestCase : public QObject
     Q_OBJECT
 
 protected Q_SLOTS:
+    /// A class with an initTestCase() of its own calls this one first; likewise with init().
+    void initTestCase();
     void init();
 };
 
