@@ -41,6 +41,9 @@ void DialogAnswerer::timerEvent(QTimerEvent* /*event*/)
         return;
     }
     m_done.insert(dialog);
+    // While a timer's event is being handled it does not fire again, also not in the event loop of
+    // another dialog that comes up meanwhile and wants its answer first: so a new timer goes on.
+    m_timer.start(lookEveryMs, this);
     ++m_counts[nameOf(dialog)];
     m_answers.value(nameOf(dialog))(dialog);
 }
