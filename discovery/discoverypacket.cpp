@@ -36,9 +36,16 @@ int byteAt(const QByteArray& bytes, qsizetype offset)
     return offset < bytes.size() ? static_cast<unsigned char>(bytes.at(offset)) : 0;
 }
 
-int signedByteAt(const QByteArray& bytes, qsizetype offset)
+int signedByteAt(QByteArrayView bytes, qsizetype offset)
 {
     return offset < bytes.size() ? static_cast<signed char>(bytes.at(offset)) : 0;
+}
+
+// So many bytes at `offset`, fewer where the datagram ends early.
+QByteArrayView bytesAt(const QByteArray& bytes, qsizetype offset, qsizetype size)
+{
+    const qsizetype start = std::min(offset, bytes.size());
+    return QByteArrayView(bytes).sliced(start, std::min(size, bytes.size() - start));
 }
 
 void appendAddress(QByteArray& packet, const QHostAddress& address)
@@ -79,9 +86,9 @@ QString addressText(const QByteArray& bytes)
 {
     switch (byteAt(bytes, familyOffset)) {
     case ipv4Family:
-        return formatAddressBytes(bytes.mid(addressOffset, ipv4Size));
+        return formatAddressBytes(bytesAt(bytes, addressOffset, ipv4Size));
     case ipv6Family:
-        return formatAddressBytes(bytes.mid(addressOffset, ipv6Size));
+        return formatAddressBytes(bytesAt(bytes, addressOffset, ipv6Size));
     default:
         return {};
     }
@@ -90,12 +97,10 @@ QString addressText(const QByteArray& bytes)
 // Takes the text at `offset` and moves the offset behind it.
 QString takeText(const QByteArray& bytes, qsizetype& offset)
 {
-    const qsizetype start = std::min(offset + 1, bytes.size());
-    const qsizetype rest = bytes.size() - start;
     const int length = signedByteAt(bytes, offset);
-    const qsizetype taken = length < 0 ? rest : std::min<qsizetype>(length, rest);
-    offset += 1 + taken;
-    return QString::fromUtf8(QByteArrayView(bytes).sliced(start, taken));
+    const QByteArrayView text = bytesAt(bytes, offset + 1, length < 0 ? bytes.size() : length);
+    offset += 1 + text.size();
+    return QString::fromUtf8(text);
 }
 
 } // namespace
@@ -124,7 +129,7 @@ std::optional<DiscoveryPacket> parseDiscoveryPacket(const QByteArray& bytes)
     packet.replyFlag = (flags & replyBit) != 0 ? 1 : 0;
     packet.modeFlag = (flags & modeMask) == modeSet ? 1 : 0;
     packet.ipText = addressText(bytes);
-    packet.mac = bytes.mid(macOffset, macSize);
+    packet.mac = bytesAt(bytes, macOffset, macSize).toByteArray();
     qsizetype offset = textsOffset;
     packet.serviceText = takeText(bytes, offset);
     const bool hasBody = byteAt(bytes, offset) != 0 || byteAt(bytes, offset + 1) != 0;
@@ -137,10 +142,10 @@ std::optional<DiscoveryPacket> parseDiscoveryPacket(const QByteArray& bytes)
     return packet;
 }
 
-QString formatAddressBytes(const QByteArray& address)
+QString formatAddressBytes(QByteArrayView address)
 {
     if (address.size() == ipv4Size) {
-        return QHostAddress(qFromBigEndian<quint32>(address.constData())).toString();
+        return QHostAddress(qFromBigEndian<quint32>(address.data())).toString();
     }
     if (address.size() != ipv6Size) {
         return {};

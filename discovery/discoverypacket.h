@@ -42,4 +42,4 @@ std::optional<DiscoveryPacket> parseDiscoveryPacket(const QByteArray& bytes);
 
 /// An address as text: four bytes as dotted decimals, sixteen as eight groups of lower-case
 /// hexadecimals, any other number as empty text. The sixteen are signed: 0xF0 is written "-10".
-QString formatAddressBytes(const QByteArray& address);
+QString formatAddressBytes(QByteArrayView address);

@@ -15,16 +15,23 @@ void pack(const DeviceData& device, QVariantMap& data)
     data.insert(DataKey::deviceMacAddress(), device.macAddress);
 }
 
+// Reads the value in its place, which data.value() would copy first.
+QString textOf(const QVariantMap& data, const QString& key)
+{
+    const auto found = data.constFind(key);
+    return found != data.cend() ? found->toString() : QString();
+}
+
 DeviceData unpack(const QVariantMap& data)
 {
     DeviceData device;
-    device.label = data.value(DataKey::deviceLabel()).toString();
-    device.ipAddress = data.value(DataKey::deviceIPAddress()).toString();
-    device.modelName = data.value(DataKey::deviceModelName()).toString();
-    device.version = data.value(DataKey::deviceVersion()).toString();
-    device.macAddress = data.value(DataKey::deviceMacAddress()).toString();
-    device.searchType = data.value(DataKey::deviceSearchType()).toString();
-    device.password = data.value(DataKey::devicePassword()).toString();
+    device.label = textOf(data, DataKey::deviceLabel());
+    device.ipAddress = textOf(data, DataKey::deviceIPAddress());
+    device.modelName = textOf(data, DataKey::deviceModelName());
+    device.version = textOf(data, DataKey::deviceVersion());
+    device.macAddress = textOf(data, DataKey::deviceMacAddress());
+    device.searchType = textOf(data, DataKey::deviceSearchType());
+    device.password = textOf(data, DataKey::devicePassword());
     device.roomNumber = data.value(DataKey::roomNumber()).toInt();
     return device;
 }
@@ -97,11 +104,11 @@ bool DeviceKinds::add(DocumentData& doc, const QVariantMap& data)
     if (!data.contains(DataKey::deviceIPAddress())) {
         return false;
     }
-    const DeviceData device = unpack(data);
+    DeviceData device = unpack(data);
     if (!isDeviceAccepted(device.version, device.modelName)) {
         return false;
     }
-    doc.devices.append(device);
+    doc.devices.append(std::move(device));
     return true;
 }
 

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-void DeviceRecords::append(const DeviceData& device)
+void DeviceRecords::append(DeviceData device)
 {
     if (!m_firstByAddress.contains(device.ipAddress)) {
         m_firstByAddress.insert(device.ipAddress, m_devices.size());
     }
-    m_devices.append(device);
+    m_devices.append(std::move(device));
 }
 
 qsizetype DeviceRecords::size() const

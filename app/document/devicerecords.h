@@ -9,7 +9,7 @@
 class DeviceRecords
 {
 public:
-    void append(const DeviceData& device);
+    void append(DeviceData device);
 
     qsizetype size() const;
     const QList<DeviceData>& all() const;

@@ -18,6 +18,12 @@ std::optional<int> toNumber(QStringView text)
     return ok ? std::optional(number) : std::nullopt;
 }
 
+QStringView firstPart(QStringView version)
+{
+    const qsizetype dot = version.indexOf(u'.');
+    return dot < 0 ? version : version.first(dot);
+}
+
 std::optional<int> majorNumber(QStringView part)
 {
     while (!part.isEmpty() && !part.front().isDigit()) {
@@ -26,8 +32,9 @@ std::optional<int> majorNumber(QStringView part)
     return toNumber(part);
 }
 
-bool isAccessPointVersionAccepted(int major, const QList<QStringView>& parts)
+bool isAccessPointVersionAccepted(int major, QStringView version)
 {
+    const QList<QStringView> parts = version.split(u'.');
     if (parts.size() < 3) {
         return false;
     }
@@ -46,10 +53,10 @@ bool isDeviceAccepted(QStringView version, QStringView model)
     if (version.isEmpty() || !isKnownModel(model)) {
         return false;
     }
-    const QList<QStringView> parts = version.split(u'.');
-    const std::optional<int> major = majorNumber(parts.front());
+    const std::optional<int> major = majorNumber(firstPart(version));
     if (!major) {
         return false;
     }
-    return model.startsWith(u"PX-NDE") ? isAccessPointVersionAccepted(*major, parts) : *major >= 2;
+    return model.startsWith(u"PX-NDE") ? isAccessPointVersionAccepted(*major, version)
+                                       : *major >= 2;
 }

@@ -4,6 +4,8 @@
 #include "datakind.h"
 #include "idocaccessor.h"
 
+#include <map>
+
 namespace {
 
 DeviceEntry unpack(const QVariantMap& data)
@@ -57,16 +59,17 @@ QList<DeviceEntry> devicesInRoom(IDocAccessor& doc, int room)
 
 bool addDevice(IDocAccessor& doc, const FoundDevice& device)
 {
-    QVariantMap data{{DataKey::deviceModelName(), device.modelName},
-                     {DataKey::deviceLabel(), device.label},
-                     {DataKey::deviceVersion(), device.version},
-                     {DataKey::deviceIPAddress(), device.ipAddress},
-                     {DataKey::deviceMacAddress(), device.macAddress},
-                     {DataKey::deviceSearchType(), device.searchType}};
+    // In the order of the key texts: the map appends each without searching for its place.
+    std::map<QString, QVariant> data{{DataKey::deviceIPAddress(), device.ipAddress},
+                                     {DataKey::deviceLabel(), device.label},
+                                     {DataKey::deviceMacAddress(), device.macAddress},
+                                     {DataKey::deviceModelName(), device.modelName},
+                                     {DataKey::deviceSearchType(), device.searchType},
+                                     {DataKey::deviceVersion(), device.version}};
     if (!device.password.isEmpty()) {
-        data.insert(DataKey::devicePassword(), device.password);
+        data.emplace(DataKey::devicePassword(), device.password);
     }
-    return doc.addData(DataKind::Device, data);
+    return doc.addData(DataKind::Device, QVariantMap(std::move(data)));
 }
 
 bool setDeviceRoom(IDocAccessor& doc, const QString& ipAddress, int room)
