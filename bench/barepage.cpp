@@ -8,19 +8,21 @@
 #include <QPushButton>
 #include <QTreeWidget>
 
+#include <cmath>
+
 namespace {
 
 constexpr int squareSide = 20;
-constexpr int gridSide = 418;
-constexpr int cellPitch = 52;
+constexpr int pictureSide = 64;
 
-// Cells that paint themselves: one for a button in a row, 64 for a grid.
+// Cells that paint themselves: one for a button in a row, more in a square for a grid.
 class PaintedSquares : public QWidget
 {
 public:
     PaintedSquares(int side, int squares, QWidget* parent = nullptr)
         : QWidget(parent)
         , m_squares(squares)
+        , m_perRow(qRound(std::sqrt(squares)))
     {
         setFixedSize(side, side);
     }
@@ -29,15 +31,17 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
+        const int side = width() / m_perRow;
         for (int index = 0; index < m_squares; ++index) {
-            const QRect square(index % 8 * cellPitch, index / 8 * cellPitch, width(), height());
-            painter.fillRect(square & rect(), QColor(0x44, 0x84, 0x47));
-            painter.drawText(square & rect(), Qt::AlignCenter, QStringLiteral("1"));
+            const QRect square(index % m_perRow * side, index / m_perRow * side, side, side);
+            painter.fillRect(square, QColor(0x44, 0x84, 0x47));
+            painter.drawText(square, Qt::AlignCenter, QStringLiteral("1"));
         }
     }
 
 private:
     int m_squares;
+    int m_perRow;
 };
 
 QWidget* makeOverlay()
@@ -57,6 +61,9 @@ QWidget* makeRowWidget(QChar kind)
         combo->addItems({QStringLiteral("No Assign"), QStringLiteral("1"), QStringLiteral("2"),
                          QStringLiteral("3"), QStringLiteral("4")});
         return combo;
+    }
+    if (kind == u'b') {
+        return new QPushButton(QStringLiteral("Remove"));
     }
     if (kind == u'e') {
         return new QLineEdit(QStringLiteral("Preset name"));
@@ -84,15 +91,20 @@ QTreeWidget* makeBareTree(const BareTree& shape, QWidget* parent)
     for (int row = 0; row < shape.rows; ++row) {
         items.append(makeRow(shape, row));
     }
-    QPixmap picture(64, 64);
+    QPixmap picture(pictureSide, pictureSide);
     picture.fill(Qt::darkGray);
+    if (shape.pictures > 0) {
+        tree->setIconSize(picture.size());
+    }
     for (int row = 0; row < shape.pictures; ++row) {
         items.at(row)->setIcon(0, picture);
     }
     tree->addTopLevelItems(items);
     for (QTreeWidgetItem* item : items) {
         for (int column = 0; column < shape.widgets.size(); ++column) {
-            tree->setItemWidget(item, column, makeRowWidget(shape.widgets.at(column)));
+            if (shape.widgets.at(column) != u' ') {
+                tree->setItemWidget(item, column, makeRowWidget(shape.widgets.at(column)));
+            }
         }
     }
     return tree;
@@ -110,11 +122,16 @@ BarePage::BarePage(const BareShape& shape, QWidget* parent)
         text->setWordWrap(true);
         layout->addWidget(text);
     }
-    for (int grid = 0; grid < shape.grids; ++grid) {
-        layout->addWidget(new PaintedSquares(gridSide, 64, this));
+    // The first tree stands beside the grid where there is one, all others below.
+    QBoxLayout* place = layout;
+    if (shape.grid.cells > 0) {
+        place = new QHBoxLayout;
+        layout->addLayout(place, 1);
+        place->addWidget(new PaintedSquares(shape.grid.side, shape.grid.cells, this));
     }
     for (const BareTree& tree : shape.trees) {
-        layout->addWidget(makeBareTree(tree, this), 1);
+        place->addWidget(makeBareTree(tree, this), 1);
+        place = layout;
     }
     auto* row = new QHBoxLayout;
     layout->addLayout(row);

@@ -6,8 +6,8 @@
 class QTreeWidget;
 
 /// A tree of a bare page: so many rows and columns of text, and in each row the widgets named by
-/// letters: 'c' a combo box, 'e' a line edit, 'p' a painted square of 20 x 20 pixels, 'o' one that
-/// lies over its cell in a layout.
+/// letters: 'b' a push button, 'c' a combo box, 'e' a line edit, 'p' a painted square of 20 x 20
+/// pixels, 'o' one that lies over its cell in a layout, a space none.
 struct BareTree
 {
     int rows = 0;
@@ -16,11 +16,18 @@ struct BareTree
     int pictures = 0; ///< rows whose first cell shows a 64 x 64 picture
 };
 
+/// A square picture of painted areas of one size.
+struct BareGrid
+{
+    int cells = 0; ///< 0 = there is no picture
+    int side = 0;
+};
+
 /// What a page consists of.
 struct BareShape
 {
     int labels = 0; ///< paragraphs that are wrapped
-    int grids = 0;  ///< squares of 64 painted cells
+    BareGrid grid;
     QList<BareTree> trees;
 };
 

@@ -19,6 +19,7 @@
 namespace {
 
 constexpr int rooms = 4;
+constexpr int cells = 64;
 constexpr int layouts = 10;
 constexpr int groups = rooms * layouts;
 
@@ -31,7 +32,8 @@ public:
     void setInstallDone(bool /*done*/) override {}
 };
 
-// The shape of the page at `index` with so many devices; step 5 and 6 show one combined room.
+// The shape of the page at `index` with so many devices; step 4 paints whole rooms, step 5 and 6
+// show one combined room.
 BareShape shapeOf(int index, int devices)
 {
     const int inRoom = devices / rooms;
@@ -40,28 +42,28 @@ BareShape shapeOf(int index, int devices)
     const BareTree summary{1, 5, noWidgets};
     switch (index) {
     case 1:
-        return {3, 1, {}};
+        return {3, {cells, 402}, {}};
     case 2:
         return {5,
-                1,
+                {cells, 113},
                 {{rooms, 4, noWidgets},
                  {rooms, 6, QStringLiteral("opc")},
                  {devices - rooms, 6, QStringLiteral("opc")}}};
     case 3:
-        return {3, 1, {{layouts, 4, QStringLiteral("p"), layouts}}};
+        return {3, {rooms, 393}, {{layouts, 2, QStringLiteral(" b"), layouts}}};
     case 4:
         return {6,
-                0,
+                {},
                 {groupList,
                  summary,
                  {1, 7, QStringLiteral("pp")},
                  {inRoom - 1, 7, QStringLiteral("pp")}}};
     case 5:
-        return {4, 0, {groupList, {inRoom / 2, 7, QStringLiteral("pc")}}};
+        return {4, {}, {groupList, {inRoom / 2, 7, QStringLiteral("pc")}}};
     case 6:
-        return {3, 0, {{groups, 4, QStringLiteral("e")}}};
+        return {3, {}, {{groups, 4, QStringLiteral("e")}}};
     default:
-        return {3, 0, {{rooms, 4, QStringLiteral("p")}}};
+        return {3, {}, {{rooms, 4, QStringLiteral("p")}}};
     }
 }
 
