@@ -88,6 +88,7 @@ void carryOutFaultRow(const QString& base)
     if (row.hearing == Hearing::Lost) {
         waitUntilQuiet(step);
         QCOMPARE(step.status(faultyHub), QStringLiteral("Installing..."));
+        QVERIFY(!hub->exchangeNames().isEmpty());
         QCOMPARE(hub->exchangeNames().last(), exchangeName(exchange));
         QCOMPARE(finished.size(), 0);
         passSeconds(sender, moreThanPatience);
