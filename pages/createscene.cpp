@@ -1,5 +1,6 @@
 #include "createscene.h"
 
+#include "focusedrow.h"
 #include "layoutqueries.h"
 #include "roomqueries.h"
 #include "sceneitem.h"
@@ -117,6 +118,7 @@ void CreateScene::createWidgets()
     m_list->setRootIsDecorated(false);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setColumnWidth(numberColumn, numberColumnWidth);
+    m_focusedRow = new FocusedRow(m_list);
 }
 
 void CreateScene::layOut()
@@ -182,6 +184,7 @@ void CreateScene::appendRow(const SceneInfo& layout)
     connect(item, SIGNAL(removeClicked()), this, SLOT(removeButtonClicked()));
     m_list->setItemWidget(row, layoutColumn, item);
     setTabOrder(above, item->tabStop());
+    m_focusedRow->watch(item->tabStop());
     m_rows.insert(item, row);
 }
 

@@ -3,6 +3,7 @@
 #include <QMap>
 #include <QWidget>
 
+class FocusedRow;
 class IDocAccessor;
 class QPushButton;
 class QTreeWidget;
@@ -51,5 +52,6 @@ private:
     Tessel* m_tessel;
     QPushButton* m_addButton = nullptr;
     QTreeWidget* m_list = nullptr;
+    FocusedRow* m_focusedRow = nullptr;
     QMap<SceneItem*, QTreeWidgetItem*> m_rows;
 };

@@ -1,5 +1,6 @@
 #include "devicetable.h"
 
+#include "focusedrow.h"
 #include "identifybutton.h"
 #include "rowdelegate.h"
 
@@ -29,6 +30,7 @@ QList<QWidget*> tabStops(QWidget* widget)
 
 DeviceTable::DeviceTable(const QStringList& headers, int addressColumn, QWidget* parent)
     : QTreeWidget(parent)
+    , m_focusedRow(new FocusedRow(this))
     , m_addressColumn(addressColumn)
 {
     setHeaderLabels(headers);
@@ -101,6 +103,7 @@ void DeviceTable::chainTabOrder()
     std::reverse(stops.begin(), stops.end());
     for (QWidget* stop : std::as_const(stops)) {
         setTabOrder(this, stop);
+        m_focusedRow->watch(stop);
     }
 }
 

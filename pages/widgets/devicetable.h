@@ -5,6 +5,8 @@
 
 #include <functional>
 
+class FocusedRow;
+
 /// A table of devices: one row per device with its label in column 0, an identify button in
 /// column 1 and its IP address in a column that the page names; the address finds the row again.
 class DeviceTable : public QTreeWidget
@@ -48,6 +50,7 @@ private:
     void addIdentifyButton(QTreeWidgetItem* row);
 
     QHash<QString, QTreeWidgetItem*> m_rows;
+    FocusedRow* m_focusedRow;
     int m_addressColumn;
     bool m_filling = false; ///< the tab order waits for all rows
 };

@@ -11,6 +11,7 @@
 #include "tesseldoc.h"
 #include "testcase.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void isLoadedOnlyWhenReachedFromAnEarlierStep();
     void restoringLoadsAndSavingStores();
     void worksWithTheKeyboardAlone();
+    void theLayoutThatTabComesToIsInSight();
     void nothingIsClippedAtTheSmallestWindow();
 };
 
@@ -95,7 +97,23 @@ struct Step
         return qobject_cast<SceneItem*>(tree->itemWidget(tree->topLevelItem(row), 1));
     }
 
-    void remove(int row) { press(buttonOf(*item(row), "removeButton")); }
+    QPushButton* removeButton(int row) const { return buttonOf(*item(row), "removeButton"); }
+
+    void remove(int row) { press(removeButton(row)); }
+
+    /// The keyboard goes to the window in front.
+    bool activate()
+    {
+        page.activateWindow();
+        return QTest::qWaitForWindowActive(&page);
+    }
+
+    bool isInSight(int row) const
+    {
+        const QWidget* button = removeButton(row);
+        const QPoint corner = button->mapTo(tree->viewport(), QPoint());
+        return tree->viewport()->rect().contains(QRect(corner, button->size()));
+    }
 
     /// The list as text, for example "1:1+2/3/4".
     QStringList rows() const
@@ -382,6 +400,20 @@ void TestPageCreateScene::worksWithTheKeyboardAlone()
     QCOMPARE(remove->accessibleName(), QStringLiteral("Remove layout 1+2/3/4"));
     QTest::keyClick(remove, Qt::Key_Space);
     QVERIFY(step.rows().isEmpty());
+}
+
+void TestPageCreateScene::theLayoutThatTabComesToIsInSight()
+{
+    Step step;
+    step.list(combinationsOfFour.mid(0, 10));
+    QVERIFY(step.activate());
+    step.tree->setFocus();
+    for (int row = 0; row < 10; ++row) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), step.removeButton(row));
+        QCOMPARE(step.tree->currentItem(), step.tree->topLevelItem(row));
+        QVERIFY(step.isInSight(row));
+    }
 }
 
 void TestPageCreateScene::nothingIsClippedAtTheSmallestWindow()

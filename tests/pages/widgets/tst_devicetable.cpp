@@ -28,6 +28,8 @@ private Q_SLOTS:
     void tabGoesThroughTheRowsInReadingOrder_data();
     void tabGoesThroughTheRowsInReadingOrder();
     void tabFollowsTheRowsWhenTheyAreSortedAnew();
+    void theRowThatTabComesToIsInSight();
+    void aRowScrolledAwayComesBackWithTheFocus();
     void aShownTableIsLaidOutNoOftenerForMoreRows();
 };
 
@@ -83,6 +85,20 @@ QList<QStringList> devices(int count)
         rows.append(device(QStringLiteral("Device %1").arg((i * 7919) % count), i));
     }
     return rows;
+}
+
+/// A frame that takes no focus around a button that does, as the pencils of the hostnames have.
+void addFramedButton(QTreeWidget& table, QTreeWidgetItem* row)
+{
+    auto* frame = new QWidget(&table);
+    new IdentifyButton(QString(), frame);
+    table.setItemWidget(row, roomColumn, frame);
+}
+
+bool isInSight(const QTreeWidget& table, const QWidget* widget)
+{
+    return widget && table.viewport()->rect().contains(
+                         QRect(widget->mapTo(table.viewport(), QPoint()), widget->size()));
 }
 
 void addRoomBox(QTreeWidget& table, QTreeWidgetItem* row)
@@ -272,6 +288,43 @@ void TestDeviceTable::tabFollowsTheRowsWhenTheyAreSortedAnew()
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), table.buttonOf(row));
     }
+}
+
+void TestDeviceTable::theRowThatTabComesToIsInSight()
+{
+    Table table;
+    table.setRows(devices(40), [&](QTreeWidgetItem* row) { addFramedButton(table, row); });
+    table.show();
+    table.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&table));
+    table.setFocus();
+    // Down through two stops per row, and up again.
+    for (int stop = 0; stop < 80; ++stop) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QVERIFY(isInSight(table, QApplication::focusWidget()));
+        QCOMPARE(table.currentItem(), table.topLevelItem(stop / 2));
+    }
+    for (int stop = 78; stop >= 0; --stop) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+        QVERIFY(isInSight(table, QApplication::focusWidget()));
+        QCOMPARE(table.currentItem(), table.topLevelItem(stop / 2));
+    }
+}
+
+void TestDeviceTable::aRowScrolledAwayComesBackWithTheFocus()
+{
+    Table table;
+    table.setRows(devices(40), [&](QTreeWidgetItem* row) { addFramedButton(table, row); });
+    table.show();
+    table.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&table));
+    table.setFocus();
+    QTest::keyClick(&table, Qt::Key_Tab);
+    QCOMPARE(table.currentItem(), table.topLevelItem(0));
+    table.scrollToBottom();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(table.currentItem(), table.topLevelItem(0));
+    QVERIFY(isInSight(table, QApplication::focusWidget()));
 }
 
 void TestDeviceTable::aShownTableIsLaidOutNoOftenerForMoreRows()

@@ -1,0 +1,57 @@
+#include "focusedrow.h"
+
+#include <QFocusEvent>
+#include <QTreeWidget>
+
+namespace {
+
+bool isByKey(Qt::FocusReason reason)
+{
+    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+           reason == Qt::ShortcutFocusReason;
+}
+
+} // namespace
+
+FocusedRow::FocusedRow(QTreeWidget* list)
+    : QObject(list)
+    , m_list(list)
+{
+}
+
+void FocusedRow::watch(QWidget* stop)
+{
+    stop->installEventFilter(this);
+}
+
+bool FocusedRow::eventFilter(QObject* watched, QEvent* event)
+{
+    // Not by mouse: what is pressed must not move away under the pointer.
+    if (event->type() == QEvent::FocusIn && isByKey(static_cast<QFocusEvent*>(event)->reason())) {
+        show(static_cast<QWidget*>(watched));
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void FocusedRow::show(const QWidget* stop)
+{
+    const QModelIndex cell = cellOf(stop);
+    if (cell.isValid()) {
+        m_list->setCurrentItem(m_list->itemFromIndex(cell));
+        m_list->scrollTo(cell);
+    }
+}
+
+QModelIndex FocusedRow::cellOf(const QWidget* stop) const
+{
+    for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
+        QTreeWidgetItem* row = m_list->topLevelItem(i);
+        for (int column = 0; column < m_list->columnCount(); ++column) {
+            const QWidget* widget = m_list->itemWidget(row, column);
+            if (widget && (widget == stop || widget->isAncestorOf(stop))) {
+                return m_list->indexFromItem(row, column);
+            }
+        }
+    }
+    return {};
+}
