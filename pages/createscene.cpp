@@ -60,8 +60,8 @@ void CreateScene::store()
 {
     clearLayouts(m_doc);
     for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
-        const QTreeWidgetItem* row = m_list->topLevelItem(i);
-        const SceneItem* item = m_rows.key(m_list->topLevelItem(i));
+        QTreeWidgetItem* row = m_list->topLevelItem(i);
+        const SceneItem* item = itemOf(row);
         addLayout(m_doc, {numberOf(row), item->roomGroup(), item->thumbnail()});
     }
 }
@@ -102,8 +102,27 @@ void CreateScene::removeButtonClicked()
             setNumber(row, numberOf(row) - 1);
         }
     }
+    QTreeWidgetItem* next = item->tabStop()->hasFocus() ? passFocusOn(removed) : nullptr;
     delete removed;
+    if (next) {
+        m_list->scrollToItem(next);
+    }
     updateButtons();
+}
+
+/// Whoever removes by key stays in the list. Left to itself, the focus would go on to the buttons
+/// below, where the next press of Space leaves the page. Returns the row that has it now, if any.
+QTreeWidgetItem* CreateScene::passFocusOn(QTreeWidgetItem* row)
+{
+    QTreeWidgetItem* below = m_list->itemBelow(row);
+    QTreeWidgetItem* neighbour = below ? below : m_list->itemAbove(row);
+    if (neighbour) {
+        m_list->setCurrentItem(neighbour);
+        itemOf(neighbour)->tabStop()->setFocus();
+    } else {
+        m_addButton->setFocus();
+    }
+    return neighbour;
 }
 
 void CreateScene::createWidgets()
@@ -193,8 +212,12 @@ QWidget* CreateScene::lastTabStop() const
     if (m_rows.isEmpty()) {
         return m_list;
     }
-    QTreeWidgetItem* last = m_list->topLevelItem(m_list->topLevelItemCount() - 1);
-    return static_cast<SceneItem*>(m_list->itemWidget(last, layoutColumn))->tabStop();
+    return itemOf(m_list->topLevelItem(m_list->topLevelItemCount() - 1))->tabStop();
+}
+
+SceneItem* CreateScene::itemOf(QTreeWidgetItem* row) const
+{
+    return static_cast<SceneItem*>(m_list->itemWidget(row, layoutColumn));
 }
 
 QTreeWidgetItem* CreateScene::rowOf(const QString& roomGroup) const

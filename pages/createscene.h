@@ -44,6 +44,8 @@ private:
     void loadLayouts();
     void clearList();
     void appendRow(const SceneInfo& layout);
+    QTreeWidgetItem* passFocusOn(QTreeWidgetItem* row);
+    SceneItem* itemOf(QTreeWidgetItem* row) const;
     QWidget* lastTabStop() const;
     QTreeWidgetItem* rowOf(const QString& roomGroup) const;
     void updateButtons();

@@ -44,6 +44,8 @@ private Q_SLOTS:
     void restoringLoadsAndSavingStores();
     void worksWithTheKeyboardAlone();
     void theLayoutThatTabComesToIsInSight();
+    void removingByKeyGoesOnInTheList();
+    void removingLeavesTheFocusElsewhereAlone();
     void nothingIsClippedAtTheSmallestWindow();
 };
 
@@ -414,6 +416,37 @@ void TestPageCreateScene::theLayoutThatTabComesToIsInSight()
         QCOMPARE(step.tree->currentItem(), step.tree->topLevelItem(row));
         QVERIFY(step.isInSight(row));
     }
+}
+
+void TestPageCreateScene::removingByKeyGoesOnInTheList()
+{
+    Step step;
+    step.list(combinationsOfFour.mid(0, 10));
+    QVERIFY(step.activate());
+    step.removeButton(7)->setFocus(Qt::TabFocusReason);
+    // Row by row from below the removed one, then upwards.
+    for (const int row : {7, 7, 6, 5, 4, 3, 2, 1, 0}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QCOMPARE(QApplication::focusWidget(), step.removeButton(row));
+        QVERIFY(step.isInSight(row));
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QVERIFY(step.rows().isEmpty());
+    QCOMPARE(QApplication::focusWidget(), step.add);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QCOMPARE(step.rows(), strings({"1:1/2/3/4"}));
+    QCOMPARE(step.controller.backs, 0);
+}
+
+void TestPageCreateScene::removingLeavesTheFocusElsewhereAlone()
+{
+    Step step;
+    step.list(combinationsOfFour.mid(0, 3));
+    QVERIFY(step.activate());
+    step.tessel->setFocus();
+    step.removeButton(2)->click();
+    QCOMPARE(step.tree->topLevelItemCount(), 2);
+    QCOMPARE(QApplication::focusWidget(), step.tessel);
 }
 
 void TestPageCreateScene::nothingIsClippedAtTheSmallestWindow()
