@@ -64,7 +64,7 @@ void PageInstall::executeButtonClicked()
 {
     if (m_executeButton->text() == tr("Execute")) {
         m_content->install();
-        m_executeButton->setEnabled(!m_content->isBusy());
+        setExecuteEnabled(!m_content->isBusy());
     } else {
         controller().next();
     }
@@ -77,5 +77,21 @@ void PageInstall::installStatusChanged()
         m_executeButton->setText(tr("Next"));
     }
     controller().setInstallDone(done);
-    m_executeButton->setEnabled(!m_content->isBusy());
+    setExecuteEnabled(!m_content->isBusy());
+}
+
+/// A disabled button loses the focus to whatever comes next. Who works by key gets it back, unless
+/// they have gone elsewhere meanwhile.
+void PageInstall::setExecuteEnabled(bool enable)
+{
+    const bool hadFocus = window()->focusWidget() == m_executeButton;
+    m_executeButton->setEnabled(enable);
+    if (enable) {
+        if (m_focusMeanwhile && m_focusMeanwhile == window()->focusWidget() && isVisible()) {
+            m_executeButton->setFocus();
+        }
+        m_focusMeanwhile.clear();
+    } else if (hadFocus) {
+        m_focusMeanwhile = window()->focusWidget();
+    }
 }

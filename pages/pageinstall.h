@@ -2,6 +2,8 @@
 
 #include "basepage.h"
 
+#include <QPointer>
+
 class Install;
 class QPushButton;
 
@@ -27,8 +29,10 @@ public Q_SLOTS:
 private:
     void load();
     void layOut();
+    void setExecuteEnabled(bool enable);
 
     Install* m_content;
     QPushButton* m_backButton;
     QPushButton* m_executeButton;
+    QPointer<QWidget> m_focusMeanwhile; ///< has the focus that the disabled button had
 };

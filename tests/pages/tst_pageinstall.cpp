@@ -29,6 +29,10 @@ private Q_SLOTS:
     void restoringListsTheHubs();
     void comingBackFromALaterStepKeepsTheStatuses();
     void worksWithTheKeyboard();
+    void theKeyboardIsBackOnTheButtonWhenItsRunIsOver_data();
+    void theKeyboardIsBackOnTheButtonWhenItsRunIsOver();
+    void theKeyboardStaysWhereTheUserTookItMeanwhile();
+    void theKeyboardIsNotTakenFromThePageBefore();
 };
 
 namespace {
@@ -52,6 +56,13 @@ Fault refusal(Exchange exchange)
     fault.number = 500;
     fault.times = 1;
     return fault;
+}
+
+/// The keyboard goes to the window in front.
+bool activate(InstallHall& step)
+{
+    step.page.activateWindow();
+    return QTest::qWaitForWindowActive(&step.page);
 }
 
 void takeHubsOutOfTheirRooms(InstallHall& step, int hubs)
@@ -233,6 +244,66 @@ void TestPageInstall::worksWithTheKeyboard()
     QCOMPARE(step.controller.nexts, 1);
     QTest::keyClick(buttonOf(step.page, "backButton"), Qt::Key_Space);
     QCOMPARE(step.controller.backs, 1);
+}
+
+void TestPageInstall::theKeyboardIsBackOnTheButtonWhenItsRunIsOver_data()
+{
+    QTest::addColumn<bool>("fails");
+    QTest::newRow("all done") << false;
+    QTest::newRow("a hub failed") << true;
+}
+
+void TestPageInstall::theKeyboardIsBackOnTheButtonWhenItsRunIsOver()
+{
+    QFETCH(const bool, fails);
+    InstallHall step(base, 2);
+    if (fails) {
+        step.setFault(2, refusal(Exchange::PresetEntry));
+    }
+    QVERIFY(activate(step));
+    step.execute()->setFocus();
+    QTest::keyClick(step.execute(), Qt::Key_Space);
+    QVERIFY(!step.execute()->isEnabled());
+    QCOMPARE(step.statuses(), QStringLiteral("Installing... Installing..."));
+    QTRY_VERIFY(step.execute()->isEnabled());
+    QCOMPARE(step.page.focusWidget(), step.execute());
+    if (fails) {
+        QTest::keyClick(step.page.focusWidget(), Qt::Key_Space);
+        QTRY_COMPARE(step.execute()->text(), QStringLiteral("Next"));
+        QCOMPARE(step.page.focusWidget(), step.execute());
+    }
+    QTest::keyClick(step.page.focusWidget(), Qt::Key_Space);
+    QCOMPARE(step.controller.nexts, 1);
+}
+
+void TestPageInstall::theKeyboardStaysWhereTheUserTookItMeanwhile()
+{
+    InstallHall step(base, 1);
+    QVERIFY(activate(step));
+    step.execute()->setFocus();
+    QTest::keyClick(step.execute(), Qt::Key_Space);
+    QPushButton* back = buttonOf(step.page, "backButton");
+    back->setFocus();
+    QTRY_VERIFY(step.execute()->isEnabled());
+    QCOMPARE(step.page.focusWidget(), back);
+}
+
+void TestPageInstall::theKeyboardIsNotTakenFromThePageBefore()
+{
+    InstallHall step(base, 1);
+    QVERIFY(activate(step));
+    step.execute()->setFocus();
+    QTest::keyClick(step.execute(), Qt::Key_Space);
+    QWidget* meanwhile = step.page.focusWidget();
+    step.page.hide();
+    QTRY_VERIFY(step.execute()->isEnabled());
+    QVERIFY(step.page.focusWidget() != step.execute());
+    // Nor once it is shown again.
+    step.page.show();
+    QVERIFY(activate(step));
+    meanwhile->setFocus();
+    step.page.installStatusChanged();
+    QCOMPARE(step.page.focusWidget(), meanwhile);
 }
 
 TESSEL_TEST_MAIN(TestPageInstall)
