@@ -1,21 +1,17 @@
 #include "devicenamedialog.h"
 
+#include "devicenamevalidator.h"
+
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr int maxNameLength = 64;
 constexpr int editWidth = 300;
-
-QString namePattern()
-{
-    return QStringLiteral(R"([A-Za-z0-9\-]+)");
-}
 
 } // namespace
 
@@ -25,6 +21,7 @@ DeviceNameDialog::DeviceNameDialog(const QString& name, QWidget* parent)
     setWindowTitle(tr("Change Name"));
     createWidgets();
     layOut();
+    restrictEdits(name);
     connect(m_nameEdit, SIGNAL(textChanged(QString)), this, SLOT(nameChanged()));
     connect(m_okButton, SIGNAL(clicked()), this, SLOT(accept()));
     connect(m_cancelButton, SIGNAL(clicked()), this, SLOT(reject()));
@@ -49,13 +46,18 @@ void DeviceNameDialog::createWidgets()
     m_nameEdit->setObjectName(QStringLiteral("nameEdit"));
     m_nameEdit->setMaxLength(maxNameLength);
     m_nameEdit->setMinimumWidth(editWidth);
-    m_nameEdit->setValidator(
-        new QRegularExpressionValidator(QRegularExpression(namePattern()), m_nameEdit));
     m_okButton = new QPushButton(tr("OK"), this);
     m_okButton->setObjectName(QStringLiteral("okButton"));
     m_okButton->setDefault(true);
     m_cancelButton = new QPushButton(tr("Cancel"), this);
     m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
+}
+
+void DeviceNameDialog::restrictEdits(const QString& name)
+{
+    auto* validator = new DeviceNameValidator(name, m_nameEdit);
+    m_nameEdit->setValidator(validator);
+    connect(m_nameEdit, SIGNAL(textChanged(QString)), validator, SLOT(textShown(QString)));
 }
 
 void DeviceNameDialog::layOut()

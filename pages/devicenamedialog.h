@@ -24,6 +24,7 @@ private Q_SLOTS:
 private:
     void createWidgets();
     void layOut();
+    void restrictEdits(const QString& name);
 
     QLineEdit* m_nameEdit = nullptr;
     QPushButton* m_okButton = nullptr;

@@ -17,6 +17,12 @@ private Q_SLOTS:
     void okIsOfferedOnlyForANameThatIsNotEmpty();
     void opensWithOkDisabledForAnEmptyLabel();
     void onlyLettersDigitsAndHyphensCanBeTyped();
+    void aLabelThatIsNoNameStaysUntilEdited();
+    void aLabelThatIsNoNameLetsNothingElseIn_data();
+    void aLabelThatIsNoNameLetsNothingElseIn();
+    void whatOneCannotTypeOneCannotPaste();
+    void theCursorStaysWhereTheLabelIsEdited();
+    void undoBringsTheLabelBackAndNothingElseIn();
     void aNameEndsAtSixtyFourCharacters();
     void okAndReturnAccept();
     void cancelAndEscapeReject();
@@ -82,6 +88,79 @@ void TestDeviceNameDialog::onlyLettersDigitsAndHyphensCanBeTyped()
     const Opened opened(QStringLiteral("x"));
     QTest::keyClicks(opened.edit, QStringLiteral("Az_0 9-./\"9"));
     QCOMPARE(opened.dialog.name(), QStringLiteral("Az09-9"));
+}
+
+void TestDeviceNameDialog::aLabelThatIsNoNameStaysUntilEdited()
+{
+    Opened opened(QStringLiteral("Hall East_1"));
+    QCOMPARE(opened.dialog.name(), QStringLiteral("Hall East_1"));
+    QVERIFY(opened.ok->isEnabled());
+    QSignalSpy accepted(&opened.dialog, SIGNAL(accepted()));
+    QTest::keyClick(opened.edit, Qt::Key_Return);
+    QCOMPARE(accepted.size(), 1);
+    QCOMPARE(opened.dialog.name(), QStringLiteral("Hall East_1"));
+}
+
+void TestDeviceNameDialog::aLabelThatIsNoNameLetsNothingElseIn_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<bool>("replacing");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("name");
+    const QString label = QStringLiteral("East_1");
+    QTest::newRow("at its end") << label << false << QStringLiteral("a ./_2")
+                                << QStringLiteral("East_1a2");
+    QTest::newRow("in its place") << label << true << QStringLiteral("a_b c")
+                                  << QStringLiteral("abc");
+    QTest::newRow("in its place at once")
+        << label << true << QStringLiteral("_ x") << QStringLiteral("x");
+    QTest::newRow("umlaut and quote")
+        << QStringLiteral("B\u00FChne") << false << QStringLiteral("\u00FC\"9")
+        << QStringLiteral("B\u00FChne9");
+}
+
+void TestDeviceNameDialog::aLabelThatIsNoNameLetsNothingElseIn()
+{
+    QFETCH(const QString, label);
+    QFETCH(const bool, replacing);
+    QFETCH(const QString, typed);
+    const Opened opened(label);
+    QTest::keyClick(opened.edit, replacing ? Qt::Key_Delete : Qt::Key_End);
+    for (const QChar character : typed) {
+        QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString(character));
+        QCoreApplication::sendEvent(opened.edit, &event);
+    }
+    QTEST(opened.dialog.name(), "name");
+}
+
+void TestDeviceNameDialog::whatOneCannotTypeOneCannotPaste()
+{
+    const Opened opened(QStringLiteral("East_1"));
+    opened.edit->end(false);
+    opened.edit->insert(QStringLiteral("a b"));
+    QCOMPARE(opened.dialog.name(), QStringLiteral("East_1"));
+    opened.edit->insert(QStringLiteral("ab"));
+    QCOMPARE(opened.dialog.name(), QStringLiteral("East_1ab"));
+}
+
+void TestDeviceNameDialog::theCursorStaysWhereTheLabelIsEdited()
+{
+    const Opened opened(QStringLiteral("East_1"));
+    QTest::keyClick(opened.edit, Qt::Key_Home);
+    QTest::keyClicks(opened.edit, QStringLiteral("S_9"));
+    QCOMPARE(opened.dialog.name(), QStringLiteral("S9East_1"));
+}
+
+void TestDeviceNameDialog::undoBringsTheLabelBackAndNothingElseIn()
+{
+    const Opened opened(QStringLiteral("East_1"));
+    QTest::keyClick(opened.edit, Qt::Key_X);
+    QCOMPARE(opened.dialog.name(), QStringLiteral("x"));
+    opened.edit->undo();
+    QCOMPARE(opened.dialog.name(), QStringLiteral("East_1"));
+    QTest::keyClick(opened.edit, Qt::Key_End);
+    QTest::keyClicks(opened.edit, QStringLiteral("_ /2"));
+    QCOMPARE(opened.dialog.name(), QStringLiteral("East_12"));
 }
 
 void TestDeviceNameDialog::aNameEndsAtSixtyFourCharacters()
