@@ -255,6 +255,6 @@ void DeviceLocation::rename(const Row& row)
         return;
     }
     setDeviceLabel(m_doc, row.ipAddress, dialog.name());
-    row.item->setText(LabelColumn, dialog.name());
+    static_cast<DeviceTable*>(row.item->treeWidget())->setLabel(row.item, dialog.name());
     nameWidgets(row);
 }

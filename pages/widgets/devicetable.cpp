@@ -74,6 +74,12 @@ QTreeWidgetItem* DeviceTable::rowOf(const QString& ipAddress) const
     return m_rows.value(ipAddress);
 }
 
+void DeviceTable::setLabel(QTreeWidgetItem* row, const QString& label)
+{
+    row->setText(labelColumn, label);
+    nameIdentifyButton(row);
+}
+
 QString DeviceTable::addressOf(const QTreeWidgetItem* row) const
 {
     return row->text(m_addressColumn);
@@ -125,7 +131,13 @@ void DeviceTable::addRows(const QList<QStringList>& rows)
 void DeviceTable::addIdentifyButton(QTreeWidgetItem* row)
 {
     auto* button = new IdentifyButton(addressOf(row), this);
-    button->setAccessibleName(tr("Identify %1").arg(row->text(labelColumn)));
     connect(button, SIGNAL(clicked(QString)), this, SIGNAL(identifyClicked(QString)));
     setItemWidget(row, identifyColumn, button);
+    nameIdentifyButton(row);
+}
+
+void DeviceTable::nameIdentifyButton(QTreeWidgetItem* row)
+{
+    itemWidget(row, identifyColumn)
+        ->setAccessibleName(tr("Identify %1").arg(row->text(labelColumn)));
 }

@@ -34,6 +34,9 @@ public:
     /// The first row of the device with this address; null when there is none.
     QTreeWidgetItem* rowOf(const QString& ipAddress) const;
 
+    /// Renames the device of a row. With sorting enabled that may move the row.
+    void setLabel(QTreeWidgetItem* row, const QString& label);
+
     QString addressOf(const QTreeWidgetItem* row) const;
 
 Q_SIGNALS:
@@ -48,6 +51,7 @@ private:
     int addressWidth() const;
     void addRows(const QList<QStringList>& rows);
     void addIdentifyButton(QTreeWidgetItem* row);
+    void nameIdentifyButton(QTreeWidgetItem* row);
 
     QHash<QString, QTreeWidgetItem*> m_rows;
     FocusedRow* m_focusedRow;

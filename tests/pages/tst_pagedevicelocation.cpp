@@ -203,6 +203,9 @@ void TestPageDeviceLocation::renamingWritesTheLabelToTheDocumentAndTheRow()
              QStringLiteral("Stage-Left"));
     QCOMPARE(deviceByAddress(step.doc, step.address(2))->label, QStringLiteral("dev-002"));
     QCOMPARE(step.combo(firstAddress)->accessibleName(), QStringLiteral("Room of Stage-Left"));
+    QCOMPARE(step.peripherals->itemWidget(step.peripherals->rowOf(firstAddress), IdentifyColumn)
+                 ->accessibleName(),
+             QStringLiteral("Identify Stage-Left"));
     QVERIFY(step.doc.actions.isEmpty());
 }
 

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void forgetsRowsThatAreGone();
     void everyRowHasAnIdentifyButtonNamedAfterItsDevice();
     void tellsWhichDeviceIsToIdentifyItself();
+    void aNewLabelAlsoNamesTheIdentifyButton();
     void decoratesEveryRowOnceInTheOrderShown();
     void textsSetWhileDecoratingDoNotMoveRows();
     void rowsAreComfortablyHighAndButtonsCentred();
@@ -197,6 +198,17 @@ void TestDeviceTable::tellsWhichDeviceIsToIdentifyItself()
     QTest::mouseClick(table.buttonOf(1), Qt::LeftButton);
     QCOMPARE(identify.size(), 1);
     QCOMPARE(identify.first().first().toString(), QStringLiteral("10.0.0.2"));
+}
+
+void TestDeviceTable::aNewLabelAlsoNamesTheIdentifyButton()
+{
+    Table table;
+    table.setSortingEnabled(true);
+    table.setRows(threeDevices());
+    QTreeWidgetItem* row = table.rowOf(QStringLiteral("10.0.0.1"));
+    table.setLabel(row, QStringLiteral("Zulu"));
+    QCOMPARE(table.labels().last(), QStringLiteral("Zulu"));
+    QCOMPARE(table.buttonOf(2)->accessibleName(), QStringLiteral("Identify Zulu"));
 }
 
 void TestDeviceTable::decoratesEveryRowOnceInTheOrderShown()
