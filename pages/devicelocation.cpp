@@ -18,6 +18,8 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int pictureGap = 1;
@@ -33,6 +35,13 @@ enum Column
     AddressColumn,
     RoomColumn
 };
+
+/// A row that was changed may have moved to another place of a sorted table.
+void showCell(const QTreeWidgetItem& row, Column column)
+{
+    QTreeWidget* table = row.treeWidget();
+    table->scrollTo(table->indexFromItem(&row, column));
+}
 
 } // namespace
 
@@ -94,8 +103,12 @@ void DeviceLocation::reset()
 
 void DeviceLocation::comboBoxRoomChanged(int /*index*/)
 {
+    const Row* chosen = rowOfSender();
     for (const Row& row : std::as_const(m_rows)) {
         updateRow(row);
+    }
+    if (chosen) {
+        showCell(*chosen->item, RoomColumn);
     }
     updateSummary();
 }
@@ -120,12 +133,19 @@ void DeviceLocation::identifyButtonClicked(const QString& ipAddress)
 
 void DeviceLocation::deviceLabelIconClicked()
 {
-    for (const Row& row : std::as_const(m_rows)) {
-        if (row.icon == sender()) {
-            rename(row);
-            return;
-        }
+    if (const Row* row = rowOfSender()) {
+        rename(*row);
     }
+}
+
+/// The row whose combo or pencil sent the signal that is being handled; null when none did.
+const DeviceLocation::Row* DeviceLocation::rowOfSender() const
+{
+    const auto found =
+        std::find_if(m_rows.cbegin(), m_rows.cend(), [from = sender()](const Row& row) {
+            return row.room == from || row.icon == from;
+        });
+    return found != m_rows.cend() ? &*found : nullptr;
 }
 
 DeviceTable* DeviceLocation::createTable(const QString& name, const QString& accessibleName)
@@ -257,4 +277,5 @@ void DeviceLocation::rename(const Row& row)
     setDeviceLabel(m_doc, row.ipAddress, dialog.name());
     static_cast<DeviceTable*>(row.item->treeWidget())->setLabel(row.item, dialog.name());
     nameWidgets(row);
+    showCell(*row.item, LabelColumn);
 }

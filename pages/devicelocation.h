@@ -63,6 +63,7 @@ private:
     Row decorate(DeviceTable* table, QTreeWidgetItem* item, RoomCombo* combo);
     static void nameWidgets(const Row& row);
     static void updateRow(const Row& row);
+    const Row* rowOfSender() const;
     void updateSummary();
     void rename(const Row& row);
 

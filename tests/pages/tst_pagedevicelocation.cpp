@@ -25,6 +25,8 @@ private Q_SLOTS:
     void doubleClickingAnUnassignedDeviceOpensNoDialog();
     void onlyTheLabelCellOfAnAssignedDeviceOpensTheDialog();
     void renamingWritesTheLabelToTheDocumentAndTheRow();
+    void aRenamedRowIsInSightWhereverItsNamePutsIt();
+    void aRowIsInSightWhereverItsRoomPutsIt();
     void aCancelledRenameChangesNothing();
     void thePencilRenamesItsDeviceAndShowsOnlyWhileAssigned();
 };
@@ -32,6 +34,12 @@ private Q_SLOTS:
 namespace {
 
 using Step = DeviceLocationStep;
+
+bool isInSight(const DeviceTable* table, const QString& ip)
+{
+    const QRect row = table->visualItemRect(table->rowOf(ip));
+    return row.top() >= 0 && row.bottom() <= table->viewport()->height();
+}
 
 } // namespace
 
@@ -207,6 +215,32 @@ void TestPageDeviceLocation::renamingWritesTheLabelToTheDocumentAndTheRow()
                  ->accessibleName(),
              QStringLiteral("Identify Stage-Left"));
     QVERIFY(step.doc.actions.isEmpty());
+}
+
+void TestPageDeviceLocation::aRenamedRowIsInSightWhereverItsNamePutsIt()
+{
+    Step step;
+    step.add(speakerModel, 40);
+    step.enter();
+    ModalAnswer answer([](QWidget* dialog) {
+        QTest::keyClicks(dialog->findChild<QLineEdit*>(), QStringLiteral("zz"));
+        QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    press(step.pencil(step.peripherals, firstAddress));
+    QCOMPARE(columnTexts(step.peripherals, LabelColumn).last(), QStringLiteral("zz"));
+    QVERIFY(isInSight(step.peripherals, firstAddress));
+}
+
+void TestPageDeviceLocation::aRowIsInSightWhereverItsRoomPutsIt()
+{
+    Step step(4);
+    step.add(speakerModel, 40, 2);
+    step.enter();
+    step.peripherals->sortByColumn(RoomColumn, Qt::AscendingOrder);
+    QCOMPARE(columnTexts(step.peripherals, AddressColumn).first(), firstAddress);
+    QTest::keyClick(step.combo(firstAddress), Qt::Key_Down);
+    QCOMPARE(columnTexts(step.peripherals, AddressColumn).last(), firstAddress);
+    QVERIFY(isInSight(step.peripherals, firstAddress));
 }
 
 void TestPageDeviceLocation::aCancelledRenameChangesNothing()
