@@ -13,8 +13,8 @@
 #include "textlabel.h"
 
 #include <QHBoxLayout>
-#include <QHash>
 #include <QLabel>
+#include <QSet>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -66,16 +66,21 @@ void DeviceLocation::reload()
     drawPicture();
     QList<DeviceEntry> hubs;
     QList<DeviceEntry> peripherals;
+    QHash<QString, int> roomOfAddress;
     const int devices = deviceCount(m_doc);
     for (int i = 0; i < devices; ++i) {
         if (const auto device = deviceAt(m_doc, i)) {
             (isHub(device->modelName) ? hubs : peripherals).append(*device);
+            // Addresses find the first device that has them, here as in the document.
+            if (!roomOfAddress.contains(device->ipAddress)) {
+                roomOfAddress.insert(device->ipAddress, device->roomNumber);
+            }
         }
     }
     m_rows.clear();
     m_rows.reserve(devices);
-    fill(m_hubTable, hubs);
-    fill(m_peripheralTable, peripherals);
+    fill(m_hubTable, hubs, roomOfAddress);
+    fill(m_peripheralTable, peripherals, roomOfAddress);
     updateSummary();
 }
 
@@ -104,6 +109,9 @@ void DeviceLocation::reset()
 void DeviceLocation::comboBoxRoomChanged(int /*index*/)
 {
     const Row* chosen = rowOfSender();
+    if (chosen) {
+        chooseSameRoom(*chosen);
+    }
     for (const Row& row : std::as_const(m_rows)) {
         updateRow(row);
     }
@@ -146,6 +154,18 @@ const DeviceLocation::Row* DeviceLocation::rowOfSender() const
             return row.room == from || row.icon == from;
         });
     return found != m_rows.cend() ? &*found : nullptr;
+}
+
+/// A device that is listed twice, found on the network and given by hand, is in one room: save()
+/// goes row by row, and a second row must not take back what was chosen in the first.
+void DeviceLocation::chooseSameRoom(const Row& chosen)
+{
+    for (const Row& row : std::as_const(m_rows)) {
+        if (row.ipAddress == chosen.ipAddress) {
+            const QSignalBlocker oneRecountForAll(row.room);
+            row.room->setRoom(chosen.room->room());
+        }
+    }
 }
 
 DeviceTable* DeviceLocation::createTable(const QString& name, const QString& accessibleName)
@@ -205,21 +225,17 @@ void DeviceLocation::drawPicture()
     m_picture->update();
 }
 
-void DeviceLocation::fill(DeviceTable* table, const QList<DeviceEntry>& devices)
+void DeviceLocation::fill(DeviceTable* table, const QList<DeviceEntry>& devices,
+                          const QHash<QString, int>& roomOfAddress)
 {
     const QStringList choices = RoomCombo::choices(m_rooms);
     QList<QStringList> rows;
-    QHash<QString, int> rooms;
     for (const DeviceEntry& device : devices) {
         rows.append({device.label, QString(), device.modelName, device.ipAddress});
-        // Addresses find the first device that has them, here as in the document.
-        if (!rooms.contains(device.ipAddress)) {
-            rooms.insert(device.ipAddress, device.roomNumber);
-        }
     }
     table->setRows(rows, [&](QTreeWidgetItem* item) {
         auto* combo = new RoomCombo(choices);
-        combo->setRoom(rooms.value(table->addressOf(item)));
+        combo->setRoom(roomOfAddress.value(table->addressOf(item)));
         m_rows.append(decorate(table, item, combo));
     });
 }
@@ -257,8 +273,11 @@ void DeviceLocation::updateRow(const Row& row)
 void DeviceLocation::updateSummary()
 {
     QList<DeviceCounts> counts(m_rooms);
+    QSet<QString> counted;
     for (const Row& row : std::as_const(m_rows)) {
-        if (const int room = row.room->room(); room != 0) {
+        const int room = row.room->room();
+        if (room != 0 && !counted.contains(row.ipAddress)) {
+            counted.insert(row.ipAddress);
             counts[room - 1].add(row.modelName);
         }
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QWidget>
@@ -59,11 +60,13 @@ private:
     void layOut();
     void addTable(QVBoxLayout* layout, const QString& title, DeviceTable* table, int stretch);
     void drawPicture();
-    void fill(DeviceTable* table, const QList<DeviceEntry>& devices);
+    void fill(DeviceTable* table, const QList<DeviceEntry>& devices,
+              const QHash<QString, int>& roomOfAddress);
     Row decorate(DeviceTable* table, QTreeWidgetItem* item, RoomCombo* combo);
     static void nameWidgets(const Row& row);
     static void updateRow(const Row& row);
     const Row* rowOfSender() const;
+    void chooseSameRoom(const Row& chosen);
     void updateSummary();
     void rename(const Row& row);
 

@@ -48,13 +48,22 @@ QComboBox* DeviceLocationStep::combo(const QString& ip) const
     return page.findChild<QComboBox*>(QStringLiteral("roomCombo_") + ip);
 }
 
+QList<QComboBox*> DeviceLocationStep::combos(const QString& ip) const
+{
+    return page.findChildren<QComboBox*>(QStringLiteral("roomCombo_") + ip);
+}
+
 void DeviceLocationStep::choose(const QString& ip, int room) const
 {
-    QComboBox* box = combo(ip);
-    box->setFocus();
-    QTest::keyClick(box, Qt::Key_Home);
+    choose(combo(ip), room);
+}
+
+void DeviceLocationStep::choose(QComboBox* combo, int room)
+{
+    combo->setFocus();
+    QTest::keyClick(combo, Qt::Key_Home);
     for (int i = 0; i < room; ++i) {
-        QTest::keyClick(box, Qt::Key_Down);
+        QTest::keyClick(combo, Qt::Key_Down);
     }
 }
 

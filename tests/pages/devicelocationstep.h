@@ -53,10 +53,13 @@ struct DeviceLocationStep
     int storedRoom(const QString& ip);
 
     QComboBox* combo(const QString& ip) const;
+    /// The combos of all rows with this address.
+    QList<QComboBox*> combos(const QString& ip) const;
     SvgButton* pencil(DeviceTable* table, const QString& ip) const;
 
     /// Chooses a room as the keyboard does it: Home, then down to it.
     void choose(const QString& ip, int room) const;
+    static void choose(QComboBox* combo, int room);
     /// Double-clicks a cell where a user would: on whatever widget lies over its middle.
     void doubleClick(DeviceTable* table, const QString& ip, int column) const;
 

@@ -29,6 +29,8 @@ private Q_SLOTS:
     void aChangedRoomIsCountedOnce();
     void theWheelScrollsAndAssignsNothing();
     void twoDevicesOfOneAddressAreTwoRows();
+    void oneAddressListedTwiceIsOneDeviceInOneRoom();
+    void oneAddressInBothTablesIsInOneRoom();
     void everyWidgetHasANameForScreenReaders();
     void identifyAsksTheDocument();
 };
@@ -277,6 +279,38 @@ void TestDeviceLocation::twoDevicesOfOneAddressAreTwoRows()
     QCOMPARE(columnTexts(step.peripherals, LabelColumn), strings({"a", "b"}));
     press(step.next);
     QCOMPARE(step.controller.nexts, 1);
+}
+
+void TestDeviceLocation::oneAddressListedTwiceIsOneDeviceInOneRoom()
+{
+    for (const int changed : {0, 1}) {
+        Step step;
+        addTestDevice(step.doc, QStringLiteral("a"), hubModel, firstAddress);
+        addTestDevice(step.doc, QStringLiteral("b"), hubModel, firstAddress);
+        step.enter();
+        const QList<QComboBox*> combos = step.combos(firstAddress);
+        QCOMPARE(combos.size(), 2);
+        Step::choose(combos.at(changed), 2);
+        QCOMPARE(combos.at(0)->currentIndex(), 2);
+        QCOMPARE(combos.at(1)->currentIndex(), 2);
+        QCOMPARE(columnTexts(step.hubs, RoomColumn), strings({"2", "2"}));
+        QCOMPARE(step.summaryRow(2), strings({"2", "1", "0", "0", "0"}));
+        press(step.next);
+        QCOMPARE(step.storedRoom(firstAddress), 2);
+        step.enter();
+        QCOMPARE(step.summaryRow(2), strings({"2", "1", "0", "0", "0"}));
+    }
+}
+
+void TestDeviceLocation::oneAddressInBothTablesIsInOneRoom()
+{
+    Step step;
+    addTestDevice(step.doc, QStringLiteral("a"), hubModel, firstAddress, 1);
+    addTestDevice(step.doc, QStringLiteral("b"), speakerModel, firstAddress);
+    step.enter();
+    QCOMPARE(columnTexts(step.peripherals, RoomColumn), strings({"1"}));
+    press(step.next);
+    QCOMPARE(step.storedRoom(firstAddress), 1);
 }
 
 void TestDeviceLocation::everyWidgetHasANameForScreenReaders()
