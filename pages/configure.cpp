@@ -108,6 +108,8 @@ void Configure::deviceRemoveStatusChanged()
         QTreeWidgetItem* item = m_groupList->topLevelItem(int(row));
         for (const int column : {numberColumn, layoutColumn}) {
             item->setForeground(column, valid ? Qt::black : Qt::red);
+            item->setData(column, Qt::AccessibleDescriptionRole,
+                          valid ? QString() : tr("more devices than supported"));
         }
         allValid = allValid && valid;
     }

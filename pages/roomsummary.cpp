@@ -69,6 +69,8 @@ bool RoomSummary::showCounts(const QList<DeviceCounts>& counts)
             row->setText(count.column, QString::number(count.count));
             if (count.tooMany) {
                 row->setForeground(count.column, QBrush(Qt::red));
+                row->setData(count.column, Qt::AccessibleDescriptionRole,
+                             tr("more devices than supported"));
                 withinLimits = false;
             }
             anyDevice = anyDevice || count.count > 0;

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void twoDevicesOfOneAddressAreTwoRows();
     void oneAddressListedTwiceIsOneDeviceInOneRoom();
     void oneAddressInBothTablesIsInOneRoom();
+    void aCountBeyondItsLimitIsNotToldByColourAlone();
     void everyWidgetHasANameForScreenReaders();
     void identifyAsksTheDocument();
 };
@@ -311,6 +312,20 @@ void TestDeviceLocation::oneAddressInBothTablesIsInOneRoom()
     QCOMPARE(columnTexts(step.peripherals, RoomColumn), strings({"1"}));
     press(step.next);
     QCOMPARE(step.storedRoom(firstAddress), 1);
+}
+
+void TestDeviceLocation::aCountBeyondItsLimitIsNotToldByColourAlone()
+{
+    Step step;
+    step.add(hubModel, 2, 1);
+    step.enter();
+    const auto told = [&step](int column) {
+        return step.summary->topLevelItem(0)->data(column, Qt::AccessibleDescriptionRole);
+    };
+    QCOMPARE(told(1).toString(), QStringLiteral("more devices than supported"));
+    QVERIFY(told(2).toString().isEmpty());
+    step.choose(firstAddress, 2);
+    QVERIFY(told(1).toString().isEmpty());
 }
 
 void TestDeviceLocation::everyWidgetHasANameForScreenReaders()

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void selectingARowShowsItsPanelAndPicture();
     void tabGoesFromTheListThroughTheShownPanelToTheButtons();
     void aSelectedRowOfAnInvalidSetStaysRed();
+    void anInvalidSetIsNotToldByColourAlone();
 };
 
 namespace {
@@ -333,6 +334,24 @@ void TestPageConfigure::aSelectedRowOfAnInvalidSetStaysRed()
     QCOMPARE(colour(), QColor(Qt::red).hue());
     press(step.button(1));
     QVERIFY(colour() != QColor(Qt::red).hue());
+}
+
+void TestPageConfigure::anInvalidSetIsNotToldByColourAlone()
+{
+    ConfigureStep step(network);
+    step.place("PX-HB", 2, 1);
+    addColouredLayout(step.doc, 1, QStringLiteral("1"), Qt::cyan);
+    step.enter();
+    const auto told = [&step](int column) {
+        return step.list->topLevelItem(0)->data(column, Qt::AccessibleDescriptionRole).toString();
+    };
+    for (const int column : {0, 1}) {
+        QCOMPARE(told(column), QStringLiteral("more devices than supported"));
+    }
+    press(step.button(1));
+    for (const int column : {0, 1}) {
+        QVERIFY(told(column).isEmpty());
+    }
 }
 
 TESSEL_TEST_MAIN(TestPageConfigure)
