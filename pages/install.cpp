@@ -63,6 +63,8 @@ void Install::startSender(const QString& ip, const QString& label)
         connect(sender, SIGNAL(completedLogin()), this, SLOT(senderLogin()));
         connect(sender, SIGNAL(cancelledLogin()), this, SLOT(senderLogin()));
     }
+    // The device may have been renamed since the sender was made.
+    sender->setHostName(label);
     sender->start();
 }
 

@@ -26,6 +26,11 @@ QString HubDialog::password() const
     return m_passwordEdit->text();
 }
 
+void HubDialog::setHostName(const QString& hostName)
+{
+    m_hubList->setLabel(m_hubList->topLevelItem(0), hostName);
+}
+
 HubDialog::HubDialog(QWidget* parent, const QString& ipAddress, const QString& hostName,
                      const QString& acceptText)
     : QDialog(parent)

@@ -20,6 +20,9 @@ public:
     /// The text of the password field.
     QString password() const;
 
+    /// Renames the hub.
+    void setHostName(const QString& hostName);
+
 Q_SIGNALS:
     /// The identify button of the hub was pressed.
     void identifyButtonClicked(const QString& ipAddress);

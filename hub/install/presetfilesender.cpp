@@ -41,6 +41,17 @@ PresetFileSender::~PresetFileSender()
     delete m_loginDialog;
 }
 
+void PresetFileSender::setHostName(const QString& hostName)
+{
+    m_hostName = hostName;
+    if (m_initialPasswordDialog) {
+        m_initialPasswordDialog->setHostName(hostName);
+    }
+    if (m_loginDialog) {
+        m_loginDialog->setHostName(hostName);
+    }
+}
+
 void PresetFileSender::start()
 {
     if (m_state == State::AskingUser) {

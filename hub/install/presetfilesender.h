@@ -38,6 +38,9 @@ public:
                      QWidget* parent);
     ~PresetFileSender() override;
 
+    /// Renames the hub, also in the dialogs that exist already.
+    void setHostName(const QString& hostName);
+
     /// Begins a run. An earlier one that is still under way is dropped without an outcome of its
     /// own; while the user is being asked for the password, that run simply goes on.
     void start();

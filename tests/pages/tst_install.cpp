@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void aHubThatFailsBeforeItsLogInHoldsNobodyBack();
     void aHubThatFailsDuringTheTransferLeavesTheOthersAlone();
     void executeAgainRestartsEveryListedHubAlsoThoseThatAreDone();
+    void theDialogOfALaterRunShowsTheNameOfNowAndWhatWasTyped();
     void aHubThatIsNoLongerListedIsNotInstalledAgain();
     void aHubListedLaterIsInstalledToo();
     void hubsSortedByStatusAreAllInstalled();
@@ -234,6 +236,33 @@ void TestInstall::executeAgainRestartsEveryListedHubAlsoThoseThatAreDone()
     QCOMPARE(step.hub(1)->logInCount(), 2);
     QCOMPARE(timesAsked(*step.hub(1), Exchange::Recall), 2);
     QCOMPARE(step.hub(3)->logInCount(), 1);
+}
+
+void TestInstall::theDialogOfALaterRunShowsTheNameOfNowAndWhatWasTyped()
+{
+    InstallHall step(base, 1);
+    press(step.execute());
+    QTRY_COMPARE(step.statuses(), QStringLiteral("Done"));
+    press(buttonOf(step.page, "backButton"));
+    setDeviceLabel(step.doc, step.address(1), QStringLiteral("Stage"));
+    step.page.enterFrom(7);
+    QString named;
+    QString identify;
+    QString typed;
+    step.answers.hold(
+        step.address(1), [] { return true; },
+        [&] {
+            const QWidget* dialog = QApplication::activeModalWidget();
+            const QTreeWidget* hubs = tableOf(*dialog, "hubList");
+            named = hubs->topLevelItem(0)->text(0);
+            identify = hubs->itemWidget(hubs->topLevelItem(0), 1)->accessibleName();
+            typed = dialog->findChild<QLineEdit*>()->text();
+        });
+    press(step.execute());
+    QTRY_COMPARE(step.statuses(), QStringLiteral("Done"));
+    QCOMPARE(named, QStringLiteral("Stage"));
+    QCOMPARE(identify, QStringLiteral("Identify Stage"));
+    QCOMPARE(typed, QStringLiteral("secret7"));
 }
 
 void TestInstall::aHubThatIsNoLongerListedIsNotInstalledAgain()
