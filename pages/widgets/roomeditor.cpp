@@ -41,6 +41,7 @@ RoomEditor::RoomEditor(QWidget* parent, int gap, int cellSize, bool readOnly)
 void RoomEditor::setRoom(int room, const QList<QPoint>& cells)
 {
     m_drawing.setRoom(room, cells);
+    describeCursor();
     update();
     Q_EMIT roomCountChanged(roomCount());
 }
@@ -48,6 +49,7 @@ void RoomEditor::setRoom(int room, const QList<QPoint>& cells)
 void RoomEditor::clear()
 {
     m_drawing.clear();
+    describeCursor();
     update();
     Q_EMIT roomCountChanged(0);
 }
@@ -68,6 +70,7 @@ void RoomEditor::mousePressEvent(QMouseEvent* event)
     if (cell && m_drawing.begin(*cell)) {
         m_pressPosition = position;
     }
+    describeCursor();
 }
 
 void RoomEditor::mouseMoveEvent(QMouseEvent* event)
@@ -154,11 +157,16 @@ void RoomEditor::paintEvent(QPaintEvent* event)
     }
 }
 
-/// Repaints the cells that an edit changed and tells when it changed the number of rooms.
+/// Repaints and describes the cells that an edit changed, and tells when it changed the number of
+/// rooms.
 void RoomEditor::showChanges(const RoomGrid& before)
 {
-    for (const QPoint cell : m_drawing.grid().changedCells(before)) {
+    const QList<QPoint> changed = m_drawing.grid().changedCells(before);
+    for (const QPoint cell : changed) {
         updateCell(cell);
+    }
+    if (!changed.isEmpty()) {
+        describeCursor();
     }
     if (roomCount() != before.highestRoom()) {
         Q_EMIT roomCountChanged(roomCount());
@@ -180,7 +188,6 @@ void RoomEditor::clickAtCursor()
         m_drawing.click(m_cursor);
         endGesture();
     }
-    describeCursor();
     updateCell(m_cursor);
     showChanges(before);
 }
@@ -233,6 +240,9 @@ void RoomEditor::setCursorCell(QPoint cell)
 
 void RoomEditor::describeCursor()
 {
+    if (m_readOnly) {
+        return;
+    }
     const QString place = tr("Column %1, row %2").arg(m_cursor.x() + 1).arg(m_cursor.y() + 1);
     const int room = m_drawing.grid().at(m_cursor);
     setAccessibleDescription(room != 0 ? tr("%1, room %2").arg(place).arg(room)

@@ -19,6 +19,8 @@ private Q_SLOTS:
     void theCursorShowsForTheKeyboardOnly();
     void otherKeysGoOn();
     void tellsAssistiveTechnologyWhereTheCursorIs();
+    void tellsAssistiveTechnologyWhatTheMouseDid();
+    void tellsAssistiveTechnologyWhatBecameOfTheCell();
 };
 
 void TestRoomEditorKeys::arrowsMoveTheCursorAndSpaceClicks()
@@ -158,6 +160,33 @@ void TestRoomEditorKeys::tellsAssistiveTechnologyWhereTheCursorIs()
     QCOMPARE(interface->text(QAccessible::Description), QStringLiteral("Column 1, row 2, empty"));
     editor.key(Qt::Key_Space);
     QCOMPARE(interface->text(QAccessible::Description), QStringLiteral("Column 1, row 2, room 1"));
+}
+
+void TestRoomEditorKeys::tellsAssistiveTechnologyWhatTheMouseDid()
+{
+    Editor editor;
+    editor.clickAt({3, 4});
+    QCOMPARE(editor.accessibleDescription(), QStringLiteral("Column 4, row 5, room 1"));
+    editor.clickAt({3, 4});
+    QCOMPARE(editor.accessibleDescription(), QStringLiteral("Column 4, row 5, empty"));
+    editor.pressAt({0, 1});
+    QCOMPARE(editor.accessibleDescription(), QStringLiteral("Column 1, row 2, empty"));
+    editor.moveToPosition(Editor::center({0, 1}) + QPoint(1, 1));
+    QCOMPARE(editor.accessibleDescription(), QStringLiteral("Column 1, row 2, room 1"));
+}
+
+void TestRoomEditorKeys::tellsAssistiveTechnologyWhatBecameOfTheCell()
+{
+    Editor editor;
+    editor.key(Qt::Key_Space);
+    QCOMPARE(editor.accessibleDescription(), QStringLiteral("Column 1, row 1, room 1"));
+    editor.clear();
+    QCOMPARE(editor.accessibleDescription(), QStringLiteral("Column 1, row 1, empty"));
+    editor.setRoom(2, {{0, 0}});
+    QCOMPARE(editor.accessibleDescription(), QStringLiteral("Column 1, row 1, room 2"));
+    Editor picture(true);
+    picture.setRoom(1, {{0, 0}});
+    QCOMPARE(picture.accessibleDescription(), QString());
 }
 
 TESSEL_TEST_MAIN(TestRoomEditorKeys)
