@@ -108,6 +108,7 @@ void Tessel::mousePressEvent(QMouseEvent* event)
         return;
     }
     m_focusMark.mouseUsed();
+    update();
     const QPoint position = event->position().toPoint();
     const int room = roomAt(position);
     if (room == 0) {

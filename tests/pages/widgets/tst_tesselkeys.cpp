@@ -14,10 +14,29 @@ private Q_SLOTS:
     void spaceOpensTheMenuOfTheCurrentRoom();
     void theMenuKeyOpensTheMenuOfTheCurrentRoom();
     void theCurrentRoomIsOutlinedForTheKeyboardOnly();
+    void aClickBetweenTheRoomsTakesTheOutlineAway();
     void tabGoesThroughTheBoxesInReadingOrder();
     void otherKeysGoOn();
     void assistiveTechnologyHearsNames();
 };
+
+namespace {
+
+/// Notes whether a widget is painted.
+struct PaintWatch : QObject
+{
+    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        painted = painted || event->type() == QEvent::Paint;
+        return false;
+    }
+
+    bool painted = false;
+};
+
+} // namespace
 
 void TestTesselKeys::arrowsMoveFromRoomToRoom()
 {
@@ -92,6 +111,19 @@ void TestTesselKeys::theCurrentRoomIsOutlinedForTheKeyboardOnly()
     QCOMPARE(edge(2), QColor(Qt::white));
     picker.clearFocus();
     QCOMPARE(edge(2), roomOwn(2));
+}
+
+void TestTesselKeys::aClickBetweenTheRoomsTakesTheOutlineAway()
+{
+    Picker picker(inARow(2));
+    picker.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&picker));
+    picker.setFocus(Qt::TabFocusReason);
+    // What was asked for so far is painted now.
+    QCoreApplication::processEvents();
+    PaintWatch watch(picker);
+    QTest::mouseClick(&picker, Qt::LeftButton, {}, grid.cellRect({7, 7}).center());
+    QTRY_VERIFY(watch.painted);
 }
 
 void TestTesselKeys::tabGoesThroughTheBoxesInReadingOrder()
