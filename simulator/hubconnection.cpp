@@ -12,7 +12,7 @@ HubConnection::HubConnection(QTcpSocket* socket, Answerer answerer, QObject* par
 {
     m_socket->setParent(this);
     connect(m_socket, SIGNAL(readyRead()), this, SLOT(readMore()));
-    connect(m_socket, SIGNAL(disconnected()), this, SLOT(deleteLater()));
+    connect(m_socket, SIGNAL(disconnected()), this, SLOT(finish()));
     connect(&m_writer, SIGNAL(becameIdle()), this, SLOT(processNext()));
 }
 
@@ -33,6 +33,15 @@ void HubConnection::processNext()
 {
     while (m_writer.isIdle() && !m_writer.isClosing() && !m_isOver && processOne()) {
     }
+}
+
+void HubConnection::finish()
+{
+    const bool isPeersWish = !m_isOver && !m_writer.isClosing();
+    if (isPeersWish && !m_buffer.isEmpty()) {
+        Q_EMIT endedInside(m_buffer);
+    }
+    deleteLater();
 }
 
 /// False when the bytes received so far hold no whole request.

@@ -29,10 +29,13 @@ public:
 Q_SIGNALS:
     /// A request was answered by a reboot of `deafMs`.
     void rebootAsked(int deafMs);
+    /// The peer ended the connection after these bytes, which nobody has answered.
+    void endedInside(const QByteArray& bytes);
 
 private Q_SLOTS:
     void readMore();
     void processNext();
+    void finish();
 
 private:
     bool processOne();

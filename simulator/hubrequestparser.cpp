@@ -74,7 +74,7 @@ RequestReading readRequest(const QByteArray& bytes)
     }
     const qsizetype bodyStart = headerEnd + 4;
     if (bytes.size() - bodyStart < length) {
-        return {};
+        return reading;
     }
     reading.request.body = bytes.mid(bodyStart, length);
     reading.consumed = bodyStart + length;

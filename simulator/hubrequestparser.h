@@ -19,5 +19,5 @@ struct RequestReading
 };
 
 /// Reads the first request of `bytes`, which may hold less than one or more than one. The request
-/// is not routed yet.
+/// is not routed yet; of one that lacks only some of its body, the header is there.
 RequestReading readRequest(const QByteArray& bytes);

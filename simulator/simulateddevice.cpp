@@ -109,8 +109,14 @@ void SimulatedDevice::takeTextConnection(QTcpSocket* socket)
     const TextConnection::Faults faults{m_faults.take(FaultKind::Greeting),
                                         m_faults.take(FaultKind::GreetingWithAnswer),
                                         m_faults.take(FaultKind::StopAfter)};
-    new TextConnection(
+    auto* connection = new TextConnection(
         socket, [this](const QByteArray& line) { return answerLine(line); }, faults, this);
+    connect(connection, SIGNAL(lineBroken(QString)), this, SLOT(recordBrokenLine(QString)));
+}
+
+void SimulatedDevice::recordBrokenLine(const QString& difference)
+{
+    record({0, exchangeName(Exchange::UnknownCommand), {}, {difference}});
 }
 
 void SimulatedDevice::hearAgain()

@@ -88,6 +88,7 @@ protected:
 
 private Q_SLOTS:
     void takeTextConnection(QTcpSocket* socket);
+    void recordBrokenLine(const QString& difference);
     void hearAgain();
 
 private:

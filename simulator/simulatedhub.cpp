@@ -7,6 +7,16 @@
 #include <QTimer>
 #include <utility>
 
+namespace {
+
+JournalEntry journalEntry(const HubRequest& request, const QStringList& differences)
+{
+    return {0, exchangeName(request.exchange), redacted(request.method() + ' ' + request.target()),
+            differences};
+}
+
+} // namespace
+
 SimulatedHub::SimulatedHub(const HubDescription& description, QObject* parent)
     : SimulatedDevice(description, parent)
     , m_hubDescription(description)
@@ -47,12 +57,25 @@ void SimulatedHub::takeHttpConnection(QTcpSocket* socket)
         },
         this);
     connect(connection, SIGNAL(rebootAsked(int)), this, SLOT(rebootSoon(int)));
+    connect(connection, SIGNAL(endedInside(QByteArray)), this, SLOT(recordUnfinished(QByteArray)));
 }
 
 void SimulatedHub::rebootSoon(int deafMs)
 {
     // The connection that asked for it must be through with its work before it is dropped.
     QTimer::singleShot(0, this, [this, deafMs] { reboot(deafMs); });
+}
+
+void SimulatedHub::recordUnfinished(const QByteArray& bytes)
+{
+    RequestReading reading = readRequest(bytes);
+    routeRequest(reading.request, m_hubDescription.storageName());
+    // A whole request whose turn did not come is as it should be.
+    if (reading.verdict == RequestReading::Verdict::Incomplete) {
+        const QString difference = QStringLiteral("connection ended inside a request: %1 bytes of "
+                                                  "an unfinished request");
+        record(journalEntry(reading.request, {difference.arg(bytes.size())}));
+    }
 }
 
 ReplyPlan SimulatedHub::answerReading(const RequestReading& reading, const QString& reachedAt)
@@ -72,8 +95,7 @@ ReplyPlan SimulatedHub::answerRequest(HubRequest request, const QString& reached
     routeRequest(request, m_hubDescription.storageName());
     const QList<Fault> planned = faults().take(request.exchange);
     const HubReply reply = carryOut(request, planned);
-    record({0, exchangeName(request.exchange), redacted(request.method() + ' ' + request.target()),
-            requestDifferences(request, reachedAt)});
+    record(journalEntry(request, requestDifferences(request, reachedAt)));
     report(request, reply, planned);
     return planReply(reply, planned);
 }

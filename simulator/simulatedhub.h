@@ -39,6 +39,7 @@ protected:
 private Q_SLOTS:
     void takeHttpConnection(QTcpSocket* socket);
     void rebootSoon(int deafMs);
+    void recordUnfinished(const QByteArray& bytes);
 
 private:
     ReplyPlan answerReading(const RequestReading& reading, const QString& reachedAt);

@@ -20,7 +20,7 @@ TextConnection::TextConnection(QTcpSocket* socket, Answerer answerer, const Faul
 {
     m_socket->setParent(this);
     connect(m_socket, SIGNAL(readyRead()), this, SLOT(readMore()));
-    connect(m_socket, SIGNAL(disconnected()), this, SLOT(deleteLater()));
+    connect(m_socket, SIGNAL(disconnected()), this, SLOT(finish()));
     if (m_faults.greeting) {
         m_writer.send({{{m_faults.greeting->bytes}}});
     }
@@ -28,6 +28,7 @@ TextConnection::TextConnection(QTcpSocket* socket, Answerer answerer, const Faul
 
 void TextConnection::abort()
 {
+    m_isOver = true;
     m_socket->abort();
     deleteLater();
 }
@@ -41,8 +42,19 @@ void TextConnection::readMore()
         answerLine(line);
     }
     if (m_buffer.size() > longestLine) {
+        Q_EMIT lineBroken(QStringLiteral("line longer than %1 bytes").arg(longestLine));
         abort();
     }
+}
+
+void TextConnection::finish()
+{
+    if (!m_isOver && !m_buffer.isEmpty()) {
+        Q_EMIT lineBroken(QStringLiteral("connection ended inside a line: %1 bytes of an "
+                                         "unfinished line")
+                              .arg(m_buffer.size()));
+    }
+    deleteLater();
 }
 
 void TextConnection::answerLine(const QByteArray& line)

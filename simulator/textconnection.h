@@ -33,8 +33,13 @@ public:
     /// Ends the connection at once.
     void abort();
 
+Q_SIGNALS:
+    /// A line came that has no end; in plain words.
+    void lineBroken(const QString& difference);
+
 private Q_SLOTS:
     void readMore();
+    void finish();
 
 private:
     void answerLine(const QByteArray& line);
@@ -45,4 +50,5 @@ private:
     PacedWriter m_writer;
     QByteArray m_buffer;
     int m_answers = 0;
+    bool m_isOver = false;
 };

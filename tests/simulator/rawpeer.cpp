@@ -37,6 +37,11 @@ void RawPeer::send(const QByteArray& bytes)
     m_socket.flush();
 }
 
+void RawPeer::close()
+{
+    m_socket.disconnectFromHost();
+}
+
 QByteArray RawPeer::takeReply()
 {
     const bool hasCome = QTest::qWaitFor([this] { return hasReply(); }, patienceMs);

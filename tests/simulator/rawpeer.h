@@ -20,6 +20,8 @@ public:
     QByteArray received() const { return m_packets.join(); }
     /// The same, as it was read.
     QList<QByteArray> packets() const { return m_packets; }
+    /// Ends the connection once everything has been sent.
+    void close();
     /// Waits until one whole HTTP reply has arrived and takes it; empty when none comes.
     QByteArray takeReply();
     /// Waits until a line has arrived and takes everything that has; empty when none comes.

@@ -1,6 +1,7 @@
 #include "hall.h"
 #include "rawpeer.h"
 #include "testcase.h"
+#include "textconnection.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -31,6 +32,9 @@ private Q_SLOTS:
     void everyCommandHasItsAnswer_data();
     void everyCommandHasItsAnswer();
     void oneAnswerForEachLineHoweverTheyArrive();
+    void unfinishedLineIsTold_data();
+    void unfinishedLineIsTold();
+    void connectionDroppedInsideALineIsNoDifference();
     void recallIsToldAMomentLater();
     void identifyIsCounted();
     void greetingOnItsOwn();
@@ -103,6 +107,45 @@ void TestSimulatedDevice::oneAnswerForEachLineHoweverTheyArrive()
     peer.send("ialno\n");
     QTRY_VERIFY(peer.received().endsWith("OK devinfo serialno \"PD7\"\n"));
     QCOMPARE(device->exchangeNames().join(u' '), QStringLiteral("device-id version serial-number"));
+}
+
+void TestSimulatedDevice::unfinishedLineIsTold_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("difference");
+    QTest::newRow("nothing") << QByteArray() << QString();
+    QTest::newRow("one byte")
+        << QByteArray("d")
+        << QStringLiteral("connection ended inside a line: 1 bytes of an unfinished line");
+    QTest::newRow("more than any line has")
+        << QByteArray(70000, 'x') << QStringLiteral("line longer than 65536 bytes");
+}
+
+void TestSimulatedDevice::unfinishedLineIsTold()
+{
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QString, difference);
+    START_DEVICE;
+    CONNECT_PEER;
+    ask(peer, "devinfo deviceid\n");
+    peer.send(bytes);
+    peer.close();
+    QTRY_VERIFY(device->findChildren<TextConnection*>().isEmpty());
+    QCOMPARE(device->differences(),
+             difference.isEmpty()
+                 ? QStringList()
+                 : QStringList{QStringLiteral("request 2 (unknown-command): ") + difference});
+}
+
+void TestSimulatedDevice::connectionDroppedInsideALineIsNoDifference()
+{
+    START_DEVICE;
+    CONNECT_PEER;
+    peer.send("devinfo deviceid\ndevinfo");
+    QCOMPARE(peer.takeLine(), QByteArray("OK devinfo deviceid \"7\"\n"));
+    hall.stop();
+    QTRY_VERIFY(!peer.isConnected());
+    QCOMPARE(device->differences(), QStringList());
 }
 
 void TestSimulatedDevice::recallIsToldAMomentLater()

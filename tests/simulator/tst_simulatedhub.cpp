@@ -1,4 +1,5 @@
 #include "hall.h"
+#include "hubconnection.h"
 #include "hubtexts.h"
 #include "rawpeer.h"
 #include "testcase.h"
@@ -36,6 +37,11 @@ private Q_SLOTS:
     void noSecretStandsInTheJournal();
     void secondAddressReachesTheSameHub();
     void malformedRequestIsRefusedAndTheConnectionEnds();
+    void unfinishedRequestIsTold_data();
+    void unfinishedRequestIsTold();
+    void connectionBetweenRequestsEndsWithoutATrace();
+    void endOfTheHubsOwnMakingIsNoDifference_data();
+    void endOfTheHubsOwnMakingIsNoDifference();
     void statusFaultKeepsTheEntryOut();
     void faultsEndWhenTheyAreCleared();
     void refusedConnectionsAreTakenAgainAfterwards();
@@ -194,6 +200,73 @@ void TestSimulatedHub::malformedRequestIsRefusedAndTheConnectionEnds()
     QCOMPARE(HubTexts::statusOf(ask(peer, "garbage\r\n\r\n")), QByteArray("400"));
     QTRY_VERIFY(!peer.isConnected());
     QCOMPARE(hub->differences().size(), 1);
+}
+
+void TestSimulatedHub::unfinishedRequestIsTold_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("difference");
+    const QByteArray recall = HubTexts::recall(host, "t", 1);
+    const auto row = [](const char* name, const QByteArray& bytes, const QString& difference) {
+        QTest::newRow(name) << bytes
+                            << difference.arg(QStringLiteral("connection ended inside a request: "
+                                                             "%1 bytes of an unfinished request")
+                                                  .arg(bytes.size()));
+    };
+    row("a body shorter than announced", recall.chopped(1),
+        QStringLiteral("request 1 (recall): %1"));
+    row("a header without an end", recall.first(40),
+        QStringLiteral("request 1 (unknown-request): %1"));
+    row("one byte", "P", QStringLiteral("request 1 (unknown-request): %1"));
+}
+
+void TestSimulatedHub::unfinishedRequestIsTold()
+{
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QString, difference);
+    START_HALL(secret);
+    peer.send(bytes);
+    peer.close();
+    QTRY_COMPARE(hub->differences(), QStringList{difference});
+}
+
+void TestSimulatedHub::connectionBetweenRequestsEndsWithoutATrace()
+{
+    START_HALL(secret);
+    hub->setFault({.kind = FaultKind::Slow, .number = 50, .skip = 1});
+    ask(peer, HubTexts::status(host));
+    // The last of them is still unread when the peer leaves.
+    peer.send(HubTexts::status(host) + HubTexts::token(host));
+    peer.close();
+    QTRY_COMPARE(hub->journal().size(), 2);
+    QTRY_VERIFY(hub->findChildren<HubConnection*>().isEmpty());
+    QCOMPARE(hub->differences(), QStringList());
+}
+
+void TestSimulatedHub::endOfTheHubsOwnMakingIsNoDifference_data()
+{
+    QTest::addColumn<Fault>("fault");
+    QTest::newRow("close") << Fault{.kind = FaultKind::CloseBeforeReply};
+    QTest::newRow("close in the body") << Fault{.kind = FaultKind::CloseInBody};
+    QTest::newRow("Connection: close")
+        << Fault{.kind = FaultKind::ConnectionHeader, .bytes = "close"};
+    QTest::newRow("reboot") << Fault{.kind = FaultKind::Reboot, .number = 10};
+}
+
+void TestSimulatedHub::endOfTheHubsOwnMakingIsNoDifference()
+{
+    QFETCH(const Fault, fault);
+    START_HALL(secret);
+    hub->setFault(fault);
+    RawPeer other;
+    QVERIFY(other.connectTo(address, SimulatedHub::httpPort));
+    other.send("GET ");
+    peer.send(HubTexts::status(host) + "GET ");
+    QTRY_VERIFY(!peer.isConnected());
+    hall.stop();
+    QTRY_VERIFY(!other.isConnected());
+    QTRY_VERIFY(hub->findChildren<HubConnection*>().isEmpty());
+    QCOMPARE(hub->differences(), QStringList());
 }
 
 void TestSimulatedHub::statusFaultKeepsTheEntryOut()
