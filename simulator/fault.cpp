@@ -72,9 +72,13 @@ FaultValue valueOf(FaultKind kind)
 
 bool isPerConnection(FaultKind kind)
 {
-    return kind == FaultKind::RefuseHttp || kind == FaultKind::RefuseText ||
-           kind == FaultKind::Greeting || kind == FaultKind::GreetingWithAnswer ||
-           kind == FaultKind::StopAfter;
+    return isRefusal(kind) || kind == FaultKind::Greeting ||
+           kind == FaultKind::GreetingWithAnswer || kind == FaultKind::StopAfter;
+}
+
+bool isRefusal(FaultKind kind)
+{
+    return kind == FaultKind::RefuseHttp || kind == FaultKind::RefuseText;
 }
 
 QString faultKindName(FaultKind kind)

@@ -70,7 +70,8 @@ struct Fault
     QByteArray bytes = {};
     /// Offsets into what is sent, ascending.
     QList<int> cuts = {};
-    /// How often the fault strikes; negative: for ever.
+    /// How often the fault strikes; negative: for ever. A refusal lasts in any case, from the
+    /// start.
     int times = -1;
     /// How many exchanges it lets pass before it strikes for the first time.
     int skip = 0;
@@ -84,6 +85,9 @@ FaultValue valueOf(FaultKind kind);
 
 /// True for kinds that strike a connection as such and not the answer to one message.
 bool isPerConnection(FaultKind kind);
+
+/// True for those of them that last until they are taken back instead of striking now and then.
+bool isRefusal(FaultKind kind);
 
 /// The name of a kind in descriptions and on the command line.
 QString faultKindName(FaultKind kind);

@@ -115,6 +115,23 @@ bool setValue(Fault& fault, const std::optional<QString>& value)
     return !value;
 }
 
+/// Why a fault of this kind cannot strike there or as often; nothing when it can.
+std::optional<QString> mismatch(const Fault& fault, const FaultTexts& texts)
+{
+    if (fault.exchange && channelOf(*fault.exchange) != channelOf(fault.kind)) {
+        return QStringLiteral("\"%1\" cannot happen to \"%2\"").arg(texts.kind, texts.exchange);
+    }
+    if (fault.exchange && isPerConnection(fault.kind)) {
+        return QStringLiteral("\"%1\" strikes connections, so that its exchange is \"*\"")
+            .arg(texts.kind);
+    }
+    if (isRefusal(fault.kind) && (fault.times >= 0 || fault.skip > 0)) {
+        return QStringLiteral("\"%1\" lasts, so that nothing of it can be counted or skipped")
+            .arg(texts.kind);
+    }
+    return std::nullopt;
+}
+
 /// Why these texts make no fault; nothing when they made `fault`.
 std::optional<QString> fill(Fault& fault, const FaultTexts& texts)
 {
@@ -131,8 +148,8 @@ std::optional<QString> fill(Fault& fault, const FaultTexts& texts)
     if (!fault.exchange && texts.exchange != any) {
         return QStringLiteral("there is no exchange \"%1\"").arg(texts.exchange);
     }
-    if (fault.exchange && channelOf(*fault.exchange) != channelOf(fault.kind)) {
-        return QStringLiteral("\"%1\" cannot happen to \"%2\"").arg(texts.kind, texts.exchange);
+    if (std::optional<QString> problem = mismatch(fault, texts)) {
+        return problem;
     }
     if (!setValue(fault, texts.value)) {
         return QStringLiteral("the value does not fit \"%1\"").arg(texts.kind);

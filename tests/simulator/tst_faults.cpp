@@ -253,6 +253,13 @@ void TestFaults::textsOfFaults_data()
                            << Fault{.exchange = Exchange::LogIn,
                                     .kind = FaultKind::Body,
                                     .bytes = "a,\r\n\xFF\\\xC3\x84"};
+    QTest::newRow("a connection's")
+        << QStringLiteral("*,*,greeting*2,hello")
+        << QByteArray(R"({"kind": "greeting", "value": "hello",
+                                        "times": 2})")
+        << Fault{.kind = FaultKind::Greeting, .bytes = "hello", .times = 2};
+    QTest::newRow("refusal") << QStringLiteral("*,*,refuse") << QByteArray(R"({"kind": "refuse"})")
+                             << Fault{.kind = FaultKind::RefuseHttp};
     QTest::newRow("cuts") << QStringLiteral("*,*,pieces,3;17")
                           << QByteArray(R"({"kind": "pieces", "value": [3, 17]})")
                           << Fault{.kind = FaultKind::Pieces, .cuts = {3, 17}};
@@ -302,6 +309,16 @@ void TestFaults::wrongTextsAreExplained_data()
     row("*,*,body,\\x1", "the value does not fit \"body\"");
     row("*,*,body,\\", "the value does not fit \"body\"");
     row("*,*,silence*0", "\"*\" is not followed by a count");
+    row("*,recall,refuse", "\"refuse\" strikes connections, so that its exchange is \"*\"");
+    row("*,device-name,refuse-commands",
+        "\"refuse-commands\" strikes connections, so that its exchange is \"*\"");
+    row("*,device-name,greeting,hello",
+        "\"greeting\" strikes connections, so that its exchange is \"*\"");
+    row("*,device-id,stop-after,2",
+        "\"stop-after\" strikes connections, so that its exchange is \"*\"");
+    row("*,*,refuse*1", "\"refuse\" lasts, so that nothing of it can be counted or skipped");
+    row("*,*,refuse-commands*2",
+        "\"refuse-commands\" lasts, so that nothing of it can be counted or skipped");
 }
 
 void TestFaults::wrongTextsAreExplained()

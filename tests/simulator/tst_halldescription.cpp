@@ -206,6 +206,8 @@ void TestHallDescription::wrongFilesAreExplained_data()
     row(R"({"hubs": 1, "faults": [{}]})", "fault 1: there is no kind of fault \"\"");
     row(R"({"hubs": 1, "faults": [{"kind": "silence", "times": 0}]})",
         "fault 1: \"times\" is no whole number from 1 to 2147483647");
+    row(R"({"hubs": 1, "faults": [{"kind": "refuse", "skip": 1}]})",
+        "fault 1: \"refuse\" lasts, so that nothing of it can be counted or skipped");
     row(R"({"hubs": 1, "faults": [{"device": "10.0.0.1", "kind": "silence"}]})",
         "a fault names 10.0.0.1, where there is no device");
 }
