@@ -3,8 +3,11 @@
 #include "addresssequence.h"
 
 #include <QHostAddress>
+#include <QRegularExpression>
 #include <QSet>
+#include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -70,6 +73,67 @@ std::optional<QString> addressProblem(const QString& address, QSet<QString>& tak
         return QStringLiteral("the address %1 is given twice").arg(address);
     }
     taken.insert(address);
+    return std::nullopt;
+}
+
+/// The texts travel between slashes to the wizard and between double quotes in a device's answers.
+bool canTravel(const QString& text)
+{
+    return std::none_of(text.begin(), text.end(), [](QChar character) {
+        return character == u'/' || character == u'"' ||
+               character.category() == QChar::Other_Control;
+    });
+}
+
+std::optional<QString> textProblem(const DeviceDescription& device)
+{
+    // A label that is not given is made from the model.
+    const std::array texts = {std::pair("model", device.model), std::pair("label", device.label),
+                              std::pair("version", device.version)};
+    for (const auto& [name, text] : texts) {
+        if (!canTravel(text)) {
+            return QStringLiteral("\"%1\" holds a slash, a double quote or a control character")
+                .arg(QLatin1String(name));
+        }
+    }
+    return std::nullopt;
+}
+
+/// The name travels between double quotes in a header line.
+std::optional<QString> exportProblem(const HubDescription& hub)
+{
+    if (!isStorageName(hub.storageName())) {
+        return QStringLiteral(
+            "\"export-file\" does not begin with a storage name: 1 to 64 letters, "
+            "digits, \"-\" or \"_\" before its first dot");
+    }
+    if (hub.exportFile.contains(u'"') || hub.exportFile.contains(u'\r') ||
+        hub.exportFile.contains(u'\n')) {
+        return QStringLiteral("\"export-file\" holds a double quote or a line's end");
+    }
+    return std::nullopt;
+}
+
+QString withPlace(const QString& list, qsizetype index, const QString& problem)
+{
+    return QStringLiteral("%1 %2: %3").arg(list, QString::number(index + 1), problem);
+}
+
+/// The first device that tells something about itself that it cannot.
+std::optional<QString> deviceProblem(const HallDescription& hall)
+{
+    for (qsizetype index = 0; index < hall.hubs.size(); ++index) {
+        const HubDescription& hub = hall.hubs.at(index);
+        const std::optional<QString> found = textProblem(hub);
+        if (const std::optional<QString> problem = found ? found : exportProblem(hub)) {
+            return withPlace(QStringLiteral("hub"), index, *problem);
+        }
+    }
+    for (qsizetype index = 0; index < hall.peripherals.size(); ++index) {
+        if (const std::optional<QString> problem = textProblem(hall.peripherals.at(index))) {
+            return withPlace(QStringLiteral("peripheral"), index, *problem);
+        }
+    }
     return std::nullopt;
 }
 
@@ -145,6 +209,9 @@ std::optional<QString> HallDescription::problem() const
     if (taken.isEmpty()) {
         return QStringLiteral("the hall has no devices");
     }
+    if (std::optional<QString> found = deviceProblem(*this)) {
+        return found;
+    }
     for (const Fault& fault : faults) {
         if (!fault.address.isEmpty() && !taken.contains(fault.address)) {
             return QStringLiteral("a fault names %1, where there is no device").arg(fault.address);
@@ -180,6 +247,12 @@ QString HallDescription::wizardCommandLine() const
         words.append(quotedForShell(argument));
     }
     return words.join(QLatin1Char(' '));
+}
+
+bool isStorageName(const QString& name)
+{
+    static const QRegularExpression form(QStringLiteral("^[A-Za-z0-9_-]{1,64}\\z"));
+    return form.match(name).hasMatch();
 }
 
 HubDescription standardHub(int index)

@@ -66,8 +66,8 @@ struct HallDescription
     /// The number of addresses at which devices answer.
     int addressCount() const;
 
-    /// Why no hall can be made of this (an address that is none, or is used twice, ...); nothing
-    /// when one can.
+    /// Why no hall can be made of this (an address that is none, or is used twice, a text that
+    /// cannot travel, ...); nothing when one can.
     std::optional<QString> problem() const;
 
     /// The arguments with which the wizard starts knowing this hall, without a search on the
@@ -77,6 +77,9 @@ struct HallDescription
     /// The same as a line to be typed into a shell.
     QString wizardCommandLine() const;
 };
+
+/// True for a name under which a hub stores a preset file.
+bool isStorageName(const QString& name);
 
 /// A hub as number `index` (from 0) of a hall looks unless it is described otherwise.
 HubDescription standardHub(int index);

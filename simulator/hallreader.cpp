@@ -25,7 +25,7 @@ struct HubDefaults
 
 QString macField(JsonFields& fields, const QString& key, const QString& fallback)
 {
-    static const QRegularExpression form(QStringLiteral("^(?:[0-9A-F]{2}(?::[0-9A-F]{2}){5})?$"));
+    static const QRegularExpression form(QStringLiteral("^(?:[0-9A-F]{2}(?::[0-9A-F]{2}){5})?\\z"));
     QString mac = fields.text(key, fallback);
     if (!form.match(mac).hasMatch()) {
         fields.complain(key, QStringLiteral("is no MAC address such as 02:1A:00:00:00:01"));

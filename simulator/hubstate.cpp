@@ -41,12 +41,6 @@ bool isPresetNumber(int number)
     return number >= 1 && number <= HubState::highestPreset;
 }
 
-bool isStorageName(const QString& name)
-{
-    static const QRegularExpression form(QStringLiteral("^[A-Za-z0-9_-]{1,64}$"));
-    return form.match(name).hasMatch();
-}
-
 QJsonObject accepted()
 {
     return {{requestKey, QStringLiteral("accepted")}};

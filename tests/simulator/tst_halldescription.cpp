@@ -183,6 +183,10 @@ void TestHallDescription::wrongFilesAreExplained_data()
     const auto row = [](const char* json, const char* error) {
         QTest::newRow(json) << QByteArray(json) << QString::fromUtf8(error);
     };
+    const char* noStorageName =
+        "hub 1: \"export-file\" does not begin with a storage name: 1 to 64 letters, digits, "
+        "\"-\" or \"_\" before its first dot";
+    const char* brokenExport = "hub 1: \"export-file\" holds a double quote or a line's end";
     row("", "no JSON object: illegal value at byte 0");
     row("[]", "no JSON object: no error occurred at byte 0");
     row("{}", "the hall has no devices");
@@ -200,6 +204,21 @@ void TestHallDescription::wrongFilesAreExplained_data()
     row(R"({"peripherals": [{"password": "x"}]})", "peripheral 1: \"password\" means nothing here");
     row(R"({"peripherals": [{}, {"address": "127.0.1.1"}]})",
         "the address 127.0.1.1 is given twice");
+    row(R"({"hubs": [{"label": "A/B"}]})",
+        "hub 1: \"label\" holds a slash, a double quote or a control character");
+    row(R"({"hubs": [{}, {"version": "2\"1"}]})",
+        "hub 2: \"version\" holds a slash, a double quote or a control character");
+    row(R"({"peripherals": [{"model": "PX\nX"}]})",
+        "peripheral 1: \"model\" holds a slash, a double quote or a control character");
+    row(R"({"hubs": [{"mac": "02:1A:00:00:00:01\n"}]})",
+        "hub 1: \"mac\" is no MAC address such as 02:1A:00:00:00:01");
+    row(R"({"hubs": [{"export-file": ""}]})", noStorageName);
+    row(R"({"hubs": [{"export-file": ".xml"}]})", noStorageName);
+    row(R"({"hubs": [{"export-file": "hub 1.xml"}]})", noStorageName);
+    row(R"({"hubs": [{"export-file": "hub1\n.xml"}]})", noStorageName);
+    row(R"({"hubs": [{"export-file": "hub1.x\"ml"}]})", brokenExport);
+    row(R"({"hubs": [{"export-file": "hub1.xml\r"}]})", brokenExport);
+    row(R"({"hubs": [{"export-file": "hub1.xml\n"}]})", brokenExport);
     row(R"({"hubs": 1, "discovery": 1})", "hall: \"discovery\" is neither true nor false");
     row(R"({"hubs": 1, "discovery-listen": "all"})", "\"all\" is no address to hear queries at");
     row(R"({"hubs": 1, "faults": 1})", "hall: \"faults\" is no list");
