@@ -55,6 +55,17 @@ QString exchangeName(Exchange exchange)
     return {};
 }
 
+QStringList exchangeNames(Channel channel)
+{
+    QStringList found;
+    for (const NamedExchange& row : names) {
+        if (channelOf(row.exchange) == channel) {
+            found.append(QLatin1String(row.name));
+        }
+    }
+    return found;
+}
+
 std::optional<Exchange> exchangeNamed(QStringView name)
 {
     bool isNumber = false;

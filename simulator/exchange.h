@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 #include <optional>
 
@@ -48,6 +49,9 @@ Channel channelOf(Exchange exchange);
 
 /// The name under which an exchange stands in journals, descriptions and on the command line.
 QString exchangeName(Exchange exchange);
+
+/// The names of all exchanges on that way.
+QStringList exchangeNames(Channel channel);
 
 /// The exchange of that name, or of that installation step ("0" to "10"); nothing when there is
 /// none.

@@ -65,6 +65,17 @@ Channel channelOf(FaultKind kind)
     return rowOf(kind).channel;
 }
 
+QList<FaultKind> faultKinds(Channel channel)
+{
+    QList<FaultKind> found;
+    for (const KindRow& row : rows) {
+        if (row.channel == channel) {
+            found.append(row.kind);
+        }
+    }
+    return found;
+}
+
 FaultValue valueOf(FaultKind kind)
 {
     return rowOf(kind).value;

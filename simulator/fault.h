@@ -80,6 +80,9 @@ struct Fault
 /// The channel on which a kind of fault can strike.
 Channel channelOf(FaultKind kind);
 
+/// All kinds that can strike on that channel.
+QList<FaultKind> faultKinds(Channel channel);
+
 /// What value a kind of fault takes.
 FaultValue valueOf(FaultKind kind);
 

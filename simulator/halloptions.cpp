@@ -1,6 +1,7 @@
 #include "halloptions.h"
 
 #include "faultreader.h"
+#include "hallhelp.h"
 #include "hallreader.h"
 
 #include <QCommandLineParser>
@@ -50,11 +51,16 @@ QList<Option> optionTable()
 void describe(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(
-        QStringLiteral("A simulated hall: hubs, microphones, speakers and controllers to train and "
-                       "test on."));
-    parser.addHelpOption();
+        QStringLiteral("A simulated hall: hubs, microphones, speakers and controllers,\n"
+                       "to train and test on."));
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help"), QStringLiteral("help-all")},
+                      QStringLiteral("Show this text.")});
     for (const Option& option : optionTable()) {
-        parser.addOption({option.name, option.description, option.valueName, option.defaultValue});
+        const QString byDefault = option.defaultValue.isEmpty()
+                                      ? QString()
+                                      : QStringLiteral(" Default: %1.").arg(option.defaultValue);
+        parser.addOption(
+            {option.name, option.description + byDefault, option.valueName, option.defaultValue});
     }
     parser.addPositionalArgument(
         QStringLiteral("description"),
@@ -171,7 +177,7 @@ HallOptionsReading readHallOptions(const QStringList& arguments)
         return reading;
     }
     if (parser.isSet(QStringLiteral("help"))) {
-        reading.help = parser.helpText();
+        reading.help = parser.helpText() + faultHelp() + exitCodeHelp();
         return reading;
     }
     std::optional<HallDescription> hall = hallFrom(parser, &reading.error);

@@ -1,5 +1,6 @@
 #include "addresssequence.h"
 #include "halldescription.h"
+#include "hallhelp.h"
 #include "halloptions.h"
 #include "hallreader.h"
 #include "hallreport.h"
@@ -34,7 +35,9 @@ private Q_SLOTS:
     void optionsOnTopOfAFile();
     void wrongOptionsAreExplained_data();
     void wrongOptionsAreExplained();
-    void helpNamesTheOptions();
+    void helpIsGivenInsteadOfAHall_data();
+    void helpIsGivenInsteadOfAHall();
+    void helpTellsEverythingThatCanBeGiven();
 
 private:
     static HallOptionsReading read(const QStringList& arguments)
@@ -317,12 +320,42 @@ void TestHallDescription::wrongOptionsAreExplained()
     QTEST(reading.error, "error");
 }
 
-void TestHallDescription::helpNamesTheOptions()
+void TestHallDescription::helpIsGivenInsteadOfAHall_data()
 {
-    const HallOptionsReading reading = read({QStringLiteral("--help")});
+    QTest::addColumn<QString>("option");
+    QTest::newRow("short") << QStringLiteral("-h");
+    QTest::newRow("long") << QStringLiteral("--help");
+    QTest::newRow("all") << QStringLiteral("--help-all");
+}
+
+void TestHallDescription::helpIsGivenInsteadOfAHall()
+{
+    QFETCH(const QString, option);
+    const HallOptionsReading reading = read({option});
     QVERIFY(!reading.options);
     QCOMPARE(reading.error, QString());
     QVERIFY(reading.help.contains(QStringLiteral("--peripherals <number>")));
+}
+
+void TestHallDescription::helpTellsEverythingThatCanBeGiven()
+{
+    const QString help = read({QStringLiteral("--help")}).help.simplified();
+    QStringList expected{QStringLiteral("Default: 20."),   QStringLiteral("Default: 127.0.1.1."),
+                         QStringLiteral("Exit codes: 0 "), QStringLiteral(" 3 "),
+                         QStringLiteral("status,NUMBER"),  QStringLiteral("pieces[,OFFSETS]"),
+                         QStringLiteral("greeting,TEXT")};
+    for (int value = 0; value <= static_cast<int>(Exchange::Discovery); ++value) {
+        expected.append(QLatin1Char(' ') + exchangeName(static_cast<Exchange>(value)));
+    }
+    for (int value = 0; value <= static_cast<int>(FaultKind::RawDatagram); ++value) {
+        expected.append(QLatin1Char(' ') + faultKindName(static_cast<FaultKind>(value)));
+    }
+    for (const QString& text : expected) {
+        QVERIFY2(help.contains(text), qPrintable(text));
+    }
+    for (const QString& line : faultHelp().split(QLatin1Char('\n'))) {
+        QVERIFY2(line.size() <= 80, qPrintable(line));
+    }
 }
 
 TESSEL_TEST_MAIN(TestHallDescription)
