@@ -33,11 +33,39 @@ StopSignals::StopSignals(QObject* parent)
     std::signal(SIGTERM, wakeEventLoop);
 }
 
-#else
+StopSignals::~StopSignals()
+{
+    std::signal(SIGINT, SIG_DFL);
+    std::signal(SIGTERM, SIG_DFL);
+}
+
+#elif defined(Q_OS_WIN)
+
+#include <windows.h>
+
+namespace {
+
+StopSignals* receiver = nullptr;
+
+// Called in a thread of the system's own.
+BOOL WINAPI wakeEventLoop(DWORD event)
+{
+    const bool isWish = event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT;
+    return isWish && QMetaObject::invokeMethod(receiver, "stopAsked", Qt::QueuedConnection);
+}
+
+} // namespace
 
 StopSignals::StopSignals(QObject* parent)
     : QObject(parent)
 {
+    receiver = this;
+    ::SetConsoleCtrlHandler(wakeEventLoop, TRUE);
+}
+
+StopSignals::~StopSignals()
+{
+    ::SetConsoleCtrlHandler(wakeEventLoop, FALSE);
 }
 
 #endif

@@ -3,7 +3,7 @@
 #include <QObject>
 
 /// Turns the system's wishes that the program may end (Ctrl+C, a polite kill) into a signal of the
-/// event loop. Does nothing on systems that end programs in another way.
+/// event loop.
 class StopSignals : public QObject
 {
     Q_OBJECT
@@ -11,6 +11,8 @@ class StopSignals : public QObject
 public:
     /// There can be one at a time.
     explicit StopSignals(QObject* parent = nullptr);
+    /// From then on they end the program at once.
+    ~StopSignals() override;
 
 Q_SIGNALS:
     /// The program is to end.
