@@ -36,6 +36,9 @@ DeviceTable::DeviceTable(const QStringList& headers, int addressColumn, QWidget*
     setHeaderLabels(headers);
     header()->setDefaultSectionSize(addressWidth());
     setRootIsDecorated(false);
+    // Every row holds the same widgets. Rows of any height would all be measured, and the place of
+    // each found by adding up those above it.
+    setUniformRowHeights(true);
     setItemDelegate(new RowDelegate(this));
     header()->setSortIndicator(labelColumn, Qt::AscendingOrder);
     connect(model(), SIGNAL(modelAboutToBeReset()), this, SLOT(forgetRows()));
