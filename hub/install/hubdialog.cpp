@@ -79,8 +79,10 @@ void HubDialog::showEvent(QShowEvent* event)
 {
     // A second prompt would otherwise begin on the button that ended the first.
     m_passwordEdit->setFocus();
-    // The field remembers what was typed at each earlier prompt, to undo it; set anew, it forgets.
-    m_passwordEdit->setText(m_passwordEdit->text());
+    // A field remembers what was typed at each earlier prompt, to undo it; set anew, it forgets.
+    for (QLineEdit* field : findChildren<QLineEdit*>()) {
+        field->setText(field->text());
+    }
     QDialog::showEvent(event);
 }
 

@@ -13,7 +13,7 @@ class TestInitialPasswordDialog : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void textsAndSizesAreThePrescribedOnes();
+    void saysWhatToTypeInAWindowOfFixedHeight();
     void theHubStandsInTheListAndCanBeIdentified();
     void submitNeedsTwoEqualTextsOfFourCharacters_data();
     void submitNeedsTwoEqualTextsOfFourCharacters();
@@ -22,6 +22,7 @@ private Q_SLOTS:
     void aSeventeenthCharacterIsRefusedByTheFirstFieldOnly();
     void theDefaultButtonFollowsSubmit();
     void submitAccepts();
+    void theNextPromptDoesNotRememberHowTheTextsWereTyped();
     void nothingIsCutOff();
     void labelsAndTabOrderFollowReading();
 };
@@ -52,7 +53,7 @@ struct Fixture
 
 } // namespace
 
-void TestInitialPasswordDialog::textsAndSizesAreThePrescribedOnes()
+void TestInitialPasswordDialog::saysWhatToTypeInAWindowOfFixedHeight()
 {
     const Fixture f;
     QCOMPARE(f.dialog.windowTitle(), QStringLiteral("Login"));
@@ -171,6 +172,22 @@ void TestInitialPasswordDialog::submitAccepts()
     QTest::mouseClick(f.submit, Qt::LeftButton);
     QCOMPARE(f.dialog.result(), int(QDialog::Accepted));
     QCOMPARE(f.dialog.password(), QStringLiteral("abcd"));
+}
+
+void TestInitialPasswordDialog::theNextPromptDoesNotRememberHowTheTextsWereTyped()
+{
+    Fixture f;
+    f.dialog.show();
+    QTest::keyClicks(f.password, QStringLiteral("abcd"));
+    QTest::keyClicks(f.confirmation, QStringLiteral("abcd"));
+    f.dialog.accept();
+    f.dialog.show();
+    for (QLineEdit* field : {f.password, f.confirmation}) {
+        QCOMPARE(field->text(), QStringLiteral("abcd"));
+        // What was typed can be taken back in a readable field only.
+        field->setEchoMode(QLineEdit::Normal);
+        QVERIFY(!field->isUndoAvailable());
+    }
 }
 
 void TestInitialPasswordDialog::nothingIsCutOff()

@@ -14,7 +14,7 @@ class TestLoginDialog : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void textsAndSizesAreThePrescribedOnes();
+    void saysWhatToTypeInAWindowOfFixedHeight();
     void theHubStandsInTheList();
     void theIdentifyButtonNamesTheHub();
     void theErrorIsHiddenUntilShown();
@@ -44,7 +44,7 @@ Widget* find(const QWidget& dialog, const char* name)
 
 } // namespace
 
-void TestLoginDialog::textsAndSizesAreThePrescribedOnes()
+void TestLoginDialog::saysWhatToTypeInAWindowOfFixedHeight()
 {
     QWidget page;
     const auto* dialog = newDialog(&page);
