@@ -87,7 +87,6 @@ PresetNameEdit* CreatePreset::nameField(const RoomGroup& group)
     auto* field = new PresetNameEdit(name.value_or(QString()), m_groupList);
     field->setAccessibleName(tr("Preset name of rooms %1 in layout %2")
                                  .arg(group.roomText, QString::number(group.sceneNumber)));
-    connect(field, SIGNAL(entered()), this, SLOT(nameFieldEntered()));
     return field;
 }
 
@@ -111,12 +110,4 @@ void CreatePreset::deviceSetSelected()
 {
     // Beyond the groups when none is current, or while the list is being replaced.
     m_thumbnail->setPixmap(m_groups.value(m_groupList->currentRow()).thumbnail);
-}
-
-void CreatePreset::nameFieldEntered()
-{
-    const auto row = m_nameFields.indexOf(sender());
-    if (row >= 0) {
-        m_groupList->selectRow(int(row));
-    }
 }

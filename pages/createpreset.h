@@ -33,9 +33,6 @@ public Q_SLOTS:
     /// Shows the layout that the current row belongs to.
     void deviceSetSelected();
 
-private Q_SLOTS:
-    void nameFieldEntered();
-
 private:
     void createWidgets();
     void layOut();

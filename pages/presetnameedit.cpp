@@ -8,9 +8,3 @@ PresetNameEdit::PresetNameEdit(const QString& name, QWidget* parent)
     setText(name);
     setCursorPosition(0);
 }
-
-void PresetNameEdit::focusInEvent(QFocusEvent* event)
-{
-    QLineEdit::focusInEvent(event);
-    Q_EMIT entered();
-}

@@ -253,6 +253,12 @@ void TestPageCreatePreset::aFieldThatIsEnteredSelectsItsRow()
     QCOMPARE(shown.list->currentItem(), shown.list->topLevelItem(4));
     QCOMPARE(shownPicture(shown.page), QColor(Qt::yellow));
     QVERIFY(shown.field(4)->hasFocus());
+    for (int row = 3; row >= 0; --row) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+        QVERIFY(shown.field(row)->hasFocus());
+        QCOMPARE(shown.list->currentItem(), shown.list->topLevelItem(row));
+    }
+    QCOMPARE(shownPicture(shown.page), QColor(Qt::cyan));
 }
 
 void TestPageCreatePreset::withoutLayoutsNothingIsListedAndNothingBreaks()
