@@ -58,7 +58,6 @@ void Configure::initialise()
     addSets();
     deviceRemoveStatusChanged();
     m_groupList->selectRow(0);
-    deviceSetSelected();
 }
 
 void Configure::addSets()

@@ -40,7 +40,6 @@ void DanteSpeaker::initialise()
     m_panelsView->clear();
     addPanels();
     m_groupList->selectRow(0);
-    deviceSetSelected();
 }
 
 void DanteSpeaker::addPanels()
