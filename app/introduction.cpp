@@ -3,8 +3,7 @@
 Introduction::Introduction(QWidget* parent)
     : PictureText(
           {tr("This tool helps generating preset settings for up to 4 Calyra solutions that make "
-              "up "
-              "a divide/combine space."),
+              "up a divide/combine space."),
            tr("The presets on an PX-HB include information on connected peripheral devices like "
               "speakers and microphones. This information not only includes the information on how "
               "to establish the Dante connections between devices, but also all settings for each "
