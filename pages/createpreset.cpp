@@ -39,10 +39,8 @@ void CreatePreset::createWidgets()
 
 void CreatePreset::layOut()
 {
-    auto* listTitle = new QLabel(tr("Select a room combination"), this);
-    listTitle->setBuddy(m_groupList);
     auto* listColumn = new QVBoxLayout;
-    listColumn->addWidget(listTitle);
+    listColumn->addWidget(titleLabel(tr("Select a room combination"), m_groupList));
     listColumn->addWidget(m_groupList);
 
     auto* row = new QHBoxLayout;

@@ -208,9 +208,7 @@ void DeviceLocation::layOut()
 void DeviceLocation::addTable(QVBoxLayout* layout, const QString& title, DeviceTable* table,
                               int stretch)
 {
-    auto* label = new QLabel(title, this);
-    label->setBuddy(table);
-    layout->addWidget(label);
+    layout->addWidget(titleLabel(title, table));
     layout->addWidget(table, stretch);
 }
 

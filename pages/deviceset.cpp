@@ -6,6 +6,7 @@
 #include "roomdevices.h"
 #include "rowdelegate.h"
 #include "setqueries.h"
+#include "textlabel.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -114,17 +115,12 @@ void DeviceSet::layOut()
     top->addWidget(thumbnail, 0, Qt::AlignTop);
     top->addWidget(m_summaryTable, 1, Qt::AlignTop);
 
-    auto* hubTitle = new QLabel(tr("PX-HB"), this);
-    hubTitle->setBuddy(m_hubTable);
-    auto* peripheralTitle = new QLabel(tr("Peripheral"), this);
-    peripheralTitle->setBuddy(m_peripheralTable);
-
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(top);
-    layout->addWidget(hubTitle);
+    layout->addWidget(titleLabel(tr("PX-HB"), m_hubTable));
     layout->addWidget(m_hubTable, hubStretch);
-    layout->addWidget(peripheralTitle);
+    layout->addWidget(titleLabel(tr("Peripheral"), m_peripheralTable));
     layout->addWidget(m_peripheralTable, peripheralStretch);
 }
 

@@ -102,15 +102,13 @@ void Install::createWidgets()
 
 void Install::layOut()
 {
-    auto* listTitle = new QLabel(tr("PX-HB"), this);
-    listTitle->setBuddy(m_hubTable);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(textLabel(tr("Configure the presets on the PX-HBs."), this));
     layout->addWidget(
         textLabel(tr("The password for each PX-HB is required to install the presets."), this));
     layout->addSpacing(gapBelowTexts);
-    layout->addWidget(listTitle);
+    layout->addWidget(titleLabel(tr("PX-HB"), m_hubTable));
     layout->addWidget(m_hubTable, 1);
 }
 

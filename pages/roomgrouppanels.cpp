@@ -1,6 +1,7 @@
 #include "roomgrouppanels.h"
 
 #include "roomgrouplist.h"
+#include "textlabel.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -26,10 +27,8 @@ RoomGroupPanels::RoomGroupPanels(const QString& stackName, QWidget* parent)
     m_list->setObjectName(QStringLiteral("roomGroupList"));
     m_stack->setObjectName(stackName);
 
-    auto* title = new QLabel(tr("Select a room combination"), this);
-    title->setBuddy(m_list);
     auto* column = new QVBoxLayout;
-    column->addWidget(title);
+    column->addWidget(titleLabel(tr("Select a room combination"), m_list));
     column->addWidget(m_list, 1);
 
     auto* row = new QHBoxLayout(this);

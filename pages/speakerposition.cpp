@@ -5,6 +5,7 @@
 #include "listcombobox.h"
 #include "roomdevices.h"
 #include "setqueries.h"
+#include "textlabel.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -75,13 +76,11 @@ void SpeakerPosition::layOut()
     thumbnail->setObjectName(QStringLiteral("thumbnailLabel"));
     thumbnail->setAccessibleName(tr("Layout %1").arg(m_group.sceneNumber));
     thumbnail->setPixmap(m_group.thumbnail);
-    auto* tableTitle = new QLabel(tr("Speaker Position"), this);
-    tableTitle->setBuddy(m_speakerTable);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(thumbnail);
-    layout->addWidget(tableTitle);
+    layout->addWidget(titleLabel(tr("Speaker Position"), m_speakerTable));
     layout->addWidget(m_speakerTable, 1);
 }
 

@@ -9,3 +9,10 @@ QLabel* textLabel(const QString& text, QWidget* parent)
     label->setWordWrap(true);
     return label;
 }
+
+QLabel* titleLabel(const QString& text, QWidget* list)
+{
+    auto* label = new QLabel(text, list->parentWidget());
+    label->setBuddy(list);
+    return label;
+}
