@@ -9,7 +9,7 @@
 namespace {
 
 constexpr int lookEveryMs = 5;
-constexpr int longestHoldMs = 4000;
+constexpr int longestHoldMs = 60000;
 constexpr int addressColumn = 2;
 
 QDialog* dialogInFront()
