@@ -12,13 +12,6 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-namespace {
-
-constexpr int numberColumn = 0;
-constexpr int layoutColumn = 1;
-
-} // namespace
-
 Configure::Configure(IDocAccessor* doc, QWidget* parent)
     : QWidget(parent)
     , m_doc(doc)
@@ -105,7 +98,7 @@ void Configure::deviceRemoveStatusChanged()
     for (qsizetype row = 0; row < m_sets.size(); ++row) {
         const bool valid = m_sets.at(row)->isValid();
         QTreeWidgetItem* item = m_groupList->topLevelItem(int(row));
-        for (const int column : {numberColumn, layoutColumn}) {
+        for (const int column : {RoomGroupList::numberColumn, RoomGroupList::layoutColumn}) {
             item->setForeground(column, valid ? Qt::black : Qt::red);
             item->setData(column, Qt::AccessibleDescriptionRole,
                           valid ? QString() : tr("more devices than supported"));

@@ -167,11 +167,8 @@ void CreateScene::layOut()
 
 void CreateScene::loadRooms()
 {
-    const int count = roomCount(m_doc);
-    for (int room = 1; room <= count; ++room) {
-        if (const auto cells = roomCells(m_doc, room)) {
-            m_tessel->setRoom(room, *cells);
-        }
+    for (const RoomInfo& room : drawnRooms(m_doc)) {
+        m_tessel->setRoom(room.number, room.positionList);
     }
     m_tessel->createLinkButtons();
     m_tessel->update();

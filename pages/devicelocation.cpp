@@ -215,10 +215,8 @@ void DeviceLocation::addTable(QVBoxLayout* layout, const QString& title, DeviceT
 void DeviceLocation::drawPicture()
 {
     m_picture->clear();
-    for (int room = 1; room <= m_rooms; ++room) {
-        if (const auto cells = roomCells(m_doc, room)) {
-            m_picture->setRoom(room, *cells);
-        }
+    for (const RoomInfo& room : drawnRooms(m_doc)) {
+        m_picture->setRoom(room.number, room.positionList);
     }
     m_picture->update();
 }

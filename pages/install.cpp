@@ -44,7 +44,7 @@ void Install::install()
     QList<std::pair<QString, QString>> hubs;
     for (int row = 0; row < m_hubTable->topLevelItemCount(); ++row) {
         const QTreeWidgetItem* item = m_hubTable->topLevelItem(row);
-        hubs.append({item->text(addressColumn), item->text(0)});
+        hubs.append({item->text(addressColumn), item->text(DeviceTable::labelColumn)});
     }
     for (const auto& [ip, label] : hubs) {
         // Set first: a run that cannot even begin reports its failure from within the start.
@@ -95,8 +95,8 @@ void Install::createWidgets()
                                  addressColumn, this);
     m_hubTable->setObjectName(QStringLiteral("hubList"));
     m_hubTable->setAccessibleName(tr("PX-HB"));
-    m_hubTable->setColumnWidth(0, hostNameWidth);
-    m_hubTable->setColumnWidth(1, identifyWidth);
+    m_hubTable->setColumnWidth(DeviceTable::labelColumn, hostNameWidth);
+    m_hubTable->setColumnWidth(DeviceTable::identifyColumn, identifyWidth);
     m_hubTable->setSortingEnabled(true);
 }
 

@@ -11,7 +11,6 @@ namespace {
 
 constexpr int gap = 2;
 constexpr int cellSize = 48;
-constexpr int maxRooms = 4;
 constexpr int minRoomsToGoOn = 2;
 
 } // namespace
@@ -29,11 +28,8 @@ RoomDesign::RoomDesign(IDocAccessor& doc, QWidget* parent)
 void RoomDesign::load()
 {
     m_editor->clear();
-    const int count = roomCount(m_doc);
-    for (int room = 1; room <= count; ++room) {
-        if (const auto cells = roomCells(m_doc, room)) {
-            m_editor->setRoom(room, *cells);
-        }
+    for (const RoomInfo& room : drawnRooms(m_doc)) {
+        m_editor->setRoom(room.number, room.positionList);
     }
     m_editor->clearModified();
     m_editor->update();
@@ -45,7 +41,7 @@ void RoomDesign::store()
         return;
     }
     clearRooms(m_doc);
-    for (int room = 1; room <= maxRooms; ++room) {
+    for (int room = 1; room <= RoomInfo::maxRooms; ++room) {
         const QList<QPoint> cells = m_editor->cellsOf(room);
         if (cells.isEmpty()) {
             break;

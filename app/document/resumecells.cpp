@@ -1,5 +1,7 @@
 #include "resumecells.h"
 
+#include "records.h"
+
 #include <QStringList>
 
 #include <bitset>
@@ -7,7 +9,7 @@
 
 namespace {
 
-constexpr int gridSide = 8;
+constexpr int gridSide = RoomInfo::gridSide;
 constexpr std::size_t gridSize = std::size_t(gridSide) * gridSide;
 
 std::optional<QPoint> readCell(QStringView text)

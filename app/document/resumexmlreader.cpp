@@ -1,6 +1,7 @@
 #include "resumexmlreader.h"
 
 #include "boundedxml.h"
+#include "records.h"
 #include "resumecells.h"
 
 #include <algorithm>
@@ -9,7 +10,6 @@
 namespace {
 
 constexpr int lastPageIndex = 8;
-constexpr int lastRoomNumber = 4;
 constexpr int maxWindowSide = 10000;
 // Ten times what the wizard makes: more would only stall its pages.
 constexpr qsizetype maxLayouts = 100;
@@ -43,7 +43,7 @@ private:
 
 bool isRoomNumber(int number)
 {
-    return number >= 0 && number <= lastRoomNumber;
+    return number >= 0 && number <= RoomInfo::maxRooms;
 }
 
 std::optional<SavedDevice> readDevice(const Attributes& attributes)

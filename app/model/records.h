@@ -27,8 +27,11 @@ struct DeviceData
 /// One drawn room.
 struct RoomInfo
 {
-    int number = 0;             ///< 1 to 4
-    QList<QPoint> positionList; ///< its cells, x = column and y = row, 0 to 7
+    static constexpr int maxRooms = 4;
+    static constexpr int gridSide = 8; ///< columns, and rows, of the grid that rooms are drawn on
+
+    int number = 0;             ///< 1 to maxRooms
+    QList<QPoint> positionList; ///< its cells, x = column and y = row, from 0
 };
 
 /// One room layout: a way of dividing or combining the rooms.

@@ -24,6 +24,18 @@ std::optional<QList<QPoint>> roomCells(IDocAccessor& doc, int room)
     return cells;
 }
 
+QList<RoomInfo> drawnRooms(IDocAccessor& doc)
+{
+    QList<RoomInfo> rooms;
+    const int count = roomCount(doc);
+    for (int room = 1; room <= count; ++room) {
+        if (const auto cells = roomCells(doc, room)) {
+            rooms.append({room, *cells});
+        }
+    }
+    return rooms;
+}
+
 void setRoomCells(IDocAccessor& doc, int room, const QList<QPoint>& cells)
 {
     const QVariantList packed(cells.cbegin(), cells.cend());

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QList>
-#include <QPoint>
+#include "records.h"
 
 #include <optional>
 
@@ -14,6 +13,9 @@ int roomCount(IDocAccessor& doc);
 
 /// The cells of room `room`; nothing when there is no such room.
 std::optional<QList<QPoint>> roomCells(IDocAccessor& doc, int room);
+
+/// The rooms in the order of their numbers; a number without a record is left out.
+QList<RoomInfo> drawnRooms(IDocAccessor& doc);
 
 /// Replaces the cells of `room`, or adds the room.
 void setRoomCells(IDocAccessor& doc, int room, const QList<QPoint>& cells);

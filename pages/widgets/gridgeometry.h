@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QPoint>
+#include "records.h"
+
 #include <QRect>
 
 #include <optional>
@@ -9,7 +10,7 @@
 /// starts one gap away from the widget's edge.
 struct GridGeometry
 {
-    static constexpr int cellsPerSide = 8;
+    static constexpr int cellsPerSide = RoomInfo::gridSide;
 
     /// Whether a cell lies on the grid.
     static bool contains(QPoint cell)

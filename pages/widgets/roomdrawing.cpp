@@ -1,5 +1,7 @@
 #include "roomdrawing.h"
 
+#include "records.h"
+
 void RoomDrawing::setRoom(int room, const QList<QPoint>& cells)
 {
     for (const QPoint cell : cells) {
@@ -18,7 +20,7 @@ bool RoomDrawing::begin(QPoint cell)
 {
     const int held = m_grid.at(cell);
     const int rooms = m_grid.highestRoom();
-    if (held == 0 && rooms >= maxRooms) {
+    if (held == 0 && rooms >= RoomInfo::maxRooms) {
         return false;
     }
     m_currentRoom = held != 0 ? held : rooms + 1;

@@ -9,8 +9,6 @@
 class RoomDrawing
 {
 public:
-    static constexpr int maxRooms = 4;
-
     const RoomGrid& grid() const { return m_grid; }
 
     /// Writes `room` into `cells` without emptying others. Unmodified afterwards.

@@ -2,6 +2,7 @@
 
 #include "arrowkey.h"
 #include "gridcolor.h"
+#include "records.h"
 #include "roomarea.h"
 #include "roomborder.h"
 #include "roomcolor.h"
@@ -15,7 +16,6 @@
 
 namespace {
 
-constexpr int maxRooms = 4;
 constexpr int focusLineWidth = 3;
 
 QColor ownColor(int room)
@@ -218,7 +218,7 @@ void Tessel::recolor()
         room->color = ownColor(room.key());
     }
     for (const QList<int>& group : combinedGroups()) {
-        int lowest = maxRooms;
+        int lowest = RoomInfo::maxRooms;
         for (const int number : group) {
             lowest = std::min(lowest, number);
         }
