@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int waitMs = 10000;
+constexpr int waitMs = 60000;
 
 } // namespace
 
@@ -32,7 +32,7 @@ bool SenderFixture::logIn()
 bool SenderFixture::waitForLogIn()
 {
     QSignalSpy spy(sender, SIGNAL(completedLogin()));
-    return sender->isLoggedIn() || spy.wait();
+    return sender->isLoggedIn() || spy.wait(waitMs);
 }
 
 bool SenderFixture::waitForOutcome(int count)
