@@ -44,7 +44,7 @@ bool separateMounts()
 void makePrivateMounts()
 {
     // Private, so that no mount made here reaches the rest of the system.
-    if (separateMounts() && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0) {
+    if (separateMounts() && mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) == 0) {
         refusal().clear();
     } else {
         refusal() = QStringLiteral("This system refuses mounts that only this program sees: %1")
@@ -62,7 +62,7 @@ bool mountDisk(const QString& folder, qint64 bytes, int files)
 
 bool forbidWriting(const QString& folder)
 {
-    return mount("none", QFile::encodeName(folder).constData(), nullptr, MS_REMOUNT | MS_RDONLY,
+    return mount("none", QFile::encodeName(folder).constData(), "none", MS_REMOUNT | MS_RDONLY,
                  nullptr) == 0;
 }
 
