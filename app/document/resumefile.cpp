@@ -4,6 +4,7 @@
 
 #include <QDataStream>
 #include <QFile>
+#include <QImage>
 #include <QSaveFile>
 #include <QtEndian>
 
@@ -47,6 +48,16 @@ bool isThumbnail(const PngExtent& png)
            png.size.height() <= maxThumbnailSide;
 }
 
+/// The pixels alone. A picture may bring texts along, and one with odd letters would be written again
+/// in a form that is not taken.
+QPixmap bare(const QPixmap& picture)
+{
+    const QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    return QPixmap::fromImage(QImage(image.constBits(), image.width(), image.height(),
+                                     image.bytesPerLine(), image.format())
+                                  .copy());
+}
+
 /// A picture is a marker and, unless that is 0, a PNG whose length is written nowhere.
 bool readPicture(QDataStream& stream, QPixmap& picture)
 {
@@ -66,6 +77,7 @@ bool readPicture(QDataStream& stream, QPixmap& picture)
     }
     const qint64 end = device.pos() + markerSize + png->length;
     stream >> picture;
+    picture = bare(picture);
     return stream.status() == QDataStream::Ok && device.seek(end);
 }
 

@@ -133,6 +133,7 @@ private Q_SLOTS:
     void sceneCountIsNotBelieved();
     void lengthOfARoomGroupIsNotBelieved();
     void damagedPictureEndsTheReadingThere();
+    void picturesAreReadWithoutTheirTexts();
     void absurdPictureEndsTheReadingThere_data();
     void absurdPictureEndsTheReadingThere();
     void hostileFilesCostLittleMemory();
@@ -285,6 +286,21 @@ void TestResumeFile::damagedPictureEndsTheReadingThere()
     QVERIFY(read);
     QCOMPARE(read->scenes.size(), 1);
     QCOMPARE(read->scenes.first().thumbnail.toImage(), picture(Qt::red).toImage());
+}
+
+void TestResumeFile::picturesAreReadWithoutTheirTexts()
+{
+    QImage image(4, 4, QImage::Format_RGB32);
+    image.fill(Qt::green);
+    image.setText(QStringLiteral("Title"), QStringLiteral("plain"));
+    const auto read = unpackResumeFile(withTail([&image](QDataStream& stream) {
+        stream << qint64(1) << qint32(1) << QStringLiteral("1") << QPixmap::fromImage(image);
+    }));
+    QVERIFY(read);
+    QCOMPARE(read->scenes.size(), 1);
+    const QImage thumbnail = read->scenes.first().thumbnail.toImage();
+    QCOMPARE(thumbnail, image);
+    QCOMPARE(thumbnail.textKeys(), QStringList());
 }
 
 void TestResumeFile::absurdPictureEndsTheReadingThere_data()
