@@ -48,8 +48,8 @@ bool isThumbnail(const PngExtent& png)
            png.size.height() <= maxThumbnailSide;
 }
 
-/// The pixels alone. A picture may bring texts along, and one with odd letters would be written again
-/// in a form that is not taken.
+/// The pixels alone. A picture may bring texts along, and one with odd letters would be written
+/// again in a form that is not taken.
 QPixmap bare(const QPixmap& picture)
 {
     const QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
