@@ -1,33 +1,36 @@
 #include "httpreadwrite.h"
 
-#include "httpreply.h"
-#include "httprequest.h"
+#include "httpconnection.h"
 #include "ihttpsequence.h"
-
-#include <QTcpSocket>
-#include <QThread>
 
 namespace {
 
 constexpr int maxRetries = 20;
-constexpr unsigned long retryPauseMs = 500;
+constexpr std::chrono::milliseconds retryPause(500);
 
 } // namespace
 
 HttpReadWrite::HttpReadWrite(const QString& address, const QString& password, QObject* parent)
     : QObject(parent)
-    , m_address(address)
     , m_password(password)
+    , m_connection(new HttpConnection(address, this))
 {
+    connect(m_connection, SIGNAL(replied(QString)), this, SLOT(evaluate(QString)));
 }
 
 void HttpReadWrite::start()
 {
-    m_retries = 0;
-    if (!m_socket) {
-        createSocket();
+    if (m_isRunning) {
+        m_connection->drop();
     }
-    connectOrSend();
+    m_retries = 0;
+    m_stepIndex = 0;
+    if (m_steps.isEmpty()) {
+        m_connection->open();
+        return;
+    }
+    m_isRunning = true;
+    m_connection->ask(currentRequest());
 }
 
 void HttpReadWrite::completed(bool /*success*/) {}
@@ -37,56 +40,13 @@ void HttpReadWrite::appendStep(IHttpSequence* step)
     m_steps.append(step);
 }
 
-void HttpReadWrite::tcpConnected()
+const QString& HttpReadWrite::address() const
 {
-    sendRequest();
-}
-
-void HttpReadWrite::tcpReadyRead()
-{
-    m_reader.feed(m_socket->readAll());
-    if (const auto reply = m_reader.takeReply()) {
-        evaluate(*reply);
-    }
-}
-
-void HttpReadWrite::createSocket()
-{
-    m_socket = new QTcpSocket(this);
-    connect(m_socket, SIGNAL(connected()), this, SLOT(tcpConnected()));
-    connect(m_socket, SIGNAL(readyRead()), this, SLOT(tcpReadyRead()));
-}
-
-/// Where a connection is on its way already, tcpConnected() will send the request.
-void HttpReadWrite::connectToHub()
-{
-    if (m_socket->state() == QAbstractSocket::ClosingState) {
-        m_socket->abort();
-    }
-    if (m_socket->state() == QAbstractSocket::UnconnectedState) {
-        m_socket->connectToHost(m_address, hubHttpPort, QIODevice::ReadWrite);
-    }
-}
-
-void HttpReadWrite::sendRequest()
-{
-    // What arrived before the question is no answer to it.
-    m_reader.reset();
-    if (!m_steps.isEmpty()) {
-        QString request;
-        m_steps.at(m_stepIndex)->buildRequest(request);
-        m_socket->write(request.toUtf8());
-    }
+    return m_connection->address();
 }
 
 void HttpReadWrite::evaluate(const QString& reply)
 {
-    if (m_steps.isEmpty()) {
-        return;
-    }
-    if (HttpReply::wantsClose(HttpReply::header(reply))) {
-        m_socket->disconnectFromHost();
-    }
     switch (m_steps.at(m_stepIndex)->evaluateReply(reply)) {
     case IHttpSequence::Succeeded:
         advance();
@@ -99,11 +59,18 @@ void HttpReadWrite::evaluate(const QString& reply)
     }
 }
 
+QString HttpReadWrite::currentRequest() const
+{
+    QString request;
+    m_steps.at(m_stepIndex)->buildRequest(request);
+    return request;
+}
+
 void HttpReadWrite::advance()
 {
     ++m_stepIndex;
     if (m_stepIndex < m_steps.size()) {
-        connectOrSend();
+        m_connection->ask(currentRequest());
     } else {
         end(true);
     }
@@ -114,23 +81,13 @@ void HttpReadWrite::tryAgain()
     ++m_retries;
     if (m_retries > maxRetries) {
         end(false);
-        return;
-    }
-    QThread::msleep(retryPauseMs);
-    connectOrSend();
-}
-
-void HttpReadWrite::connectOrSend()
-{
-    if (m_socket->state() == QAbstractSocket::ConnectedState) {
-        sendRequest();
     } else {
-        connectToHub();
+        m_connection->askAfter(retryPause, currentRequest());
     }
 }
 
 void HttpReadWrite::end(bool success)
 {
-    m_stepIndex = 0;
+    m_isRunning = false;
     completed(success);
 }

@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr qsizetype longestStatusText = 80;
+
 QString lineEnd()
 {
     return QStringLiteral("\r\n");
@@ -42,6 +44,17 @@ QString HttpReply::body(const QString& reply)
 QString HttpReply::status(const QString& reply)
 {
     return reply.left(reply.indexOf(lineEnd())).section(u' ', 1, 1);
+}
+
+QString HttpReply::statusText(const QString& reply)
+{
+    QString text = reply.left(reply.indexOf(lineEnd())).section(u' ', 1);
+    for (QChar& character : text) {
+        if (!character.isPrint()) {
+            character = u' ';
+        }
+    }
+    return text.simplified().left(longestStatusText);
 }
 
 bool HttpReply::isOk(const QString& reply)

@@ -16,6 +16,10 @@ QString body(const QString& reply);
 /// The second word of the first line, for example "200"; empty when there is none.
 QString status(const QString& reply);
 
+/// The status with the words that the hub adds to it, for example "507 Insufficient Storage": the
+/// first line behind its first blank, on one line and not longer than a reader wants it.
+QString statusText(const QString& reply);
+
 /// True when the status is exactly "200", the only one that counts as success.
 bool isOk(const QString& reply);
 

@@ -51,22 +51,23 @@ std::optional<QString> ReplyReader::takeReply()
     if (m_stage == Stage::Header) {
         readHeader();
     }
-    if (m_stage != Stage::Body || m_text.size() < m_end) {
+    if (m_stage == Stage::Body) {
+        readBody();
+    }
+    if (m_stage != Stage::Complete) {
         return std::nullopt;
     }
-    if (QStringView(m_text).first(m_end).sliced(m_bodyStart).contains(emptyLine)) {
-        giveUp();
-        return std::nullopt;
-    }
-    QString reply = m_text.first(m_end);
-    beginReply(m_text.sliced(m_end));
+    QString reply = m_text;
+    reset();
     return reply;
 }
 
 void ReplyReader::reset()
 {
     m_undecoded.clear();
-    beginReply({});
+    m_text.clear();
+    m_searched = 0;
+    m_stage = Stage::Header;
 }
 
 // QStringDecoder keeps incomplete characters too, but decodes broken ones differently depending
@@ -97,20 +98,26 @@ void ReplyReader::readHeader()
         return;
     }
     // A negative length leaves nothing to wait for.
-    m_stage = Stage::Body;
+    m_stage = length < 0 ? Stage::Complete : Stage::Body;
     m_bodyStart = headerEnd + emptyLine.size();
-    m_end = m_bodyStart + std::max(0, length);
+    m_length = length;
+}
+
+void ReplyReader::readBody()
+{
+    const QStringView body = QStringView(m_text).sliced(m_bodyStart);
+    if (body.size() < m_length) {
+        return;
+    }
+    if (body.contains(emptyLine)) {
+        giveUp();
+        return;
+    }
+    m_stage = Stage::Complete;
 }
 
 void ReplyReader::giveUp()
 {
-    beginReply({});
+    m_text.clear();
     m_stage = Stage::NeverComplete;
-}
-
-void ReplyReader::beginReply(const QString& text)
-{
-    m_stage = Stage::Header;
-    m_text = text;
-    m_searched = 0;
 }

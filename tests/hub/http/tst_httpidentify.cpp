@@ -14,6 +14,7 @@ private Q_SLOTS:
     void aHubWithoutPasswordIsAskedNothingElse();
     void aWrongPasswordEndsTheRun();
     void theNextStartRunsAgain();
+    void pressedAgainDuringARunItBeginsAnewWithItsFirstRequest();
 };
 
 namespace {
@@ -112,6 +113,22 @@ void TestHttpIdentify::theNextStartRunsAgain()
     }
     QCOMPARE(peer.connectionCount(), 1);
     QCOMPARE(peer.requests(), expectedRequests() + expectedRequests());
+}
+
+void TestHttpIdentify::pressedAgainDuringARunItBeginsAnewWithItsFirstRequest()
+{
+    // The third request is answered late: after the second press.
+    ScriptedPeer peer(hub(), [](const QByteArray& request, qsizetype number) {
+        return number == 2 ? ScriptedAnswer{} : hubAnswer(request, number);
+    });
+    WatchedIdentify identify;
+    identify.start();
+    QTRY_COMPARE(peer.requests().size(), 3);
+    identify.start();
+    peer.sendUnasked(httpReply("200", R"({"access-token": "late"})"));
+    QTRY_COMPARE(identify.outcomes, QList<bool>({true}));
+    QCOMPARE(peer.requests().sliced(3), expectedRequests());
+    QCOMPARE(peer.connectionCount(), 2);
 }
 
 TESSEL_TEST_MAIN(TestHttpIdentify)

@@ -1,8 +1,10 @@
 #include "basehttpsequence.h"
+#include "httpconnection.h"
 #include "httpreadwrite.h"
 #include "scriptedpeer.h"
 #include "testcase.h"
 
+#include <QAbstractEventDispatcher>
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTcpSocket>
@@ -24,8 +26,9 @@ private Q_SLOTS:
     void tryAgainSendsTheSameRequestAfterAPause();
     void theTwentyFirstTryAgainEndsTheSequence();
     void anyOtherResultFails();
-    void aSecondReplyThatNobodyAskedForIsNoAnswerToTheNextStep();
-    void aSilentHubIsAskedAgainByTheNextStart();
+    void startDuringASequenceBeginsAnewOverAFreshConnection();
+    void startDuringAPauseTakesTheWaitingRequestWithIt();
+    void otherWorkGoesOnDuringAPause();
     void startWhileConnectingIsHarmless();
     void withoutStepsNothingIsSent();
 };
@@ -242,21 +245,7 @@ void TestHttpReadWrite::anyOtherResultFails()
     QCOMPARE(peer.requests().size(), 1);
 }
 
-void TestHttpReadWrite::aSecondReplyThatNobodyAskedForIsNoAnswerToTheNextStep()
-{
-    ScriptedPeer peer(hub(), [](const QByteArray& request, qsizetype number) {
-        const QByteArray reply = echo(request, number).pieces.first();
-        return ScriptedAnswer{{number == 0 ? reply + reply : reply}};
-    });
-    Engine engine(hub());
-    engine.add("a");
-    engine.add("b");
-    engine.start();
-    QTRY_COMPARE(engine.outcomes, succeeded);
-    QCOMPARE(engine.evaluated.join(u' '), QStringLiteral("a=a b=b"));
-}
-
-void TestHttpReadWrite::aSilentHubIsAskedAgainByTheNextStart()
+void TestHttpReadWrite::startDuringASequenceBeginsAnewOverAFreshConnection()
 {
     ScriptedPeer peer(hub(), [](const QByteArray& request, qsizetype number) {
         return number == 1 ? ScriptedAnswer{} : echo(request, number);
@@ -269,7 +258,43 @@ void TestHttpReadWrite::aSilentHubIsAskedAgainByTheNextStart()
     QVERIFY(engine.outcomes.isEmpty());
     engine.start();
     QTRY_COMPARE(engine.outcomes, succeeded);
-    QCOMPARE(peer.requests().last(), QByteArray("GET b\r\n\r\n"));
+    QCOMPARE(peer.requests().sliced(2), QByteArrayList({"GET a\r\n\r\n", "GET b\r\n\r\n"}));
+    QCOMPARE(peer.connectionCount(), 2);
+}
+
+void TestHttpReadWrite::startDuringAPauseTakesTheWaitingRequestWithIt()
+{
+    ScriptedPeer peer(hub(), echo);
+    Engine engine(hub());
+    engine.add("a", {IHttpSequence::TryAgain, IHttpSequence::Succeeded});
+    engine.start();
+    QTRY_COMPARE(engine.evaluated.size(), 1);
+    const auto timers = [&engine] {
+        return QAbstractEventDispatcher::instance()
+            ->registeredTimers(engine.findChild<HttpConnection*>())
+            .size();
+    };
+    QCOMPARE(timers(), 1);
+    engine.start();
+    QCOMPARE(timers(), 0);
+    QTRY_COMPARE(engine.outcomes, succeeded);
+    QCOMPARE(peer.requests().size(), 2);
+    QCOMPARE(peer.connectionCount(), 2);
+}
+
+void TestHttpReadWrite::otherWorkGoesOnDuringAPause()
+{
+    ScriptedPeer peer(hub(), echo);
+    Engine waiting(hub());
+    waiting.add("a", {IHttpSequence::TryAgain, IHttpSequence::Succeeded});
+    Engine other(hub());
+    other.add("b");
+    waiting.start();
+    QTRY_COMPARE(waiting.evaluated.size(), 1);
+    other.start();
+    QTRY_COMPARE(other.outcomes, succeeded);
+    QVERIFY(waiting.outcomes.isEmpty());
+    QTRY_COMPARE(waiting.outcomes, succeeded);
 }
 
 void TestHttpReadWrite::startWhileConnectingIsHarmless()
