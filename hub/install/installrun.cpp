@@ -36,17 +36,17 @@ const InstallRun::Row& InstallRun::rowOf(InstallStep step)
     // clang-format off
     static constexpr std::array<Row, stepCount> rows = {{
         // the request                   what a "200" means          what every other status means
-        {&Run::statusRequest,         &Run::afterStatus,         Move::EndInFailure},
-        {&Run::tokenRequest,          &Run::afterToken,          Move::EndInFailure},
+        {&Run::statusRequest,         &Run::afterStatus,         Move::EndByStatus},
+        {&Run::tokenRequest,          &Run::afterToken,          Move::EndByStatus},
         {&Run::validateRequest,       &Run::afterValidate,       Move::AskInitialPassword},
         {&Run::authenticateRequest,   &Run::afterAuthenticate,   Move::AskPasswordAgain},
-        {&Run::startExportRequest,    &Run::afterStartExport,    Move::EndInFailure},
-        {&Run::fetchExportRequest,    &Run::afterFetchExport,    Move::EndInFailure},
-        {&Run::presetEntryRequest,    &Run::afterPresetEntry,    Move::EndInFailure},
-        {&Run::hubFileRequest,        &Run::afterHubFile,        Move::EndInFailure},
-        {&Run::peripheralFileRequest, &Run::afterPeripheralFile, Move::EndInFailure},
-        {&Run::recallRequest,         &Run::afterRecall,         Move::EndInFailure},
-        {&Run::invalidateRequest,     &Run::afterInvalidate,     Move::EndInFailure},
+        {&Run::startExportRequest,    &Run::afterStartExport,    Move::EndByStatus},
+        {&Run::fetchExportRequest,    &Run::afterFetchExport,    Move::EndByStatus},
+        {&Run::presetEntryRequest,    &Run::afterPresetEntry,    Move::EndByStatus},
+        {&Run::hubFileRequest,        &Run::afterHubFile,        Move::EndByStatus},
+        {&Run::peripheralFileRequest, &Run::afterPeripheralFile, Move::EndByStatus},
+        {&Run::recallRequest,         &Run::afterRecall,         Move::EndByStatus},
+        {&Run::invalidateRequest,     &Run::afterInvalidate,     Move::EndByStatus},
     }};
     // clang-format on
     return rows.at(static_cast<size_t>(step));
@@ -73,6 +73,15 @@ void InstallRun::beginTransfer()
 void InstallRun::setPassword(const QString& password)
 {
     m_digest = passwordDigest(password);
+}
+
+InstallPlace InstallRun::place() const
+{
+    const bool isOfPreset =
+        m_step >= InstallStep::PresetEntry && m_step <= InstallStep::PeripheralFile;
+    const bool isOfDevice = m_step == InstallStep::PeripheralFile;
+    return {m_step, isOfPreset ? m_presetNumber : 0,
+            isOfDevice ? m_devices.at(m_deviceIndex) : QString()};
 }
 
 std::optional<QString> InstallRun::request()
@@ -190,7 +199,7 @@ InstallMove InstallRun::afterHubFile(const QString& /*reply*/)
 {
     const auto devices = peripheralsOfHub(*m_doc, m_ipAddress, m_presetNumber);
     if (!devices) {
-        return InstallMove::EndInFailure;
+        return InstallMove::EndForLackOfRecords;
     }
     m_devices = *devices;
     m_deviceIndex = 0;
@@ -238,7 +247,7 @@ InstallMove InstallRun::afterInvalidate(const QString& reply)
     m_token.clear();
     const QString status = HttpReply::jsonText(reply, QStringLiteral("status"));
     return status == QLatin1String("invalid") ? InstallMove::EndInSuccess
-                                              : InstallMove::EndInFailure;
+                                              : InstallMove::EndUnconfirmed;
 }
 
 InstallMove InstallRun::goTo(InstallStep step, InstallMove move)

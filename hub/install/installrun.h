@@ -1,5 +1,6 @@
 #pragma once
 
+#include "installoutcome.h"
 #include "installstep.h"
 
 #include <QString>
@@ -26,6 +27,9 @@ public:
     void beginTransfer();
 
     InstallStep step() const { return m_step; }
+
+    /// The request of the current step.
+    InstallPlace place() const;
 
     /// The password that the user typed, for the next request. Only its digest is kept, and only
     /// until that request has been built.

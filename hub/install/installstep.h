@@ -26,7 +26,9 @@ enum class InstallMove
     AskPassword,        ///< ask for the password
     AskPasswordAgain,   ///< ask once more and say that it was wrong
     EndLogIn,           ///< logged in: wait for the other hubs
-    SendAfterRefusal,   ///< report a failure, yet send the step's request
+    SendAfterRefusal,   ///< report that the recall was refused, yet send the step's request
     EndInSuccess,       ///< everything is installed
-    EndInFailure        ///< the run is over
+    EndByStatus,        ///< the run is over: the hub answered with another status than "200"
+    EndUnconfirmed,     ///< the run is over: the hub did not do what it was asked for
+    EndForLackOfRecords ///< the run is over: the document lacks what the next request needs
 };

@@ -1,24 +1,13 @@
 #include "presetfilesender.h"
 
-#include "httpreply.h"
-#include "httprequest.h"
 #include "initialpassworddialog.h"
+#include "installdriver.h"
 #include "logindialog.h"
-#include "replyreader.h"
 
-#include <QDebug>
-#include <QTcpSocket>
-#include <QThread>
-#include <QTimerEvent>
 #include <QWidget>
-
-#include <utility>
 
 namespace {
 
-constexpr int tickMs = 1000;
-constexpr int secondsOfSilence = 30;
-constexpr unsigned long exportPauseSeconds = 1;
 constexpr int installed = 1;
 constexpr int failed = 0;
 
@@ -30,9 +19,13 @@ PresetFileSender::PresetFileSender(const QString& ipAddress, const QString& host
     , m_ipAddress(ipAddress)
     , m_hostName(hostName)
     , m_page(parent)
-    , m_run(ipAddress, doc)
-    , m_reader(std::make_unique<ReplyReader>())
+    , m_driver(new InstallDriver(ipAddress, doc, this))
 {
+    connect(m_driver, SIGNAL(firstPasswordWanted()), this, SLOT(askFirstPassword()));
+    connect(m_driver, SIGNAL(passwordWanted(bool)), this, SLOT(askPassword(bool)));
+    connect(m_driver, SIGNAL(loggedIn()), this, SLOT(noteLogIn()));
+    connect(m_driver, SIGNAL(recallRefused()), this, SLOT(reportRefusedRecall()));
+    connect(m_driver, SIGNAL(ended()), this, SLOT(reportEnd()));
 }
 
 PresetFileSender::~PresetFileSender()
@@ -54,228 +47,97 @@ void PresetFileSender::setHostName(const QString& hostName)
 
 void PresetFileSender::start()
 {
-    if (m_state == State::AskingUser) {
+    if (m_driver->isAskingUser()) {
         return;
     }
-    m_loggedIn = false;
     m_loginCancelled = false;
-    createSocket();
-    dropEarlierRun();
-    m_run.begin();
-    m_state = State::AwaitingReply;
     setErrorVisible(false);
-    startCountdown();
-    send();
+    m_driver->start();
 }
 
 void PresetFileSender::sendPresets()
 {
-    if (m_state != State::LoggedIn) {
-        return;
-    }
-    m_run.beginTransfer();
-    startCountdown();
-    send();
+    m_driver->sendPresets();
 }
 
-void PresetFileSender::timerEvent(QTimerEvent* event)
+bool PresetFileSender::isLoggedIn() const
 {
-    if (event->timerId() != m_ticks.timerId()) {
-        QObject::timerEvent(event);
-        return;
-    }
-    if (m_state == State::AskingUser) {
-        return;
-    }
-    if (m_secondsLeft == 0) {
-        end(false);
-        return;
-    }
-    --m_secondsLeft;
-    qDebug().noquote() << QStringLiteral("%1 Step:%2 Timeout:%3")
-                              .arg(m_ipAddress, QString::number(int(m_run.step())),
-                                   QString::number(m_secondsLeft));
+    return m_driver->isLoggedIn();
 }
 
-void PresetFileSender::tcpConnected()
+bool PresetFileSender::isRunning() const
 {
-    writeUnsent();
+    return m_driver->isRunning();
 }
 
-void PresetFileSender::tcpReadyRead()
+const InstallOutcome& PresetFileSender::outcome() const
 {
-    m_secondsLeft = secondsOfSilence;
-    qDebug().noquote()
-        << QStringLiteral("%1 Reply Step:%2").arg(m_ipAddress, QString::number(int(m_run.step())));
-    const QByteArray bytes = m_socket->readAll();
-    if (m_state != State::AwaitingReply) {
-        return;
+    return m_driver->outcome();
+}
+
+void PresetFileSender::askFirstPassword()
+{
+    ask();
+}
+
+void PresetFileSender::askPassword(bool wasRefused)
+{
+    if (wasRefused) {
+        setErrorVisible(true);
     }
-    m_reader->feed(bytes);
-    if (const auto reply = m_reader->takeReply()) {
-        evaluate(*reply);
-    }
+    ask();
 }
 
 void PresetFileSender::runDialog()
 {
-    const QPointer<HubDialog> dialog = dialogOfStep();
+    const QPointer<HubDialog> dialog = dialogOfRun();
     const QPointer<PresetFileSender> self(this);
     const bool accepted = dialog->exec() == QDialog::Accepted;
     // The page, and with it dialog and sender, may be gone by now.
     if (!self) {
         return;
     }
-    if (!accepted || !dialog) {
+    if (accepted && dialog) {
+        m_driver->submitPassword(dialog->password());
+    } else {
         cancelLogIn();
-        return;
-    }
-    m_run.setPassword(dialog->password());
-    send();
-}
-
-void PresetFileSender::createSocket()
-{
-    if (m_socket) {
-        return;
-    }
-    m_socket = new QTcpSocket(this);
-    connect(m_socket, SIGNAL(connected()), this, SLOT(tcpConnected()));
-    connect(m_socket, SIGNAL(readyRead()), this, SLOT(tcpReadyRead()));
-}
-
-/// What the hub still has to say to an earlier run must not be heard by the next one.
-void PresetFileSender::dropEarlierRun()
-{
-    if (isRunning()) {
-        m_ticks.stop();
-        m_socket->abort();
     }
 }
 
-void PresetFileSender::connectToHub()
-{
-    if (m_socket->state() == QAbstractSocket::ClosingState) {
-        m_socket->abort();
-    }
-    if (m_socket->state() == QAbstractSocket::UnconnectedState) {
-        m_socket->connectToHost(m_ipAddress, hubHttpPort);
-    }
-}
-
-void PresetFileSender::startCountdown()
-{
-    if (!m_ticks.isActive()) {
-        m_secondsLeft = secondsOfSilence;
-        m_ticks.start(tickMs, this);
-    }
-}
-
-void PresetFileSender::send()
-{
-    const auto request = m_run.request();
-    if (!request) {
-        end(false);
-        return;
-    }
-    m_state = State::AwaitingReply;
-    // What arrived before the question is no answer to it.
-    m_reader->reset();
-    m_unsent = request->toUtf8();
-    connectToHub();
-    writeUnsent();
-}
-
-/// A socket that is still connecting must not be given anything: should the hub refuse, it would
-/// not get over it, and no later connection would come about.
-void PresetFileSender::writeUnsent()
-{
-    if (m_socket->state() == QAbstractSocket::ConnectedState) {
-        m_socket->write(std::exchange(m_unsent, QByteArray()));
-    }
-}
-
-void PresetFileSender::evaluate(const QString& reply)
-{
-    if (HttpReply::wantsClose(HttpReply::header(reply))) {
-        m_socket->disconnectFromHost();
-    }
-    carryOut(m_run.evaluate(reply));
-}
-
-void PresetFileSender::carryOut(InstallMove move)
-{
-    switch (move) {
-    case InstallMove::SendAfterPause:
-        QThread::sleep(exportPauseSeconds);
-        send();
-        break;
-    case InstallMove::SendAfterRefusal:
-        // In this order, so that a receiver finds the run in a state in which it can start anew.
-        send();
-        Q_EMIT finished(m_ipAddress, failed);
-        break;
-    case InstallMove::Send:
-        send();
-        break;
-    case InstallMove::AskPasswordAgain:
-        setErrorVisible(true);
-        ask();
-        break;
-    case InstallMove::AskInitialPassword:
-    case InstallMove::AskPassword:
-        ask();
-        break;
-    case InstallMove::EndLogIn:
-        endLogIn();
-        break;
-    case InstallMove::EndInSuccess:
-        end(true);
-        break;
-    case InstallMove::EndInFailure:
-        end(false);
-        break;
-    }
-}
-
-/// The dialog is run from the event loop and not from within readyRead(): the page may be
-/// destroyed while the dialog is open, and a socket does not survive its end inside its own signal.
-void PresetFileSender::ask()
-{
-    m_state = State::AskingUser;
-    QMetaObject::invokeMethod(this, &PresetFileSender::runDialog, Qt::QueuedConnection);
-}
-
-void PresetFileSender::endLogIn()
+void PresetFileSender::noteLogIn()
 {
     setErrorVisible(false);
-    m_ticks.stop();
-    m_state = State::LoggedIn;
-    m_loggedIn = true;
     Q_EMIT completedLogin();
+}
+
+void PresetFileSender::reportRefusedRecall()
+{
+    Q_EMIT finished(m_ipAddress, failed);
+}
+
+void PresetFileSender::reportEnd()
+{
+    Q_EMIT finished(m_ipAddress, outcome().isInstalled ? installed : failed);
+}
+
+/// The dialog is run from the event loop and not from within the driver's signal, which comes out
+/// of the socket's own: the page may be destroyed while the dialog is open, and a socket does not
+/// survive its end inside its own signal.
+void PresetFileSender::ask()
+{
+    QMetaObject::invokeMethod(this, &PresetFileSender::runDialog, Qt::QueuedConnection);
 }
 
 void PresetFileSender::cancelLogIn()
 {
     m_loginCancelled = true;
-    end(false);
+    m_driver->cancelLogIn();
     Q_EMIT cancelledLogin();
 }
 
-void PresetFileSender::end(bool success)
+HubDialog* PresetFileSender::dialogOfRun()
 {
-    m_ticks.stop();
-    m_state = State::Idle;
-    m_unsent.clear();
-    if (!success) {
-        m_socket->abort();
-    }
-    Q_EMIT finished(m_ipAddress, success ? installed : failed);
-}
-
-HubDialog* PresetFileSender::dialogOfStep()
-{
-    if (m_run.step() == InstallStep::Validate) {
+    if (m_driver->wantsFirstPassword()) {
         if (!m_initialPasswordDialog) {
             m_initialPasswordDialog = makeDialog<InitialPasswordDialog>();
         }

@@ -1,30 +1,24 @@
 #pragma once
 
-#include "installrun.h"
-
-#include <QBasicTimer>
 #include <QObject>
 #include <QPointer>
-
-#include <memory>
 
 class HubDialog;
 class IDocAccessor;
 class InitialPasswordDialog;
+class InstallDriver;
 class LoginDialog;
-class QTcpSocket;
 class QWidget;
-class ReplyReader;
+struct InstallOutcome;
 
-/// Installs the wizard's presets on one hub.
+/// Installs the wizard's presets on one hub: the face of an installation on its page.
 ///
 /// A run has two halves. start() connects, asks the user for the hub's password in a dialog and
 /// logs in; then the run waits until sendPresets(), so that no hub is changed before the user has
 /// answered for every hub. sendPresets() transfers everything. A run that fails, is cancelled or
 /// gets no answer for half a minute ends at once; the sender is then idle and start() begins anew.
 ///
-/// It owns the socket, keeps the time and runs the dialogs; what is said and what answers mean is
-/// up to InstallRun.
+/// It runs the dialogs; everything else is up to InstallDriver.
 class PresetFileSender : public QObject
 {
     Q_OBJECT
@@ -38,6 +32,8 @@ public:
                      QWidget* parent);
     ~PresetFileSender() override;
 
+    const QString& ipAddress() const { return m_ipAddress; }
+
     /// Renames the hub, also in the dialogs that exist already.
     void setHostName(const QString& hostName);
 
@@ -50,14 +46,17 @@ public:
     void sendPresets();
 
     /// True from a successful log-in to the next start().
-    bool isLoggedIn() const { return m_loggedIn; }
+    bool isLoggedIn() const;
 
     /// True from the user's "Cancel" to the next start().
     bool isLoginCancelled() const { return m_loginCancelled; }
 
     /// True from start() until the run has ended, however it ended. Nobody needs to wait for a
     /// hub that is not running.
-    bool isRunning() const { return m_state != State::Idle; }
+    bool isRunning() const;
+
+    /// How the last run went, with the reason of a failure; up to date when finished() is emitted.
+    const InstallOutcome& outcome() const;
 
 Q_SIGNALS:
     /// The outcome: 1 = everything is installed, 0 = failed or cancelled. Emitted once per run,
@@ -72,36 +71,18 @@ Q_SIGNALS:
     /// The user has cancelled; follows finished().
     void cancelledLogin();
 
-protected:
-    void timerEvent(QTimerEvent* event) override;
-
 private Q_SLOTS:
-    void tcpConnected();
-    void tcpReadyRead();
+    void askFirstPassword();
+    void askPassword(bool wasRefused);
     void runDialog();
+    void noteLogIn();
+    void reportRefusedRecall();
+    void reportEnd();
 
 private:
-    enum class State
-    {
-        Idle,
-        AwaitingReply,
-        AskingUser, ///< time does not count, and the hub has nothing to say
-        LoggedIn    ///< waiting for sendPresets()
-    };
-
-    void createSocket();
-    void dropEarlierRun();
-    void connectToHub();
-    void startCountdown();
-    void send();
-    void writeUnsent();
-    void evaluate(const QString& reply);
-    void carryOut(InstallMove move);
     void ask();
-    void endLogIn();
     void cancelLogIn();
-    void end(bool success);
-    HubDialog* dialogOfStep();
+    HubDialog* dialogOfRun();
     template <typename Dialog>
     Dialog* makeDialog();
     void setErrorVisible(bool visible);
@@ -109,15 +90,8 @@ private:
     QString m_ipAddress;
     QString m_hostName;
     QWidget* m_page;
-    InstallRun m_run;
-    State m_state = State::Idle;
-    bool m_loggedIn = false;
+    InstallDriver* m_driver;
     bool m_loginCancelled = false;
-    QTcpSocket* m_socket = nullptr;
-    QByteArray m_unsent; ///< the request that waits for the connection
-    std::unique_ptr<ReplyReader> m_reader;
-    QBasicTimer m_ticks;
-    int m_secondsLeft = 0;
     QPointer<InitialPasswordDialog> m_initialPasswordDialog; ///< made on first need
     QPointer<LoginDialog> m_loginDialog;                     ///< made on first need
 };

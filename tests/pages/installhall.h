@@ -9,8 +9,8 @@
 class QPushButton;
 class QTreeWidget;
 
-/// A hall whose hubs have the password that the user knows, and export at once: each poll for an
-/// export that is not ready yet would block the whole program for a second.
+/// A hall whose hubs have the password that the user knows, and export at once: nobody waits for
+/// the second between two polls.
 HallDescription quickHall(const QString& base, int hubs, int peripherals);
 
 /// A simulated hall with its hubs one per room, a document with two layouts and named presets for
