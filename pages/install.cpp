@@ -48,6 +48,7 @@ void Install::install()
     }
     for (const auto& [ip, label] : hubs) {
         // Set first: a run that cannot even begin reports its failure from within the start.
+        m_awaited.insert(ip);
         setStatus(ip, tr("Installing..."));
         startSender(ip, label);
     }
@@ -70,12 +71,7 @@ void Install::startSender(const QString& ip, const QString& label)
 
 bool Install::isBusy() const
 {
-    for (int row = 0; row < m_hubTable->topLevelItemCount(); ++row) {
-        if (status(row) == tr("Installing...")) {
-            return true;
-        }
-    }
-    return false;
+    return !m_awaited.isEmpty();
 }
 
 bool Install::isDone() const
@@ -125,6 +121,7 @@ void Install::initialise()
         }
     }
     m_hubTable->setRows(rows);
+    m_awaited.clear();
 }
 
 bool Install::isRunning(const QString& ip) const
@@ -139,6 +136,7 @@ void Install::presetSendFinished(const QString& ip, int status)
     if (!succeeded) {
         qDebug("Error!");
     }
+    m_awaited.remove(ip);
     setStatus(ip, succeeded ? tr("Done") : tr("Error"));
     Q_EMIT statusChanged();
     // A hub that failed before its log-in was answered must not hold the others back.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QSet>
 #include <QWidget>
 
 class DeviceTable;
@@ -25,7 +26,8 @@ public:
     /// Installs the presets on every listed hub, also on those that are done already.
     void install();
 
-    /// True while a listed hub is being installed.
+    /// True while a listed hub is being installed that install() was called for since the list was
+    /// made anew: a hub that prepares for ever must not keep the user from trying again.
     bool isBusy() const;
 
     /// True when hubs are listed and all are done.
@@ -54,4 +56,5 @@ private:
     IDocAccessor* m_doc;
     DeviceTable* m_hubTable = nullptr;
     QHash<QString, PresetFileSender*> m_senders; ///< by address; children of this widget
+    QSet<QString> m_awaited;                     ///< addresses of the hubs that this list waits for
 };

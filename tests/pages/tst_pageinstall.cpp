@@ -24,6 +24,7 @@ private Q_SLOTS:
     void backGoesBackAndResetsTheButton();
     void backStopsNoInstallation();
     void forthAgainDuringAnInstallationShowsWhatIsStillRunning();
+    void aHubThatPreparesForEverHoldsUpNobodyAndCanBeTriedAgain();
     void forthAgainAfterAllWasDoneOffersExecuteAnew();
     void aFinishOnThePageBeforeDoesNotLetTheUserPassWithoutExecute();
     void restoringListsTheHubs();
@@ -172,6 +173,28 @@ void TestPageInstall::backStopsNoInstallation()
     QCOMPARE(step.hub(1)->presets().size(), 2);
 }
 
+void TestPageInstall::aHubThatPreparesForEverHoldsUpNobodyAndCanBeTriedAgain()
+{
+    HallDescription description = quickHall(base, 3, 0);
+    description.hubs.first().exportPolls = HubDescription::mostExportPolls;
+    InstallHall step(description);
+    press(step.execute());
+    QTRY_COMPARE(step.statuses(), QStringLiteral("Installing... Done Done"));
+    QVERIFY(!step.execute()->isEnabled());
+    // It is asked again and again.
+    QTRY_VERIFY(timesAsked(*step.hub(1), Exchange::ReadExport) >= 3);
+
+    press(buttonOf(step.page, "backButton"));
+    QCOMPARE(step.controller.backs, 1);
+    step.page.enterFrom(7);
+    const qsizetype logIns = step.hub(1)->logInCount();
+    press(step.execute());
+    QVERIFY(!step.execute()->isEnabled());
+    QTRY_COMPARE(step.statuses(), QStringLiteral("Installing... Done Done"));
+    QCOMPARE(step.hub(1)->logInCount(), logIns + 1);
+    QCOMPARE(step.hub(2)->logInCount(), 2);
+}
+
 void TestPageInstall::forthAgainDuringAnInstallationShowsWhatIsStillRunning()
 {
     InstallHall step(base, 2);
@@ -183,7 +206,7 @@ void TestPageInstall::forthAgainDuringAnInstallationShowsWhatIsStillRunning()
     QCOMPARE(step.status(1), QStringLiteral("Installing..."));
     QCOMPARE(step.status(2), QString());
     QCOMPARE(step.execute()->text(), QStringLiteral("Execute"));
-    QVERIFY(!step.execute()->isEnabled());
+    QVERIFY2(step.execute()->isEnabled(), "what still runs keeps nobody from trying again");
     QTRY_COMPARE(step.status(1), QStringLiteral("Done"));
     QVERIFY(step.execute()->isEnabled());
     QCOMPARE(step.execute()->text(), QStringLiteral("Execute"));
