@@ -19,4 +19,13 @@ struct Delivery
 };
 
 /// Pieces of one answer, each in a packet of its own.
-QList<Delivery::Piece> separatePieces(const QList<QByteArray>& parts);
+inline QList<Delivery::Piece> separatePieces(const QList<QByteArray>& parts)
+{
+    // Long enough for the peer's event loop to see each piece on its own.
+    constexpr int gapMs = 1;
+    QList<Delivery::Piece> pieces;
+    for (const QByteArray& part : parts) {
+        pieces.append({part, pieces.isEmpty() ? 0 : gapMs});
+    }
+    return pieces;
+}
