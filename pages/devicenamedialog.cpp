@@ -37,7 +37,7 @@ QString DeviceNameDialog::name() const
 
 void DeviceNameDialog::nameChanged()
 {
-    m_okButton->setEnabled(!m_nameEdit->text().isEmpty());
+    m_okButton->setEnabled(m_nameEdit->hasAcceptableInput());
 }
 
 void DeviceNameDialog::createWidgets()

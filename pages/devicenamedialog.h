@@ -5,8 +5,8 @@
 class QLineEdit;
 class QPushButton;
 
-/// Asks for a new name of one device: letters, digits and hyphens, up to 64 characters.
-/// Accepted only with a name that is not empty.
+/// Asks for a new name of one device: letters, digits and hyphens, 1 to 64 characters.
+/// Accepted only with such a name, or with the present label as it was unless that is empty.
 class DeviceNameDialog : public QDialog
 {
     Q_OBJECT

@@ -2,6 +2,8 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace {
 
 QRegularExpression namePattern()
@@ -9,22 +11,26 @@ QRegularExpression namePattern()
     return QRegularExpression(QStringLiteral(R"([A-Za-z0-9\-]+)"));
 }
 
-/// Whether `whole` becomes `part` by leaving characters out.
-bool isLeftOf(const QString& part, const QString& whole)
+/// What came into `text` when one piece of `before` was replaced, as by every edit.
+QString inserted(const QString& text, const QString& before)
 {
-    qsizetype found = 0;
-    for (const QChar character : whole) {
-        if (found < part.size() && part.at(found) == character) {
-            ++found;
-        }
+    const qsizetype shorter = std::min(text.size(), before.size());
+    qsizetype head = 0;
+    while (head < shorter && text.at(head) == before.at(head)) {
+        ++head;
     }
-    return found == part.size();
+    qsizetype tail = 0;
+    while (tail < shorter - head && *(text.crbegin() + tail) == *(before.crbegin() + tail)) {
+        ++tail;
+    }
+    return text.sliced(head, text.size() - head - tail);
 }
 
 } // namespace
 
 DeviceNameValidator::DeviceNameValidator(const QString& label, QObject* parent)
     : QRegularExpressionValidator(namePattern(), parent)
+    , m_label(label)
     , m_shown(label)
 {
 }
@@ -33,11 +39,14 @@ QValidator::State DeviceNameValidator::validate(QString& text, int& position) co
 {
     const int cursor = position;
     const State state = QRegularExpressionValidator::validate(text, position);
-    if (state == Invalid && mayStay(text)) {
-        position = cursor;
-        return Intermediate;
+    if (state != Invalid) {
+        return state;
     }
-    return state;
+    position = cursor;
+    if (text == m_label) {
+        return Acceptable;
+    }
+    return mayStay(text) ? Intermediate : Invalid;
 }
 
 void DeviceNameValidator::textShown(const QString& text)
@@ -47,11 +56,6 @@ void DeviceNameValidator::textShown(const QString& text)
 
 bool DeviceNameValidator::mayStay(const QString& text) const
 {
-    return m_shown.contains(text) || isLeftOf(foreignPart(text), foreignPart(m_shown.last()));
-}
-
-/// What stands in `text` but not in names.
-QString DeviceNameValidator::foreignPart(QString text) const
-{
-    return text.remove(regularExpression());
+    return m_shown.contains(text) ||
+           inserted(text, m_shown.last()).remove(regularExpression()).isEmpty();
 }

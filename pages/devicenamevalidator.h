@@ -5,9 +5,10 @@
 
 /// Lets letters, digits and hyphens into the name of a device.
 ///
-/// A device may come with a label that holds other characters. Those may stay, and go, but no
-/// further one comes in: a line edit takes back an edit that is invalid only if what it showed
-/// before was not, so a text that is left of the label must not count as invalid.
+/// A device may come with a label that holds other characters. As it came it is acceptable. Edited
+/// it is intermediate until the last of them is gone: those may stay, and go, but no further one
+/// comes in. A line edit takes back an edit that is invalid only if what it showed before was not,
+/// so a text that is left of the label must not count as invalid.
 class DeviceNameValidator : public QRegularExpressionValidator
 {
     Q_OBJECT
@@ -24,7 +25,7 @@ public Q_SLOTS:
 
 private:
     bool mayStay(const QString& text) const;
-    QString foreignPart(QString text) const;
 
+    QString m_label;
     QStringList m_shown; ///< the label and all texts since: any of them may come back by undo
 };

@@ -3,6 +3,7 @@
 #include "deviceclass.h"
 #include "devicetable.h"
 #include "removebutton.h"
+#include "removedtextdelegate.h"
 #include "roomdevices.h"
 #include "rowdelegate.h"
 #include "setqueries.h"
@@ -36,7 +37,15 @@ bool isSupported(const DeviceCounts& counts)
 void paintRow(QTreeWidgetItem* row, bool removed)
 {
     for (const int column : textColumns) {
-        row->setForeground(column, removed ? Qt::gray : Qt::black);
+        row->setForeground(column, removed ? RemovedTextDelegate::textColor : QColor(Qt::black));
+    }
+}
+
+void drawRemovedRowsReadably(DeviceTable* table)
+{
+    auto* delegate = new RemovedTextDelegate(table);
+    for (const int column : textColumns) {
+        table->setItemDelegateForColumn(column, delegate);
     }
 }
 
@@ -100,6 +109,7 @@ DeviceTable* DeviceSet::createTable(const QString& name, const QString& accessib
     for (const auto& [column, width] : columnWidths) {
         table->setColumnWidth(column, width);
     }
+    drawRemovedRowsReadably(table);
     table->setSortingEnabled(true);
     connect(table, SIGNAL(identifyClicked(QString)), this, SLOT(identifyButtonClicked(QString)));
     return table;

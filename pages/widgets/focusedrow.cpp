@@ -1,17 +1,9 @@
 #include "focusedrow.h"
 
+#include "focusmark.h"
+
 #include <QFocusEvent>
 #include <QTreeWidget>
-
-namespace {
-
-bool isByKey(Qt::FocusReason reason)
-{
-    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-           reason == Qt::ShortcutFocusReason;
-}
-
-} // namespace
 
 FocusedRow::FocusedRow(QTreeWidget* list)
     : QObject(list)

@@ -3,18 +3,20 @@
 #include <QPainter>
 #include <QWidget>
 
+bool isByKey(Qt::FocusReason reason)
+{
+    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+           reason == Qt::ShortcutFocusReason;
+}
+
 void FocusMark::focusIn(const QFocusEvent* event)
 {
-    switch (event->reason()) {
-    case Qt::MouseFocusReason:
-        // The press that follows says so itself.
-    case Qt::ActiveWindowFocusReason:
-    case Qt::PopupFocusReason:
-        // The focus merely returns: the user goes on as before.
-        break;
-    default:
-        m_wanted = true;
+    const Qt::FocusReason reason = event->reason();
+    if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) {
+        return; // The focus merely returns: the user goes on as before.
     }
+    // A page that is turned gives the focus too, but its user may have the pointer in view.
+    m_wanted = isByKey(reason);
 }
 
 bool FocusMark::isShown(const QWidget* widget) const

@@ -7,12 +7,16 @@ class QPainter;
 class QRect;
 class QWidget;
 
+/// Whether the keyboard brought a focus that comes for this reason.
+bool isByKey(Qt::FocusReason reason);
+
 /// Decides whether a self-painted control shows where the keyboard is: after Tab and after keys,
-/// but not after the mouse, whose user sees the pointer.
+/// but not after the mouse, whose user sees the pointer, nor where the program put the focus.
 class FocusMark
 {
 public:
     void focusIn(const QFocusEvent* event);
+    /// The owner repaints afterwards, also when the key changes nothing else.
     void keyUsed() { m_wanted = true; }
     void mouseUsed() { m_wanted = false; }
 

@@ -110,6 +110,7 @@ void RoomEditor::keyPressEvent(QKeyEvent* event)
         return;
     }
     m_focusMark.keyUsed();
+    updateCell(m_cursor);
     if (!step.isNull()) {
         moveCursor(step, event->modifiers() & Qt::ShiftModifier);
     } else if (!event->isAutoRepeat()) {

@@ -141,6 +141,7 @@ void Tessel::keyPressEvent(QKeyEvent* event)
         return;
     }
     m_focusMark.keyUsed();
+    update();
     if (step.isNull()) {
         openMenu(m_currentRoom);
     } else {

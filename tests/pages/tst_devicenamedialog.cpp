@@ -18,6 +18,11 @@ private Q_SLOTS:
     void opensWithOkDisabledForAnEmptyLabel();
     void onlyLettersDigitsAndHyphensCanBeTyped();
     void aLabelThatIsNoNameStaysUntilEdited();
+    void okIsOfferedForNamesAndTheUnchangedLabelOnly_data();
+    void okIsOfferedForNamesAndTheUnchangedLabelOnly();
+    void theLabelBroughtBackIsUnchanged();
+    void aLabelTooLongForANameIsNotUnchanged();
+    void returnAcceptsNothingThatOkIsNotOfferedFor();
     void aLabelThatIsNoNameLetsNothingElseIn_data();
     void aLabelThatIsNoNameLetsNothingElseIn();
     void whatOneCannotTypeOneCannotPaste();
@@ -43,7 +48,30 @@ struct Opened
     DeviceNameDialog dialog;
     QLineEdit* edit = dialog.findChild<QLineEdit*>(QStringLiteral("nameEdit"));
     QPushButton* ok = dialog.findChild<QPushButton*>(QStringLiteral("okButton"));
+    void type(const QString& text) const
+    {
+        for (const QChar character : text) {
+            QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString(character));
+            QCoreApplication::sendEvent(edit, &event);
+        }
+    }
+
+    void press(const QList<Qt::Key>& keys) const
+    {
+        for (const Qt::Key key : keys) {
+            QTest::keyClick(edit, key);
+        }
+    }
+
     QPushButton* cancel = dialog.findChild<QPushButton*>(QStringLiteral("cancelButton"));
+};
+
+/// Where typing begins in a dialog that has just opened.
+enum Start
+{
+    Selected, ///< over the label
+    Emptied,  ///< after the label was deleted
+    AtTheEnd  ///< behind the label
 };
 
 } // namespace
@@ -101,35 +129,113 @@ void TestDeviceNameDialog::aLabelThatIsNoNameStaysUntilEdited()
     QCOMPARE(opened.dialog.name(), QStringLiteral("Hall East_1"));
 }
 
+void TestDeviceNameDialog::okIsOfferedForNamesAndTheUnchangedLabelOnly_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QList<Qt::Key>>("keys");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("offered");
+    using Keys = QList<Qt::Key>;
+    const QString label = QStringLiteral("Room A");
+    QTest::newRow("unchanged") << label << Keys() << label << true;
+    QTest::newRow("unchanged without a letter")
+        << QStringLiteral(" ") << Keys() << QStringLiteral(" ") << true;
+    QTest::newRow("a character gone before the blank")
+        << label << Keys({Qt::Key_Home, Qt::Key_Delete}) << QStringLiteral("oom A") << false;
+    QTest::newRow("a character gone behind the blank")
+        << label << Keys({Qt::Key_End, Qt::Key_Backspace}) << QStringLiteral("Room ") << false;
+    QTest::newRow("the blank gone as well")
+        << label << Keys({Qt::Key_End, Qt::Key_Backspace, Qt::Key_Backspace})
+        << QStringLiteral("Room") << true;
+    QTest::newRow("nothing but the blank left")
+        << QStringLiteral("A B")
+        << Keys({Qt::Key_End, Qt::Key_Backspace, Qt::Key_Home, Qt::Key_Delete})
+        << QStringLiteral(" ") << false;
+    QTest::newRow("a character more")
+        << label << Keys({Qt::Key_End, Qt::Key_7}) << QStringLiteral("Room A7") << false;
+    QTest::newRow("and gone again")
+        << label << Keys({Qt::Key_End, Qt::Key_7, Qt::Key_Backspace}) << label << true;
+    QTest::newRow("nothing left") << label << Keys({Qt::Key_Delete}) << QString() << false;
+    QTest::newRow("overtyped with a name")
+        << label << Keys({Qt::Key_B}) << QStringLiteral("b") << true;
+}
+
+void TestDeviceNameDialog::okIsOfferedForNamesAndTheUnchangedLabelOnly()
+{
+    QFETCH(const QString, label);
+    QFETCH(const QList<Qt::Key>, keys);
+    QFETCH(const bool, offered);
+    const Opened opened(label);
+    opened.press(keys);
+    QTEST(opened.dialog.name(), "name");
+    QCOMPARE(opened.ok->isEnabled(), offered);
+}
+
+void TestDeviceNameDialog::theLabelBroughtBackIsUnchanged()
+{
+    const Opened opened(QStringLiteral("Room A"));
+    opened.press({Qt::Key_End, Qt::Key_Backspace});
+    QVERIFY(!opened.ok->isEnabled());
+    opened.edit->undo();
+    QCOMPARE(opened.dialog.name(), QStringLiteral("Room A"));
+    QVERIFY(opened.ok->isEnabled());
+}
+
+void TestDeviceNameDialog::aLabelTooLongForANameIsNotUnchanged()
+{
+    const Opened withBlanks(QStringLiteral("n ").repeated(33));
+    QCOMPARE(withBlanks.dialog.name().size(), 64);
+    QVERIFY(!withBlanks.ok->isEnabled());
+    // What is left of this one is a name.
+    const Opened without(QString(70, u'n'));
+    QCOMPARE(without.dialog.name(), QString(64, u'n'));
+    QVERIFY(without.ok->isEnabled());
+}
+
+void TestDeviceNameDialog::returnAcceptsNothingThatOkIsNotOfferedFor()
+{
+    Opened opened(QStringLiteral("Room A"));
+    QSignalSpy finished(&opened.dialog, SIGNAL(finished(int)));
+    opened.press({Qt::Key_End, Qt::Key_Backspace, Qt::Key_Return, Qt::Key_Enter});
+    QCOMPARE(finished.size(), 0);
+    QVERIFY(opened.dialog.isVisible());
+    opened.press({Qt::Key_Backspace, Qt::Key_Return});
+    QCOMPARE(finished.size(), 1);
+    QCOMPARE(opened.dialog.name(), QStringLiteral("Room"));
+}
+
 void TestDeviceNameDialog::aLabelThatIsNoNameLetsNothingElseIn_data()
 {
     QTest::addColumn<QString>("label");
-    QTest::addColumn<bool>("replacing");
+    QTest::addColumn<Start>("start");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("name");
     const QString label = QStringLiteral("East_1");
-    QTest::newRow("at its end") << label << false << QStringLiteral("a ./_2")
+    QTest::newRow("at its end") << label << AtTheEnd << QStringLiteral("a ./_2")
                                 << QStringLiteral("East_1a2");
-    QTest::newRow("in its place") << label << true << QStringLiteral("a_b c")
+    QTest::newRow("in its place") << label << Emptied << QStringLiteral("a_b c")
                                   << QStringLiteral("abc");
     QTest::newRow("in its place at once")
-        << label << true << QStringLiteral("_ x") << QStringLiteral("x");
+        << label << Emptied << QStringLiteral("_ x") << QStringLiteral("x");
+    QTest::newRow("over all of it")
+        << QStringLiteral("Room A") << Selected << QStringLiteral(" ") << QStringLiteral("Room A");
+    QTest::newRow("over all of it, after a name")
+        << QStringLiteral("Room A") << Selected << QStringLiteral("b ") << QStringLiteral("b");
     QTest::newRow("umlaut and quote")
-        << QStringLiteral("B\u00FChne") << false << QStringLiteral("\u00FC\"9")
+        << QStringLiteral("B\u00FChne") << AtTheEnd << QStringLiteral("\u00FC\"9")
         << QStringLiteral("B\u00FChne9");
 }
 
 void TestDeviceNameDialog::aLabelThatIsNoNameLetsNothingElseIn()
 {
     QFETCH(const QString, label);
-    QFETCH(const bool, replacing);
+    QFETCH(const Start, start);
     QFETCH(const QString, typed);
     const Opened opened(label);
-    QTest::keyClick(opened.edit, replacing ? Qt::Key_Delete : Qt::Key_End);
-    for (const QChar character : typed) {
-        QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString(character));
-        QCoreApplication::sendEvent(opened.edit, &event);
+    if (start != Selected) {
+        QTest::keyClick(opened.edit, start == Emptied ? Qt::Key_Delete : Qt::Key_End);
     }
+    opened.type(typed);
     QTEST(opened.dialog.name(), "name");
 }
 

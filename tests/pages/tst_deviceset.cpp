@@ -1,3 +1,4 @@
+#include "cellcolors.h"
 #include "configurestep.h"
 #include "datakey.h"
 #include "datakind.h"
@@ -13,6 +14,8 @@
 #include <QTest>
 #include <QTreeWidget>
 
+#include <array>
+
 class TestDeviceSet : public TestCase
 {
     Q_OBJECT
@@ -24,6 +27,10 @@ private Q_SLOTS:
     void limits();
     void aDeviceHasItsOwnRemovedFlagInEverySetThatContainsItsRoom();
     void revertingARemovedDeviceRestoresBlackTextsAndTheRemoveLabel();
+    void aRemovedDeviceIsGrayAndReadableWhetherSelectedOrNot_data();
+    void aRemovedDeviceIsGrayAndReadableWhetherSelectedOrNot();
+    void aDeviceTakenBackLooksAsOneNeverRemoved_data();
+    void aDeviceTakenBackLooksAsOneNeverRemoved();
     void theStoredOrderIsThatOfFillingWhateverTheTableShows();
     void storingReturnsSpeakersToTheLeft();
     void aDeviceHandedOverTwiceIsListedOnce();
@@ -46,6 +53,62 @@ QStringList storedAddresses(IDocAccessor& doc)
         addresses.append(record.value(DataKey::deviceIPAddress()).toString());
     }
     return addresses;
+}
+
+constexpr double readable = 3.0;
+constexpr std::array textColumns{0, 2, 3, 4};
+
+/// Two devices of room 1, listed one above the other, with texts whose colour can be measured.
+struct TwoDevices : ConfigureStep
+{
+    explicit TwoDevices(bool firstIsRemoved = false)
+        : ConfigureStep(::network)
+    {
+        drawTextsInOneColor(page);
+        place("PX-DL", 2, 1);
+        addColouredLayout(doc, 1, QStringLiteral("1"), Qt::cyan);
+        if (firstIsRemoved) {
+            addToDeviceSet(doc, 1, 1, address(1), true);
+        }
+        enter();
+    }
+
+    void pressButton(int device, bool byKey)
+    {
+        if (byKey) {
+            button(device)->setFocus(Qt::TabFocusReason);
+            QTest::keyClick(button(device), Qt::Key_Space);
+        } else {
+            press(button(device));
+        }
+    }
+
+    CellColors colors(int device, int column)
+    {
+        return cellColors(*peripherals(), row(device), column);
+    }
+};
+
+/// Compares one device's texts with what an ordinary row shows, which is the other one.
+void verifyGray(TwoDevices& step, int device, bool selected)
+{
+    QCOMPARE(step.row(device)->isSelected(), selected);
+    for (const int column : textColumns) {
+        const auto [ground, text] = step.colors(device, column);
+        QCOMPARE(ground == QColor(Qt::white), !selected);
+        QCOMPARE(text.hsvSaturation(), 0);
+        QVERIFY(text != QColor(Qt::black) && text != QColor(Qt::white));
+        QVERIFY2(contrastOf(text, ground) >= readable,
+                 qPrintable(QStringLiteral("column %1: %2 on %3")
+                                .arg(QString::number(column), text.name(), ground.name())));
+    }
+}
+
+void addWaysToPress()
+{
+    QTest::addColumn<bool>("byKey");
+    QTest::newRow("by mouse") << false;
+    QTest::newRow("by key") << true;
 }
 
 } // namespace
@@ -157,12 +220,65 @@ void TestDeviceSet::revertingARemovedDeviceRestoresBlackTextsAndTheRemoveLabel()
     addColouredLayout(step.doc, 1, QStringLiteral("1"), Qt::cyan);
     step.enter();
     press(step.button(1));
-    QVERIFY(allTextsAre(step.row(1), Qt::gray));
+    QVERIFY(allTextsAre(step.row(1), Qt::darkGray));
     QCOMPARE(step.button(1)->accessibleName(), QStringLiteral("Revert dev-001"));
     press(step.button(1));
     QVERIFY(allTextsAre(step.row(1), Qt::black));
     QVERIFY(!step.button(1)->isRemoved());
     QCOMPARE(step.button(1)->accessibleName(), QStringLiteral("Remove dev-001"));
+}
+
+void TestDeviceSet::aRemovedDeviceIsGrayAndReadableWhetherSelectedOrNot_data()
+{
+    addWaysToPress();
+}
+
+void TestDeviceSet::aRemovedDeviceIsGrayAndReadableWhetherSelectedOrNot()
+{
+    QFETCH(const bool, byKey);
+    TwoDevices step;
+    QVERIFY(QTest::qWaitForWindowActive(&step.page));
+    step.pressButton(1, byKey);
+    verifyGray(step, 1, true);
+    step.pressButton(2, byKey);
+    verifyGray(step, 1, false);
+    verifyGray(step, 2, true);
+    // By key: a row under the pointer shines.
+    QTest::keyClick(step.peripherals(), Qt::Key_Up);
+    verifyGray(step, 1, true);
+    verifyGray(step, 2, false);
+}
+
+void TestDeviceSet::aDeviceTakenBackLooksAsOneNeverRemoved_data()
+{
+    QTest::addColumn<bool>("wasStored");
+    QTest::addColumn<bool>("byReset");
+    QTest::newRow("removed here and reverted") << false << false;
+    QTest::newRow("removed earlier and reverted") << true << false;
+    QTest::newRow("removed here, then Reset") << false << true;
+    QTest::newRow("removed earlier, then Reset") << true << true;
+}
+
+void TestDeviceSet::aDeviceTakenBackLooksAsOneNeverRemoved()
+{
+    QFETCH(const bool, wasStored);
+    QFETCH(const bool, byReset);
+    TwoDevices step(wasStored);
+    if (wasStored) {
+        verifyGray(step, 1, false);
+    } else {
+        press(step.button(1));
+    }
+    press(byReset ? static_cast<QWidget*>(buttonOf(step.page, "resetButton")) : step.button(1));
+    for (const int selected : {1, 2}) {
+        QTest::keyClick(step.peripherals(), selected == 1 ? Qt::Key_Home : Qt::Key_End);
+        for (const int column : textColumns) {
+            const auto [ground, text] = step.colors(3 - selected, column);
+            QCOMPARE(ground, QColor(Qt::white));
+            QCOMPARE(text, QColor(Qt::black));
+            QCOMPARE(step.colors(selected, column).text, QColor(Qt::white));
+        }
+    }
 }
 
 void TestDeviceSet::theStoredOrderIsThatOfFillingWhateverTheTableShows()
@@ -228,7 +344,7 @@ void TestDeviceSet::removingWorksWithTheKeyboard()
     step.enter();
     QTest::keyClick(step.button(1), Qt::Key_Space);
     QVERIFY(step.button(1)->isRemoved());
-    QVERIFY(allTextsAre(step.row(1), Qt::gray));
+    QVERIFY(allTextsAre(step.row(1), Qt::darkGray));
 }
 
 TESSEL_TEST_MAIN(TestDeviceSet)

@@ -233,7 +233,7 @@ void TestPageConfigure::enteringFromStep4TakesEarlierRemovalsFromTheDocument()
     press(step.button(2));
     step.page.enterFrom(4);
     QVERIFY(step.button(1)->isRemoved());
-    QVERIFY(allTextsAre(step.row(1), Qt::gray));
+    QVERIFY(allTextsAre(step.row(1), Qt::darkGray));
     QVERIFY(!step.button(2)->isRemoved());
     QCOMPARE(step.counts(), QStringLiteral("0 1 0 0"));
     QCOMPARE(step.list->topLevelItemCount(), 1);

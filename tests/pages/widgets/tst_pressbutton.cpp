@@ -24,6 +24,10 @@ private Q_SLOTS:
     void aDisabledButtonDoesNothing();
     void tabReachesItAndShowsTheRing();
     void theMouseShowsNoRing();
+    void theRingShowsForAFocusBroughtByKeyOnly_data();
+    void theRingShowsForAFocusBroughtByKeyOnly();
+    void aWindowThatComesBackShowsTheRingThatItShowed_data();
+    void aWindowThatComesBackShowsTheRingThatItShowed();
     void assistiveTechnologySeesAButton_data();
     void assistiveTechnologySeesAButton();
     void assistiveTechnologyPresses();
@@ -202,6 +206,58 @@ void TestPressButton::theMouseShowsNoRing()
     QCOMPARE(picture(button).pixelColor(0, 0), face);
     QTest::keyClick(&button, Qt::Key_Space);
     QCOMPARE(picture(button).pixelColor(0, 0), QColor(Qt::black));
+}
+
+void TestPressButton::theRingShowsForAFocusBroughtByKeyOnly_data()
+{
+    QTest::addColumn<Qt::FocusReason>("reason");
+    QTest::addColumn<bool>("shown");
+    QTest::newRow("Tab") << Qt::TabFocusReason << true;
+    QTest::newRow("Tab backwards") << Qt::BacktabFocusReason << true;
+    QTest::newRow("a shortcut") << Qt::ShortcutFocusReason << true;
+    QTest::newRow("the mouse") << Qt::MouseFocusReason << false;
+    QTest::newRow("the program") << Qt::OtherFocusReason << false;
+    QTest::newRow("a new window") << Qt::ActiveWindowFocusReason << false;
+}
+
+void TestPressButton::theRingShowsForAFocusBroughtByKeyOnly()
+{
+    QFETCH(const Qt::FocusReason, reason);
+    QFETCH(const bool, shown);
+    TesselButton button;
+    show(button);
+    button.clearFocus();
+    button.setFocus(reason);
+    QVERIFY(button.hasFocus());
+    QCOMPARE(hasColorOtherThan(picture(button), face), shown);
+    // What brought the focus once says nothing of the next time.
+    button.clearFocus();
+    button.setFocus(Qt::OtherFocusReason);
+    QVERIFY(!hasColorOtherThan(picture(button), face));
+}
+
+void TestPressButton::aWindowThatComesBackShowsTheRingThatItShowed_data()
+{
+    QTest::addColumn<Qt::FocusReason>("reason");
+    QTest::addColumn<bool>("shown");
+    QTest::newRow("after Tab") << Qt::TabFocusReason << true;
+    QTest::newRow("after the mouse") << Qt::MouseFocusReason << false;
+}
+
+void TestPressButton::aWindowThatComesBackShowsTheRingThatItShowed()
+{
+    QFETCH(const Qt::FocusReason, reason);
+    QFETCH(const bool, shown);
+    TesselButton button;
+    show(button);
+    button.clearFocus();
+    button.setFocus(reason);
+    QWidget other;
+    show(other);
+    QVERIFY(!hasColorOtherThan(picture(button), face));
+    show(button);
+    QVERIFY(button.hasFocus());
+    QCOMPARE(hasColorOtherThan(picture(button), face), shown);
 }
 
 void TestPressButton::assistiveTechnologySeesAButton_data()

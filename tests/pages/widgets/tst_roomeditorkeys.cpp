@@ -1,3 +1,4 @@
+#include "paintwatch.h"
 #include "roomcolor.h"
 #include "roomeditorfixture.h"
 #include "testcase.h"
@@ -17,6 +18,8 @@ private Q_SLOTS:
     void aNewShiftStrokeBeginsInTheRoomUnderTheCursor();
     void theCursorStopsAtTheEdge();
     void theCursorShowsForTheKeyboardOnly();
+    void aFocusThatNoKeyBroughtShowsNoCursor();
+    void anArrowAgainstTheEdgeShowsTheCursorAtOnce();
     void otherKeysGoOn();
     void tellsAssistiveTechnologyWhereTheCursorIs();
     void tellsAssistiveTechnologyWhatTheMouseDid();
@@ -140,6 +143,33 @@ void TestRoomEditorKeys::theCursorShowsForTheKeyboardOnly()
     // The keyboard goes on where the mouse was.
     editor.key(Qt::Key_Right);
     QCOMPARE(editor.pixel(inRing + QPoint(300, 250)), QColor(Qt::white));
+}
+
+void TestRoomEditorKeys::aFocusThatNoKeyBroughtShowsNoCursor()
+{
+    Editor editor;
+    editor.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&editor));
+    editor.clearFocus();
+    const QImage before = editor.grab().toImage();
+    editor.setFocus(Qt::OtherFocusReason);
+    QVERIFY(editor.hasFocus());
+    QCOMPARE(editor.grab().toImage(), before);
+}
+
+void TestRoomEditorKeys::anArrowAgainstTheEdgeShowsTheCursorAtOnce()
+{
+    Editor editor;
+    editor.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&editor));
+    editor.setFocus(Qt::OtherFocusReason);
+    // What was asked for so far is painted now.
+    QCoreApplication::processEvents();
+    const PaintWatch watch(editor);
+    editor.key(Qt::Key_Up);
+    const QRect cell = grid.cellRect({0, 0});
+    QTRY_VERIFY(watch.painted.contains(cell));
+    QCOMPARE(editor.pixel(cell.topLeft() + QPoint(1, 1)), QColor(Qt::white));
 }
 
 void TestRoomEditorKeys::otherKeysGoOn()

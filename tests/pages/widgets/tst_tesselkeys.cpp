@@ -1,3 +1,4 @@
+#include "paintwatch.h"
 #include "tesselfixture.h"
 #include "testcase.h"
 
@@ -15,28 +16,13 @@ private Q_SLOTS:
     void theMenuKeyOpensTheMenuOfTheCurrentRoom();
     void theCurrentRoomIsOutlinedForTheKeyboardOnly();
     void aClickBetweenTheRoomsTakesTheOutlineAway();
+    void aFocusThatNoKeyBroughtShowsNoOutline();
+    void aKeyThatMovesNothingShowsTheOutlineAtOnce_data();
+    void aKeyThatMovesNothingShowsTheOutlineAtOnce();
     void tabGoesThroughTheBoxesInReadingOrder();
     void otherKeysGoOn();
     void assistiveTechnologyHearsNames();
 };
-
-namespace {
-
-/// Notes whether a widget is painted.
-struct PaintWatch : QObject
-{
-    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
-
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
-    {
-        painted = painted || event->type() == QEvent::Paint;
-        return false;
-    }
-
-    bool painted = false;
-};
-
-} // namespace
 
 void TestTesselKeys::arrowsMoveFromRoomToRoom()
 {
@@ -123,7 +109,42 @@ void TestTesselKeys::aClickBetweenTheRoomsTakesTheOutlineAway()
     QCoreApplication::processEvents();
     PaintWatch watch(picker);
     QTest::mouseClick(&picker, Qt::LeftButton, {}, grid.cellRect({7, 7}).center());
-    QTRY_VERIFY(watch.painted);
+    QTRY_VERIFY(!watch.painted.isEmpty());
+}
+
+void TestTesselKeys::aFocusThatNoKeyBroughtShowsNoOutline()
+{
+    Picker picker(inARow(2));
+    picker.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&picker));
+    picker.clearFocus();
+    const QImage before = picker.grab().toImage();
+    picker.setFocus(Qt::OtherFocusReason);
+    QVERIFY(picker.hasFocus());
+    QCOMPARE(picker.grab().toImage(), before);
+}
+
+void TestTesselKeys::aKeyThatMovesNothingShowsTheOutlineAtOnce_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("an arrow where no room is") << Qt::Key_Left;
+    QTest::newRow("Space") << Qt::Key_Space;
+}
+
+void TestTesselKeys::aKeyThatMovesNothingShowsTheOutlineAtOnce()
+{
+    QFETCH(const Qt::Key, key);
+    Picker picker(inARow(2));
+    picker.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&picker));
+    picker.setFocus(Qt::OtherFocusReason);
+    QCoreApplication::processEvents();
+    const PaintWatch watch(picker);
+    QTest::keyClick(&picker, key);
+    QTRY_VERIFY(watch.painted.contains(grid.cellRect({0, 3})));
+    const QPoint edge = grid.cellRect({0, 3}).topLeft() + QPoint(1, 1);
+    QCOMPARE(picker.grab().toImage().pixelColor(edge), QColor(Qt::white));
+    picker.closeMenus();
 }
 
 void TestTesselKeys::tabGoesThroughTheBoxesInReadingOrder()

@@ -1,0 +1,51 @@
+#include "contrast.h"
+
+#include <QColor>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// Added to both luminances of a ratio: light that every screen reflects.
+constexpr double ambient = 0.05;
+/// What a gray that is mixed here aims at: rounding must not take it below what can be read.
+constexpr double aim = 1.1 * readableContrast;
+
+double linear(double channel)
+{
+    return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& color)
+{
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+QColor grayOf(double luminance)
+{
+    const double light = std::clamp(luminance, 0.0, 1.0);
+    const double channel =
+        light <= 0.0031308 ? light * 12.92 : 1.055 * std::pow(light, 1 / 2.4) - 0.055;
+    const int value = int(std::lround(255 * channel));
+    return {value, value, value};
+}
+
+} // namespace
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    return (lighter + ambient) / (darker + ambient);
+}
+
+QColor readableGray(const QColor& wanted, const QColor& ground)
+{
+    if (contrast(wanted, ground) >= readableContrast) {
+        return wanted;
+    }
+    const double light = luminance(ground) + ambient;
+    const bool darker = contrast(ground, Qt::black) > contrast(ground, Qt::white);
+    return grayOf((darker ? light / aim : light * aim) - ambient);
+}
