@@ -115,6 +115,10 @@ void MainWindow::setInstallDone(bool done)
 
 void MainWindow::notifyDetectDevice(const QString& ipAddress)
 {
+    // One that was handed over stays as it is: it may have a password, which discovery never has.
+    if (deviceByAddress(*m_doc, ipAddress)) {
+        return;
+    }
     const DetectedDevice found = m_detector->deviceInfo(ipAddress);
     addDevice(*m_doc, {found.deviceName, found.modelName, found.version, found.ipAddress,
                        found.macAddress, found.searchType, found.password});

@@ -30,7 +30,8 @@ public:
     void setInstallDone(bool done) override;
 
 public Q_SLOTS:
-    /// Enters the device that was found at this address into the document, which may refuse it.
+    /// Enters the device that was found at this address into the document, which may refuse it,
+    /// unless one of this address is there already.
     void notifyDetectDevice(const QString& ipAddress);
 
 protected:

@@ -14,23 +14,45 @@ SavedDevice saved(const DeviceData& device)
             device.modelName, device.roomNumber, device.labelModified};
 }
 
-/// Devices get back what the installer gave them; returns those that are not there and would be
-/// missed. One that was in no room is forgotten.
+/// A device gets back what the installer gave it.
+void restore(DeviceData& device, const SavedDevice& was)
+{
+    device.roomNumber = was.roomNumber;
+    if (was.labelModified) {
+        device.label = was.label;
+        device.labelModified = true;
+    }
+}
+
+/// A device that was saved twice gets from its second record what the first one left open: rooms
+/// and labels were only ever given to the first device of an address.
+void complete(DeviceData& device, const SavedDevice& again)
+{
+    SavedDevice was = again;
+    if (device.roomNumber != 0) {
+        was.roomNumber = device.roomNumber;
+    }
+    was.labelModified = again.labelModified && !device.labelModified;
+    restore(device, was);
+}
+
+/// Restores what is there; returns the devices that are not and would be missed. One that was in
+/// no room is forgotten.
 QList<SavedDevice> restoreDevices(DocumentData& doc, const QList<SavedDevice>& devices)
 {
     QList<SavedDevice> missing;
+    QSet<const DeviceData*> restored;
     for (const SavedDevice& was : devices) {
         DeviceData* device = doc.devices.find(was.ipAddress, was.macAddress, was.modelName);
         if (device == nullptr) {
             if (was.roomNumber != 0) {
                 missing.append(was);
             }
-            continue;
-        }
-        device->roomNumber = was.roomNumber;
-        if (was.labelModified) {
-            device->label = was.label;
-            device->labelModified = true;
+        } else if (restored.contains(device)) {
+            complete(*device, was);
+        } else {
+            restored.insert(device);
+            restore(*device, was);
         }
     }
     return missing;
