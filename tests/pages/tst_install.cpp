@@ -1,3 +1,5 @@
+#include "datakey.h"
+#include "datakind.h"
 #include "devicequeries.h"
 #include "install.h"
 #include "installhall.h"
@@ -308,7 +310,12 @@ void TestInstall::hubsSortedByStatusAreAllInstalled()
 void TestInstall::aHubListedInTwoRowsIsInstalledOnceAndShowsItsStatusInBoth()
 {
     InstallHall step(base, 2);
-    addTestDevice(step.doc, QStringLiteral("A-again"), QStringLiteral("PX-HB"), step.address(2), 2);
+    QVERIFY(
+        step.doc.addData(DataKind::Device, {{DataKey::deviceIPAddress(), step.address(2)},
+                                            {DataKey::deviceModelName(), QStringLiteral("PX-HB")},
+                                            {DataKey::deviceLabel(), QStringLiteral("A-again")},
+                                            {DataKey::deviceVersion(), QStringLiteral("2.1")},
+                                            {DataKey::roomNumber(), 2}}));
     step.page.enterFrom(7);
     step.list()->sortByColumn(3, Qt::AscendingOrder);
     press(step.execute());
