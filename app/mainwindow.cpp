@@ -30,6 +30,7 @@ constexpr QSize maximumWindowSize(1200, 1200);
 constexpr qreal titlePointSize = 14.0;
 // Time for discovery to find the devices that the saved configuration names.
 constexpr int resumeDelayMs = 5000;
+constexpr int installIndex = pageTotal - 2;
 
 QString resumeFolder()
 {
@@ -40,11 +41,6 @@ QString resumeFolder()
 QString resumePath()
 {
     return resumeFolder() + QStringLiteral("/resume.dat");
-}
-
-bool isWorkInProgress(int pageIndex)
-{
-    return pageIndex >= 1 && pageIndex <= pageTotal - 2;
 }
 
 } // namespace
@@ -110,11 +106,15 @@ void MainWindow::quit()
 
 void MainWindow::setInstallDone(bool done)
 {
-    m_installDone = done;
+    m_installedWork = done ? std::optional(enteredWork(*m_doc)) : std::nullopt;
 }
 
 void MainWindow::notifyDetectDevice(const QString& ipAddress)
 {
+    // One that was handed over stays as it is: it may have a password, which discovery never has.
+    if (deviceByAddress(*m_doc, ipAddress)) {
+        return;
+    }
     const DetectedDevice found = m_detector->deviceInfo(ipAddress);
     addDevice(*m_doc, {found.deviceName, found.modelName, found.version, found.ipAddress,
                        found.macAddress, found.searchType, found.password});
@@ -143,7 +143,7 @@ void MainWindow::timerEvent(QTimerEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!isWorkInProgress(m_currentIndex) || m_installDone) {
+    if (!isAnythingToSave()) {
         event->accept();
         return;
     }
@@ -160,6 +160,16 @@ void MainWindow::closeEvent(QCloseEvent* event)
         saveResumeFile();
     }
     event->accept();
+}
+
+/// On the installation step nothing while the hubs hold what the document holds. The pages before
+/// it may show what has not come as far as the document.
+bool MainWindow::isAnythingToSave() const
+{
+    if (m_currentIndex == installIndex) {
+        return m_installedWork != enteredWork(*m_doc);
+    }
+    return m_currentIndex > 0 && m_currentIndex < installIndex;
 }
 
 BasePage* MainWindow::appendPage(int index)

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "enteredwork.h"
 #include "ipagecontroller.h"
 
 #include <QWidget>
+
+#include <optional>
 
 class BasePage;
 class DeviceDetector;
@@ -30,7 +33,8 @@ public:
     void setInstallDone(bool done) override;
 
 public Q_SLOTS:
-    /// Enters the device that was found at this address into the document, which may refuse it.
+    /// Enters the device that was found at this address into the document, which may refuse it,
+    /// unless one of this address is there already.
     void notifyDetectDevice(const QString& ipAddress);
 
 protected:
@@ -44,6 +48,7 @@ private:
     BasePage* pageAt(int index) const;
     void enterCurrentPage(const BasePage* previous);
     void showCurrentPage();
+    bool isAnythingToSave() const;
 
     void chooseInterface();
     void startDiscovery();
@@ -61,5 +66,5 @@ private:
     DeviceDetector* m_detector = nullptr;
     int m_resumeTimerId = 0;
     ResumeDialog* m_resumeDialog = nullptr;
-    bool m_installDone = false;
+    std::optional<EnteredWork> m_installedWork; ///< what the hubs hold; nothing while unknown
 };

@@ -3,7 +3,8 @@
 // - An accepted device has at least five fields, is one that the wizard can configure, has a MAC
 //   address other than zeros and no quotes in model, label and version; and it is in no room.
 // - A device written as an argument again reads the same, and so does an interface index.
-// - All arguments together give the accepted devices in order and the last index.
+// - All arguments together give the last index and the accepted devices in order, of each address
+//   the first.
 #include "acceptancerule.h"
 #include "commandline.h"
 #include "fuzztarget.h"
@@ -46,11 +47,15 @@ void examine(const QByteArray& input)
 {
     const QStringList arguments = QString::fromUtf8(input).split(u'\n');
     int lastIndex = 0;
+    QStringList addresses;
     QList<QStringList> devices;
     for (const QString& argument : arguments) {
         if (const auto device = deviceFromArgument(argument)) {
             examineDevice(argument, *device);
-            devices.append(fieldsOf(*device));
+            if (!addresses.contains(device->ipAddress)) {
+                addresses.append(device->ipAddress);
+                devices.append(fieldsOf(*device));
+            }
         }
         if (const auto index = nicIndexFromArgument(argument)) {
             examineIndex(*index);
@@ -59,7 +64,7 @@ void examine(const QByteArray& input)
     }
     const CommandLine all = readCommandLine(arguments);
     require(all.nicIndex == lastIndex, "the last index counts");
-    require(all.devices.size() == devices.size(), "all accepted devices are there");
+    require(all.devices.size() == devices.size(), "of each address there is one device");
     for (qsizetype i = 0; i < devices.size(); ++i) {
         require(fieldsOf(all.devices.at(i)) == devices.at(i), "devices stand in order");
     }

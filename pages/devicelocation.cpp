@@ -156,8 +156,8 @@ const DeviceLocation::Row* DeviceLocation::rowOfSender() const
     return found != m_rows.cend() ? &*found : nullptr;
 }
 
-/// A device that is listed twice, found on the network and given by hand, is in one room: save()
-/// goes row by row, and a second row must not take back what was chosen in the first.
+/// A device that the document holds twice is in one room: save() goes row by row, and a second row
+/// must not take back what was chosen in the first.
 void DeviceLocation::chooseSameRoom(const Row& chosen)
 {
     for (const Row& row : std::as_const(m_rows)) {

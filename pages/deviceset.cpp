@@ -63,7 +63,7 @@ void DeviceSet::fill(RoomDevices& devices)
     const auto records = deviceSetRecords(*m_doc, m_group.number, m_group.sceneNumber);
     for (const DeviceEntry& device : devices.in(m_group.roomNumbers())) {
         if (m_indexes.contains(device.ipAddress)) {
-            continue; // handed over twice: a device is known by its address
+            continue; // held twice: a device is known by its address
         }
         m_indexes.insert(device.ipAddress, m_members.size());
         m_members.append({device, records.value(device.ipAddress).remove});

@@ -8,6 +8,7 @@
 
 #include <QDebug>
 #include <QLabel>
+#include <QSet>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -46,7 +47,12 @@ void Install::install()
         const QTreeWidgetItem* item = m_hubTable->topLevelItem(row);
         hubs.append({item->text(addressColumn), item->text(DeviceTable::labelColumn)});
     }
+    QSet<QString> started;
     for (const auto& [ip, label] : hubs) {
+        if (started.contains(ip)) {
+            continue; // a hub of two rows is known by its address
+        }
+        started.insert(ip);
         // Set first: a run that cannot even begin reports its failure from within the start.
         m_awaited.insert(ip);
         setStatus(ip, tr("Installing..."));
@@ -163,7 +169,7 @@ QString Install::status(int row) const
 
 void Install::setStatus(const QString& ip, const QString& text)
 {
-    if (QTreeWidgetItem* row = m_hubTable->rowOf(ip)) {
+    for (QTreeWidgetItem* row : m_hubTable->rowsOf(ip)) {
         row->setText(statusColumn, text);
     }
 }

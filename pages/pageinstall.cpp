@@ -51,7 +51,8 @@ void PageInstall::load()
     m_content->initialise();
     // What was installed before the user went back may differ from what is entered now.
     m_executeButton->setText(tr("Execute"));
-    installStatusChanged();
+    setExecuteEnabled(!m_content->isBusy());
+    watchForChanges();
 }
 
 void PageInstall::backButtonClicked()
@@ -63,8 +64,9 @@ void PageInstall::backButtonClicked()
 void PageInstall::executeButtonClicked()
 {
     if (m_executeButton->text() == tr("Execute")) {
+        m_executedWork = enteredWork(doc());
         m_content->install();
-        setExecuteEnabled(!m_content->isBusy());
+        installStatusChanged();
     } else {
         controller().next();
     }
@@ -76,8 +78,18 @@ void PageInstall::installStatusChanged()
     if (done) {
         m_executeButton->setText(tr("Next"));
     }
-    controller().setInstallDone(done);
+    watchForChanges();
+    controller().setInstallDone(done && m_executedWork);
     setExecuteEnabled(!m_content->isBusy());
+}
+
+/// Hubs get their files one after the other, built from what is entered at the moment. If that
+/// changes meanwhile, nobody knows which of them hold what.
+void PageInstall::watchForChanges()
+{
+    if (m_executedWork && *m_executedWork != enteredWork(doc())) {
+        m_executedWork.reset();
+    }
 }
 
 /// A disabled button loses the focus to whatever comes next. Who works by key gets it back, unless

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "basepage.h"
+#include "enteredwork.h"
 
 #include <QPointer>
+
+#include <optional>
 
 class Install;
 class QPushButton;
@@ -23,16 +26,18 @@ public Q_SLOTS:
     void backButtonClicked();
     /// Starts the installation of every listed hub, or goes on when all are done.
     void executeButtonClicked();
-    /// Sets the button and tells the wizard whether every listed hub is done.
+    /// Sets the button and tells the wizard whether every listed hub is done with what is entered.
     void installStatusChanged();
 
 private:
     void load();
     void layOut();
+    void watchForChanges();
     void setExecuteEnabled(bool enable);
 
     Install* m_content;
     QPushButton* m_backButton;
     QPushButton* m_executeButton;
-    QPointer<QWidget> m_focusMeanwhile; ///< has the focus that the disabled button had
+    std::optional<EnteredWork> m_executedWork; ///< as of "Execute"; nothing once it was changed
+    QPointer<QWidget> m_focusMeanwhile;        ///< has the focus that the disabled button had
 };

@@ -4,23 +4,35 @@ namespace {
 
 constexpr int maxAttributes = 256;
 
-/// No more attributes in any element than the limit. The reader compares each attribute with all
-/// before it, so a single element of a few megabytes would keep it busy for minutes. "<" stands in
-/// no attribute value, so what lies between two of them bounds one element's attributes.
-bool hasFewAttributes(QStringView text)
+/// The number of attributes in a start tag, given without its "<". Outside of values only those
+/// quotes stand in it that begin one.
+int countAttributes(QStringView tag)
 {
     int attributes = 0;
-    bool afterEquals = false;
-    for (const QChar unit : text) {
-        if (unit == u'<') {
-            attributes = 0;
-        } else if (afterEquals && (unit == u'"' || unit == u'\'')) {
+    QChar quote; // null outside of values
+    for (const QChar unit : tag) {
+        if (unit == quote) {
+            quote = QChar();
+        } else if (quote.isNull() && (unit == u'"' || unit == u'\'')) {
+            quote = unit;
             ++attributes;
+        } else if (quote.isNull() && unit == u'>') {
+            break;
         }
-        if (attributes > maxAttributes) {
+    }
+    return attributes;
+}
+
+/// No more attributes in any element than the limit. The reader compares each attribute with all
+/// before it, so a single element of a few megabytes would keep it busy for minutes. "<" stands in
+/// no attribute value, so each one begins something new.
+bool hasFewAttributes(QStringView text)
+{
+    for (const QStringView piece : text.tokenize(u'<')) {
+        const bool isTag = !piece.startsWith(u'!') && !piece.startsWith(u'?');
+        if (isTag && countAttributes(piece) > maxAttributes) {
             return false;
         }
-        afterEquals = unit == u'=' || (afterEquals && unit.isSpace());
     }
     return true;
 }

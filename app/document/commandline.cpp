@@ -2,6 +2,8 @@
 
 #include "acceptancerule.h"
 
+#include <QSet>
+
 namespace {
 
 constexpr int noNic = -1; // how the starting program says that it has chosen no interface
@@ -30,11 +32,14 @@ DeviceData deviceFrom(const QStringList& fields)
 CommandLine readCommandLine(const QStringList& arguments)
 {
     CommandLine commandLine;
+    QSet<QString> addresses;
     for (const QString& argument : arguments) {
         if (const std::optional<int> index = nicIndexFromArgument(argument)) {
             commandLine.nicIndex = *index;
         }
-        if (const std::optional<DeviceData> device = deviceFromArgument(argument)) {
+        const std::optional<DeviceData> device = deviceFromArgument(argument);
+        if (device && !addresses.contains(device->ipAddress)) {
+            addresses.insert(device->ipAddress);
             commandLine.devices.append(*device);
         }
     }

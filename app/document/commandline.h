@@ -10,12 +10,12 @@
 struct CommandLine
 {
     int nicIndex = 0;          ///< network interface, from 1; 0 = none given
-    QList<DeviceData> devices; ///< the accepted ones, in order
+    QList<DeviceData> devices; ///< the accepted ones, in order; no two of one address
 };
 
 /// Reads "-N:index" and "-D:model/label/version/address/MAC[/search type[/password]]" from all
 /// arguments; the last index counts. What is malformed or unknown is ignored, and so is a device
-/// that the wizard cannot configure or that has no MAC address.
+/// that the wizard cannot configure, that has no MAC address, or whose address an earlier one has.
 CommandLine readCommandLine(const QStringList& arguments);
 
 /// The interface index of one argument; nothing when it gives none.

@@ -1,5 +1,7 @@
 #include "devicerecords.h"
 
+#include "orderedxml.h"
+
 #include <algorithm>
 
 void DeviceRecords::append(DeviceData device)
@@ -41,8 +43,9 @@ DeviceData* DeviceRecords::find(const QString& ipAddress, const QString& macAddr
     }
     const auto device =
         std::find_if(m_devices.begin() + *first, m_devices.end(), [&](const DeviceData& candidate) {
-            return candidate.ipAddress == ipAddress && candidate.macAddress == macAddress &&
-                   candidate.modelName == modelName;
+            return candidate.ipAddress == ipAddress &&
+                   carriedByXml(candidate.macAddress) == macAddress &&
+                   carriedByXml(candidate.modelName) == modelName;
         });
     return device != m_devices.end() ? &*device : nullptr;
 }

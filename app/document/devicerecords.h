@@ -21,6 +21,7 @@ public:
     DeviceData* find(const QString& ipAddress);
 
     /// The first device that is the same piece of hardware: address, MAC address and model equal.
+    /// The latter two are given as a saved file has them, without what XML cannot carry.
     DeviceData* find(const QString& ipAddress, const QString& macAddress, const QString& modelName);
 
 private:

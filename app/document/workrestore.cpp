@@ -1,7 +1,9 @@
 #include "workrestore.h"
 
 #include "documentdata.h"
+#include "orderedxml.h"
 
+#include <QHash>
 #include <QSet>
 
 #include <algorithm>
@@ -14,23 +16,61 @@ SavedDevice saved(const DeviceData& device)
             device.modelName, device.roomNumber, device.labelModified};
 }
 
-/// Devices get back what the installer gave them; returns those that are not there and would be
-/// missed. One that was in no room is forgotten.
+/// A device gets back what the installer gave it.
+void restore(DeviceData& device, const SavedDevice& was)
+{
+    device.roomNumber = was.roomNumber;
+    if (was.labelModified) {
+        device.label = was.label;
+        device.labelModified = true;
+    }
+}
+
+/// A device that was saved twice gets from its second record what the first one left open: rooms
+/// and labels were only ever given to the first device of an address.
+void complete(DeviceData& device, const SavedDevice& again)
+{
+    SavedDevice was = again;
+    if (device.roomNumber != 0) {
+        was.roomNumber = device.roomNumber;
+    }
+    was.labelModified = again.labelModified && !device.labelModified;
+    restore(device, was);
+}
+
+/// The addresses of the devices that are there, by the form in which they are saved where that is
+/// another.
+QHash<QString, QString> addressesSavedOtherwise(const DeviceRecords& devices)
+{
+    QHash<QString, QString> addresses;
+    for (const DeviceData& device : devices.all()) {
+        const QString saved = carriedByXml(device.ipAddress);
+        if (saved != device.ipAddress && devices.find(saved) == nullptr) {
+            addresses.insert(saved, device.ipAddress);
+        }
+    }
+    return addresses;
+}
+
+/// Restores what is there; returns the devices that are not and would be missed. One that was in
+/// no room is forgotten.
 QList<SavedDevice> restoreDevices(DocumentData& doc, const QList<SavedDevice>& devices)
 {
+    const QHash<QString, QString> addresses = addressesSavedOtherwise(doc.devices);
     QList<SavedDevice> missing;
+    QSet<const DeviceData*> restored;
     for (const SavedDevice& was : devices) {
-        DeviceData* device = doc.devices.find(was.ipAddress, was.macAddress, was.modelName);
+        DeviceData* device = doc.devices.find(addresses.value(was.ipAddress, was.ipAddress),
+                                              was.macAddress, was.modelName);
         if (device == nullptr) {
             if (was.roomNumber != 0) {
                 missing.append(was);
             }
-            continue;
-        }
-        device->roomNumber = was.roomNumber;
-        if (was.labelModified) {
-            device->label = was.label;
-            device->labelModified = true;
+        } else if (restored.contains(device)) {
+            complete(*device, was);
+        } else {
+            restored.insert(device);
+            restore(*device, was);
         }
     }
     return missing;
@@ -75,8 +115,10 @@ struct SectionRestorer
     }
     bool operator()(const QList<DeviceSetInfo>& records) const
     {
+        const QHash<QString, QString> addresses = addressesSavedOtherwise(doc.devices);
         doc.deviceSets.clear();
-        for (const DeviceSetInfo& record : records) {
+        for (DeviceSetInfo record : records) {
+            record.ipAddress = addresses.value(record.ipAddress, record.ipAddress);
             doc.deviceSets.append(record);
         }
         return true;

@@ -19,7 +19,9 @@ bool isCarried(QStringView text, qsizetype at)
     return isAllowed(unit.unicode());
 }
 
-QString carried(QStringView text)
+} // namespace
+
+QString carriedByXml(QStringView text)
 {
     QString kept;
     kept.reserve(text.size());
@@ -30,8 +32,6 @@ QString carried(QStringView text)
     }
     return kept;
 }
-
-} // namespace
 
 OrderedXml::OrderedXml()
     : m_writer(&m_text)
@@ -47,7 +47,7 @@ void OrderedXml::start(const QString& element)
 
 void OrderedXml::attribute(const QString& name, QStringView value)
 {
-    m_writer.writeAttribute(name, carried(value));
+    m_writer.writeAttribute(name, carriedByXml(value));
 }
 
 void OrderedXml::attribute(const QString& name, int value)

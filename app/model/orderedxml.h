@@ -4,12 +4,16 @@
 #include <QStringView>
 #include <QXmlStreamWriter>
 
+/// The text without the characters that XML cannot carry: control characters, lone surrogates,
+/// U+FFFE and U+FFFF. This is what OrderedXml writes of it.
+QString carriedByXml(QStringView text);
+
 /// Writes XML whose attributes stand in the order in which they were given, so that the same data
 /// is the same bytes on every run: one space of indent per level, no declaration, all data in
 /// attributes, one element per line, a line feed at the end.
 ///
-/// Characters that XML cannot carry (control characters, lone surrogates) are left out, so that
-/// whatever a user pasted into a field, the text can be read again.
+/// Characters that XML cannot carry are left out, so that whatever a user pasted into a field, the
+/// text can be read again.
 class OrderedXml
 {
 public:

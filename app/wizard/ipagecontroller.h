@@ -14,7 +14,8 @@ public:
     /// the user is asked first and may stay.
     virtual void quit() = 0;
 
-    /// Tells whether every preset has been installed; closing then asks nothing.
+    /// Tells whether every preset has been installed as the document is now. Until it is taken
+    /// back, closing on the installation step asks only when the document differs from that.
     virtual void setInstallDone(bool done) = 0;
 
     IPageController() = default;

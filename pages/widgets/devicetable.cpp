@@ -74,6 +74,11 @@ void DeviceTable::setRows(const QList<QStringList>& rows, const Decorate& decora
 
 QTreeWidgetItem* DeviceTable::rowOf(const QString& ipAddress) const
 {
+    return m_rows.value(ipAddress).value(0);
+}
+
+QList<QTreeWidgetItem*> DeviceTable::rowsOf(const QString& ipAddress) const
+{
     return m_rows.value(ipAddress);
 }
 
@@ -125,9 +130,7 @@ void DeviceTable::addRows(const QList<QStringList>& rows)
     }
     addTopLevelItems(items);
     for (QTreeWidgetItem* item : items) {
-        if (!m_rows.contains(addressOf(item))) {
-            m_rows.insert(addressOf(item), item);
-        }
+        m_rows[addressOf(item)].append(item);
     }
 }
 

@@ -34,6 +34,9 @@ public:
     /// The first row of the device with this address; null when there is none.
     QTreeWidgetItem* rowOf(const QString& ipAddress) const;
 
+    /// Every row of this address, in the order in which they were given.
+    QList<QTreeWidgetItem*> rowsOf(const QString& ipAddress) const;
+
     /// Renames the device of a row. With sorting enabled that may move the row.
     void setLabel(QTreeWidgetItem* row, const QString& label);
 
@@ -53,7 +56,7 @@ private:
     void addIdentifyButton(QTreeWidgetItem* row);
     void nameIdentifyButton(QTreeWidgetItem* row);
 
-    QHash<QString, QTreeWidgetItem*> m_rows;
+    QHash<QString, QList<QTreeWidgetItem*>> m_rows; ///< by address
     FocusedRow* m_focusedRow;
     int m_addressColumn;
     bool m_filling = false; ///< the tab order waits for all rows

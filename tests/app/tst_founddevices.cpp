@@ -8,6 +8,7 @@
 #include "testcase.h"
 
 #include <QDir>
+#include <QTcpServer>
 #include <QTest>
 
 namespace {
@@ -53,6 +54,7 @@ private Q_SLOTS:
     void withAnInterfaceHandedOverNothingIsSearched();
     void foundDevicesAreEnteredIntoTheDocument();
     void devicesThatTheDocumentRefusesStayOut();
+    void aDeviceThatWasHandedOverIsNotEnteredAgain();
     void savedWorkMeetsTheDevicesFoundMeanwhile();
 };
 
@@ -110,6 +112,35 @@ void TestFoundDevices::devicesThatTheDocumentRefusesStayOut()
     answer(microphone);
     QTRY_COMPARE(deviceCount(installer.doc), 1);
     QCOMPARE(deviceAt(installer.doc, 0)->ipAddress, microphoneAddress);
+}
+
+void TestFoundDevices::aDeviceThatWasHandedOverIsNotEnteredAgain()
+{
+    SimpleDevice hub(hubAddress, "PX-HB", "S1", 1);
+    SimpleDevice microphone(microphoneAddress, "PX-DL", "S2", 2);
+    QVERIFY(hub.open() && microphone.open());
+    SearchingWizard installer;
+    // The search type and the password are what the web API needs; the network knows neither.
+    const FoundDevice handedOver{QStringLiteral("Handed"),      QStringLiteral("PX-DL"),
+                                 QStringLiteral("2.1.0"),       microphoneAddress,
+                                 QStringLiteral("a0:00:00:01"), QStringLiteral("HTTP"),
+                                 QStringLiteral("secret")};
+    QVERIFY(addDevice(installer.doc, handedOver));
+    installer.search();
+    const auto* detector = installer.window->findChild<DeviceDetector*>();
+    answer(microphone);
+    QTRY_VERIFY(!detector->deviceInfo(microphoneAddress).serialNumber.isEmpty());
+    answer(hub);
+    QTRY_VERIFY(deviceByAddress(installer.doc, hubAddress));
+    QCOMPARE(deviceCount(installer.doc), 2);
+    QCOMPARE(deviceAt(installer.doc, 0)->label, QStringLiteral("Handed"));
+    QCOMPARE(deviceAt(installer.doc, 0)->macAddress, QStringLiteral("a0:00:00:01"));
+
+    // It still identifies itself over the web API: nothing reaches its text commands.
+    QTcpServer webApi;
+    QVERIFY(webApi.listen(QHostAddress(microphoneAddress), 80));
+    QVERIFY(identifyDevice(installer.doc, microphoneAddress));
+    QTRY_VERIFY(webApi.hasPendingConnections());
 }
 
 void TestFoundDevices::savedWorkMeetsTheDevicesFoundMeanwhile()

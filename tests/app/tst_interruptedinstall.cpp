@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -34,6 +35,10 @@ private Q_SLOTS:
     void aHubMayAskForItsPasswordOverTheQuestion_data();
     void aHubMayAskForItsPasswordOverTheQuestion();
     void workSavedDuringAnInstallationIsInstalledAtTheNextStart();
+    void afterDoneTheWayBackAndForthAloneAsksNothing_data();
+    void afterDoneTheWayBackAndForthAloneAsksNothing();
+    void whatIsEnteredAfterDoneIsAskedFor();
+    void whatIsEnteredDuringAnInstallationIsAskedFor();
 };
 
 namespace {
@@ -83,10 +88,39 @@ struct Wizard
     {
         return columnTexts(*tableOf(page(), "hubList"), statusColumn).join(u' ');
     }
-    const QWidget& page() const
+    const QWidget& page() const { return *stack()->widget(installIndex); }
+    QStackedWidget* stack() const
     {
-        return *window->findChild<QStackedWidget*>(QStringLiteral("pageStack"))
-                    ->widget(installIndex);
+        return window->findChild<QStackedWidget*>(QStringLiteral("pageStack"));
+    }
+
+    /// "Back" as far as the page of this index, and "Next" to the installation.
+    void goBackTo(int index) const
+    {
+        while (stack()->currentIndex() > index) {
+            press(buttonOf(*stack()->currentWidget(), "backButton"));
+        }
+    }
+    void goForth() const
+    {
+        while (stack()->currentIndex() < installIndex) {
+            press(buttonOf(*stack()->currentWidget(), "nextButton"));
+        }
+    }
+    /// Step 7 with the cursor in the first name.
+    void namePreset(const QString& name) const
+    {
+        goBackTo(installIndex - 1);
+        auto* field = stack()->currentWidget()->findChild<QLineEdit*>();
+        field->selectAll();
+        QTest::keyClicks(field, name);
+    }
+    /// Closes the window; true when it asks, which is answered with "Cancel".
+    bool asksOnClosing() const
+    {
+        const ModalAnswer answer(QStringLiteral("Cancel"));
+        const bool isClosed = window->close();
+        return answer.wasShown() && !isClosed;
     }
 
     /// "Execute", until the first hub is at this request.
@@ -261,6 +295,62 @@ void TestInterruptedInstall::workSavedDuringAnInstallationIsInstalledAtTheNextSt
     QCOMPARE(wizard.statuses(), QStringLiteral(" "));
     wizard.installWhole();
     wizard.window.reset();
+}
+
+void TestInterruptedInstall::afterDoneTheWayBackAndForthAloneAsksNothing_data()
+{
+    QTest::addColumn<int>("index");
+    for (int index = 1; index < installIndex; ++index) {
+        QTest::addRow("from step %d", index + 1) << index;
+    }
+}
+
+void TestInterruptedInstall::afterDoneTheWayBackAndForthAloneAsksNothing()
+{
+    QFETCH(const int, index);
+    const Wizard wizard(Exchange::Recall);
+    // What the pages make of it is what is installed.
+    wizard.goBackTo(1);
+    wizard.goForth();
+    wizard.installWhole();
+    wizard.goBackTo(index);
+    QVERIFY(wizard.asksOnClosing());
+    wizard.goForth();
+    QCOMPARE(wizard.button("executeButton")->text(), QStringLiteral("Execute"));
+    QVERIFY(!wizard.asksOnClosing());
+    QVERIFY(!QFile::exists(resumePath()));
+}
+
+void TestInterruptedInstall::whatIsEnteredAfterDoneIsAskedFor()
+{
+    const Wizard wizard(Exchange::Recall);
+    wizard.goBackTo(1);
+    wizard.goForth();
+    wizard.installWhole();
+    wizard.namePreset(QStringLiteral("Other"));
+    wizard.goForth();
+    QVERIFY(wizard.asksOnClosing());
+    wizard.installWhole();
+    QVERIFY(!wizard.asksOnClosing());
+}
+
+void TestInterruptedInstall::whatIsEnteredDuringAnInstallationIsAskedFor()
+{
+    const Wizard wizard(Exchange::Recall);
+    wizard.goBackTo(1);
+    wizard.goForth();
+    for (const int hub : {1, 2}) {
+        wizard.step.setFault(
+            hub, {.exchange = Exchange::Recall, .kind = FaultKind::Slow, .number = 3 * slowMs});
+    }
+    wizard.installUntil(Exchange::Recall);
+    wizard.namePreset(QStringLiteral("Other"));
+    wizard.goForth();
+    QCOMPARE(wizard.statuses(), QStringLiteral("Installing... Installing..."));
+    QVERIFY(waitUntilOver(wizard.page()));
+    QCOMPARE(wizard.statuses(), QStringLiteral("Done Done"));
+    QCOMPARE(wizard.button("executeButton")->text(), QStringLiteral("Next"));
+    QVERIFY(wizard.asksOnClosing());
 }
 
 TESSEL_TEST_MAIN(TestInterruptedInstall)

@@ -111,6 +111,10 @@ private Q_SLOTS:
     void closingOnTheStepsBetweenAsks_data();
     void closingOnTheStepsBetweenAsks();
     void closingAsksNothingOnceEveryPresetIsInstalled();
+    void closingOnAnEarlierStepAsksAlsoAfterAnInstallation_data();
+    void closingOnAnEarlierStepAsksAlsoAfterAnInstallation();
+    void whatWasChangedAfterAnInstallationIsAskedFor();
+    void anInstallationThatWasTakenBackIsAskedFor();
     void cancelKeepsTheWindowOpen();
     void noClosesWithoutSaving();
     void quitFromAStepAsksAsClosingDoes();
@@ -252,6 +256,67 @@ void TestMainWindow::closingAsksNothingOnceEveryPresetIsInstalled()
     wizard.window->setInstallDone(true);
     QVERIFY(wizard.window->close());
     QVERIFY(!QFile::exists(resumePath()));
+}
+
+void TestMainWindow::closingOnAnEarlierStepAsksAlsoAfterAnInstallation_data()
+{
+    QTest::addColumn<int>("index");
+    for (int index = 1; index < 7; ++index) {
+        QTest::addRow("page %d", index + 1) << index;
+    }
+}
+
+void TestMainWindow::closingOnAnEarlierStepAsksAlsoAfterAnInstallation()
+{
+    QFETCH(const int, index);
+    Wizard wizard;
+    wizard.draw();
+    wizard.open();
+    wizard.goTo(7);
+    wizard.window->setInstallDone(true);
+    while (wizard.stack()->currentIndex() > index) {
+        wizard.window->back();
+    }
+    {
+        const ModalAnswer answer(QStringLiteral("Cancel"));
+        QVERIFY(!wizard.window->close());
+        QVERIFY(answer.wasShown());
+    }
+    // There and back alone leave nothing to save.
+    wizard.goTo(7);
+    QVERIFY(wizard.window->close());
+    QVERIFY(!QFile::exists(resumePath()));
+}
+
+void TestMainWindow::whatWasChangedAfterAnInstallationIsAskedFor()
+{
+    Wizard wizard;
+    wizard.draw();
+    wizard.open();
+    wizard.goTo(7);
+    wizard.window->setInstallDone(true);
+    wizard.window->resize(1000, 800);
+    setDeviceRoom(wizard.doc, QStringLiteral("127.60.0.2"), 1);
+    {
+        const ModalAnswer answer(QStringLiteral("Cancel"));
+        QVERIFY(!wizard.window->close());
+        QVERIFY(answer.wasShown());
+    }
+    setDeviceRoom(wizard.doc, QStringLiteral("127.60.0.2"), 2);
+    QVERIFY(wizard.window->close());
+}
+
+void TestMainWindow::anInstallationThatWasTakenBackIsAskedFor()
+{
+    Wizard wizard;
+    wizard.draw();
+    wizard.open();
+    wizard.goTo(7);
+    wizard.window->setInstallDone(true);
+    wizard.window->setInstallDone(false);
+    const ModalAnswer answer(QStringLiteral("Cancel"));
+    QVERIFY(!wizard.window->close());
+    QVERIFY(answer.wasShown());
 }
 
 void TestMainWindow::cancelKeepsTheWindowOpen()

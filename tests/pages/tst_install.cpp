@@ -1,3 +1,5 @@
+#include "datakey.h"
+#include "datakind.h"
 #include "devicequeries.h"
 #include "install.h"
 #include "installhall.h"
@@ -37,6 +39,7 @@ private Q_SLOTS:
     void aHubThatIsNoLongerListedIsNotInstalledAgain();
     void aHubListedLaterIsInstalledToo();
     void hubsSortedByStatusAreAllInstalled();
+    void aHubListedInTwoRowsIsInstalledOnceAndShowsItsStatusInBoth();
     void aFinishReportOfAnUnlistedHubChangesNoRow();
     void theIdentifyButtonMakesTheHubIdentifyItself();
     void theIdentifyButtonOfADialogMakesTheHubIdentifyItself();
@@ -302,6 +305,26 @@ void TestInstall::hubsSortedByStatusAreAllInstalled()
     QTRY_COMPARE(step.statuses(), QStringLiteral("Done Done Done Error"));
     press(step.execute());
     QTRY_COMPARE(step.statuses(), QStringLiteral("Done Done Done Done"));
+}
+
+void TestInstall::aHubListedInTwoRowsIsInstalledOnceAndShowsItsStatusInBoth()
+{
+    InstallHall step(base, 2);
+    QVERIFY(
+        step.doc.addData(DataKind::Device, {{DataKey::deviceIPAddress(), step.address(2)},
+                                            {DataKey::deviceModelName(), QStringLiteral("PX-HB")},
+                                            {DataKey::deviceLabel(), QStringLiteral("A-again")},
+                                            {DataKey::deviceVersion(), QStringLiteral("2.1")},
+                                            {DataKey::roomNumber(), 2}}));
+    step.page.enterFrom(7);
+    step.list()->sortByColumn(3, Qt::AscendingOrder);
+    press(step.execute());
+    QCOMPARE(step.statuses(), QStringLiteral("Installing... Installing... Installing..."));
+    QTRY_COMPARE(step.statuses(), QStringLiteral("Done Done Done"));
+    QCOMPARE(step.execute()->text(), QStringLiteral("Next"));
+    QCOMPARE(step.hub(2)->logInCount(), 1);
+    QCOMPARE(timesAsked(*step.hub(2), Exchange::Token), 1);
+    QCOMPARE(timesAsked(*step.hub(2), Exchange::HubFile), 2);
 }
 
 void TestInstall::aFinishReportOfAnUnlistedHubChangesNoRow()

@@ -25,7 +25,10 @@ private Q_SLOTS:
     void backStopsNoInstallation();
     void forthAgainDuringAnInstallationShowsWhatIsStillRunning();
     void aHubThatPreparesForEverHoldsUpNobodyAndCanBeTriedAgain();
-    void forthAgainAfterAllWasDoneOffersExecuteAnew();
+    void forthAgainAfterAllWasDoneOffersExecuteAnewAndClosingAsksNothing();
+    void whileHubsAreInstalledAgainClosingAsks();
+    void whatChangesDuringAnInstallationIsNotInstalled_data();
+    void whatChangesDuringAnInstallationIsNotInstalled();
     void aFinishOnThePageBeforeDoesNotLetTheUserPassWithoutExecute();
     void restoringListsTheHubs();
     void comingBackFromALaterStepKeepsTheStatuses();
@@ -214,7 +217,7 @@ void TestPageInstall::forthAgainDuringAnInstallationShowsWhatIsStillRunning()
     QTRY_COMPARE(step.execute()->text(), QStringLiteral("Next"));
 }
 
-void TestPageInstall::forthAgainAfterAllWasDoneOffersExecuteAnew()
+void TestPageInstall::forthAgainAfterAllWasDoneOffersExecuteAnewAndClosingAsksNothing()
 {
     InstallHall step(base, 1);
     press(step.execute());
@@ -224,7 +227,65 @@ void TestPageInstall::forthAgainAfterAllWasDoneOffersExecuteAnew()
     QCOMPARE(step.statuses(), QString());
     QCOMPARE(step.execute()->text(), QStringLiteral("Execute"));
     QVERIFY(step.execute()->isEnabled());
+    QVERIFY(step.controller.installDone);
+}
+
+void TestPageInstall::whileHubsAreInstalledAgainClosingAsks()
+{
+    InstallHall step(base, 2);
+    press(step.execute());
+    QTRY_VERIFY(step.controller.installDone);
+    press(buttonOf(step.page, "backButton"));
+    step.page.enterFrom(7);
+    step.setFault(1, refusal(Exchange::PresetEntry));
+    press(step.execute());
     QVERIFY(!step.controller.installDone);
+    QTRY_COMPARE(step.statuses(), QStringLiteral("Error Done"));
+    QVERIFY(!step.controller.installDone);
+    press(step.execute());
+    QTRY_COMPARE(step.statuses(), QStringLiteral("Done Done"));
+    QVERIFY(step.controller.installDone);
+}
+
+void TestPageInstall::whatChangesDuringAnInstallationIsNotInstalled_data()
+{
+    QTest::addColumn<bool>("isTakenBack");
+    QTest::addColumn<bool>("isEnteredMeanwhile");
+    QTest::newRow("and stays") << false << false;
+    QTest::newRow("and is taken back after a hub was done") << true << false;
+    QTest::newRow("and is taken back after the step was entered") << true << true;
+}
+
+void TestPageInstall::whatChangesDuringAnInstallationIsNotInstalled()
+{
+    QFETCH(const bool, isTakenBack);
+    QFETCH(const bool, isEnteredMeanwhile);
+    InstallHall step(base, isEnteredMeanwhile ? 1 : 2);
+    step.setFault(1, slow(Exchange::HubFile)); // twice
+    if (!isEnteredMeanwhile) {
+        step.setFault(2, slow(Exchange::Recall));
+    }
+    press(step.execute());
+    QTRY_COMPARE(timesAsked(*step.hub(1), Exchange::HubFile), 1);
+    press(buttonOf(step.page, "backButton"));
+    setDeviceRoom(step.doc, step.address(1), 2);
+    if (isEnteredMeanwhile) {
+        step.page.enterFrom(7);
+    } else {
+        QTRY_COMPARE(step.status(2), QStringLiteral("Done"));
+        QCOMPARE(step.status(1), QStringLiteral("Installing..."));
+    }
+    if (isTakenBack) {
+        setDeviceRoom(step.doc, step.address(1), 1);
+    }
+    QTRY_COMPARE(step.execute()->text(), QStringLiteral("Next"));
+    QVERIFY(!step.controller.installDone);
+    // Installed once more it is.
+    step.hall.clearFaults();
+    press(buttonOf(step.page, "backButton"));
+    step.page.enterFrom(7);
+    press(step.execute());
+    QTRY_VERIFY(step.controller.installDone);
 }
 
 void TestPageInstall::aFinishOnThePageBeforeDoesNotLetTheUserPassWithoutExecute()

@@ -61,7 +61,10 @@ private Q_SLOTS:
     void nestingIsBounded();
     void attributesPerElementAreBounded();
     void manyElementsOfFewAttributesAreFine();
-    void valuesFullOfEqualsSignsAreFine();
+    void noValueHidesTooManyAttributes_data();
+    void noValueHidesTooManyAttributes();
+    void whatOnlyLooksLikeAttributesIsFine_data();
+    void whatOnlyLooksLikeAttributesIsFine();
     void prefixesNeedNoDeclaration();
 };
 
@@ -166,10 +169,55 @@ void TestBoundedXml::manyElementsOfFewAttributesAreFine()
                     QStringLiteral("</a>")));
 }
 
-void TestBoundedXml::valuesFullOfEqualsSignsAreFine()
+void TestBoundedXml::noValueHidesTooManyAttributes_data()
 {
-    const QString value = QStringLiteral("= =&quot;").repeated(1000);
-    QVERIFY(isSound(QStringLiteral("<a k=\"") + value + QStringLiteral("\"/>")));
+    QTest::addColumn<QString>("before");
+    QTest::newRow("nothing") << QString();
+    QTest::newRow("the other quote") << QStringLiteral("k='\"' l=\"'\"");
+    QTest::newRow("an end of the element") << QStringLiteral("k='/>'");
+    QTest::newRow("no blank between") << QStringLiteral("k='1'l=\"2\"");
+}
+
+void TestBoundedXml::noValueHidesTooManyAttributes()
+{
+    QFETCH(const QString, before);
+    const auto text = [&before](int more) {
+        QString attributes;
+        for (int number = 0; number < more; ++number) {
+            attributes += QStringLiteral(" a%1='x'").arg(number);
+        }
+        return QStringLiteral("<!-- ' --><a><?b ' ?>'<c %1%2/></a>").arg(before, attributes);
+    };
+    QCOMPARE(BoundedXml(text(256)).enterChild(), before.isEmpty());
+    QVERIFY(!BoundedXml(text(257)).enterChild());
+    QVERIFY(!BoundedXml(text(300'000)).enterChild());
+}
+
+void TestBoundedXml::whatOnlyLooksLikeAttributesIsFine_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("lookalike");
+    QTest::addColumn<QString>("after");
+    const auto row = [](const char* name, const char* before, const char* lookalike,
+                        const char* after) {
+        QTest::newRow(name) << QString::fromLatin1(before) << QString::fromLatin1(lookalike)
+                            << QString::fromLatin1(after);
+    };
+    row("equals signs in a value", "<a k=\"", "= =&quot;", "\"/>");
+    row("apostrophes between quotes", "<a k=\"", "a='x' ", "\"/>");
+    row("quotes between apostrophes", "<a k='", "a=\"x\" ", "'/>");
+    row("text", "<a>", "a='x' \"", "</a>");
+    row("a comment", "<a><!-- ", "a='x' \"", " --></a>");
+    row("an instruction", "<a><?b ", "a='x' \"", " ?></a>");
+    row("an unread section", "<a><![CDATA[", "a='x' \"", "]]></a>");
+}
+
+void TestBoundedXml::whatOnlyLooksLikeAttributesIsFine()
+{
+    QFETCH(const QString, before);
+    QFETCH(const QString, lookalike);
+    QFETCH(const QString, after);
+    QVERIFY(isSound(before + lookalike.repeated(1000) + after));
 }
 
 void TestBoundedXml::prefixesNeedNoDeclaration()

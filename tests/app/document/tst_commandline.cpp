@@ -21,6 +21,7 @@ private Q_SLOTS:
     void addressMayHoldColons();
     void lastInterfaceCounts();
     void devicesKeepTheirOrder();
+    void ofDevicesOfOneAddressTheFirstAcceptedOneCounts();
     void unknownArgumentsAreIgnored();
 };
 
@@ -188,6 +189,21 @@ void TestCommandLine::devicesKeepTheirOrder()
     QCOMPARE(commandLine.devices.size(), 2);
     QCOMPARE(commandLine.devices.first().label, QStringLiteral("A"));
     QCOMPARE(commandLine.devices.last().label, QStringLiteral("C"));
+}
+
+void TestCommandLine::ofDevicesOfOneAddressTheFirstAcceptedOneCounts()
+{
+    const CommandLine commandLine =
+        readCommandLine({QStringLiteral("-D:PX-HB/TooOld/1.0.0/10.0.0.2/00:a0:de:00:00:02"),
+                         QStringLiteral("-D:PX-HB/A/2.1.0/10.0.0.2/00:a0:de:00:00:02/HTTP/secret"),
+                         QStringLiteral("-D:PX-HB/B/2.1.0/10.0.0.3/00:a0:de:00:00:03"),
+                         QStringLiteral("-D:PX-HB/C/2.2.0/10.0.0.2/00:a0:de:00:00:02"),
+                         QStringLiteral("-D:DSK4M/D/2.1.0/10.0.0.3/00:a0:de:00:00:04")});
+    QCOMPARE(commandLine.devices.size(), 2);
+    QCOMPARE(commandLine.devices.first().label, QStringLiteral("A"));
+    QCOMPARE(commandLine.devices.first().searchType, QStringLiteral("HTTP"));
+    QCOMPARE(commandLine.devices.first().password, QStringLiteral("secret"));
+    QCOMPARE(commandLine.devices.last().label, QStringLiteral("B"));
 }
 
 void TestCommandLine::unknownArgumentsAreIgnored()

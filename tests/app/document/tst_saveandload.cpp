@@ -169,6 +169,8 @@ private Q_SLOTS:
     void changedMacAddressCountsAsMissing();
     void changedModelCountsAsMissing();
     void secondDeviceOfAnAddressIsFoundByItsMac();
+    void aDeviceThatWasSavedTwiceKeepsItsRoomAndItsLabel_data();
+    void aDeviceThatWasSavedTwiceKeepsItsRoomAndItsLabel();
     void missingDevicesAreListedInFileOrder();
     void missingDeviceInNoRoomIsForgotten();
     void textsOfMissingDevicesAreTakenLiterally();
@@ -380,6 +382,36 @@ void TestSaveAndLoad::secondDeviceOfAnAddressIsFoundByItsMac()
     QVERIFY(after.loadResume(m_path));
     QCOMPARE(deviceAt(after, 0)->roomNumber, 0);
     QCOMPARE(deviceAt(after, 1)->roomNumber, 2);
+}
+
+void TestSaveAndLoad::aDeviceThatWasSavedTwiceKeepsItsRoomAndItsLabel_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("second");
+    QTest::addColumn<int>("room");
+    QTest::addColumn<QString>("label");
+    const QString placed = QStringLiteral("Label='A' Room='2' ModifiedLabel='1'");
+    const QString elsewhere = QStringLiteral("Label='B' Room='3' ModifiedLabel='1'");
+    const QString inNoRoom = QStringLiteral("Label='C' Room='0' ModifiedLabel='0'");
+    QTest::newRow("the first in a room") << placed << inNoRoom << 2 << QStringLiteral("A");
+    QTest::newRow("the second in a room") << inNoRoom << placed << 2 << QStringLiteral("A");
+    QTest::newRow("both in rooms") << placed << elsewhere << 2 << QStringLiteral("A");
+    QTest::newRow("none in a room") << inNoRoom << inNoRoom << 0 << QStringLiteral("device 0");
+}
+
+void TestSaveAndLoad::aDeviceThatWasSavedTwiceKeepsItsRoomAndItsLabel()
+{
+    QFETCH(const QString, first);
+    QFETCH(const QString, second);
+    const QString record = QStringLiteral("<DeviceData IP='%1' MacAddress='%2' Model='PX-HB' %3/>");
+    TesselDoc doc(nullptr);
+    addDevices(doc, 1);
+    const QString records =
+        record.arg(addressOf(0), macOf(0), first) + record.arg(addressOf(0), macOf(0), second);
+    QVERIFY(doc.loadResume(
+        writeInside(QStringLiteral("<DeviceDataList>%1</DeviceDataList>").arg(records))));
+    QTEST(deviceAt(doc, 0)->roomNumber, "room");
+    QTEST(deviceAt(doc, 0)->label, "label");
 }
 
 void TestSaveAndLoad::missingDevicesAreListedInFileOrder()

@@ -166,6 +166,10 @@ void TestDeviceTable::twoDevicesOfOneAddressAreFoundAsTheFirst()
     table.setRows({device(QStringLiteral("One"), 5), device(QStringLiteral("Two"), 5)});
     QCOMPARE(table.topLevelItemCount(), 2);
     QCOMPARE(table.rowOf(QStringLiteral("10.0.0.5"))->text(0), QStringLiteral("One"));
+    const QList<QTreeWidgetItem*> rows = table.rowsOf(QStringLiteral("10.0.0.5"));
+    QCOMPARE(rows.size(), 2);
+    QCOMPARE(rows.last()->text(0), QStringLiteral("Two"));
+    QVERIFY(table.rowsOf(QStringLiteral("10.0.0.6")).isEmpty());
 }
 
 void TestDeviceTable::forgetsRowsThatAreGone()
