@@ -3,9 +3,8 @@
 // An input is the byte stream of one connection; each byte 0x1F in it is a place where the stream
 // is cut and is no part of it.
 //
-// - A piece that begins with "HTTP/1.1" makes the reader forget what came before. So the pieces
-// fall
-//   into runs, each beginning with such a piece (the first run with any piece), and the replies are
+// - A piece that begins with "HTTP/1.1" makes the reader forget what came before. So the pieces are
+//   runs, each beginning with such a piece (the first run with any piece), and the replies are
 //   those that a fresh reader finds in each run.
 // - A run that is one reply, no longer than it announces, gives this reply wherever it is cut. What
 //   comes of a run that brings more depends on the cuts: a reply is handed out, with all that has

@@ -45,16 +45,13 @@ void Install::install()
     QList<std::pair<QString, QString>> hubs;
     for (int row = 0; row < m_hubTable->topLevelItemCount(); ++row) {
         const QTreeWidgetItem* item = m_hubTable->topLevelItem(row);
-        hubs.append({item->text(addressColumn), item->text(DeviceTable::labelColumn)});
-    }
-    QSet<QString> started;
-    for (const auto& [ip, label] : hubs) {
-        if (started.contains(ip)) {
-            continue; // a hub of two rows is known by its address
+        const QString ip = item->text(addressColumn);
+        if (!m_awaited.contains(ip)) {
+            hubs.append({ip, item->text(DeviceTable::labelColumn)});
         }
-        started.insert(ip);
-        // Set first: a run that cannot even begin reports its failure from within the start.
-        m_awaited.insert(ip);
+        m_awaited.insert(ip); // a hub of two rows is known by its address
+    }
+    for (const auto& [ip, label] : hubs) {
         setStatus(ip, tr("Installing..."));
         startSender(ip, label);
     }

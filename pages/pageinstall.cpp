@@ -84,7 +84,9 @@ void PageInstall::installStatusChanged()
 }
 
 /// Hubs get their files one after the other, built from what is entered at the moment. If that
-/// changes meanwhile, nobody knows which of them hold what.
+/// changes meanwhile, nobody knows which of them hold what. It is looked at whenever a hub is done
+/// and whenever this step is entered: what is changed and taken back between two of these moments
+/// is not seen.
 void PageInstall::watchForChanges()
 {
     if (m_executedWork && *m_executedWork != enteredWork(doc())) {

@@ -29,7 +29,7 @@ public:
     {
         None,        ///< nothing: a question without an answer is met with silence
         Refused,     ///< the hub's address takes no connection at this port
-        Unreachable, ///< there is no way to the hub's address
+        Unreachable, ///< no way led to the hub's address, or this system refused the connection
         Broken       ///< the hub hung up
     };
 

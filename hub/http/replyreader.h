@@ -21,7 +21,8 @@
 class ReplyReader
 {
 public:
-    /// A reply longer than this (in UTF-16 units) is never handed out and not kept in memory.
+    /// A reply that announces more than this (in UTF-16 units), or whose header does not end within
+    /// it, is never handed out and not kept in memory.
     static constexpr qsizetype maxLength = qsizetype{16} * 1024 * 1024;
 
     /// Takes the bytes of one arrival.

@@ -26,6 +26,9 @@ InstallDriver::InstallDriver(const QString& ipAddress, IDocAccessor* doc, QObjec
 
 void InstallDriver::start()
 {
+    if (isAskingUser()) {
+        return;
+    }
     if (isRunning()) {
         // What the hub still has to say to that run must not be heard by the next one.
         m_ticks.stop();
@@ -101,22 +104,16 @@ void InstallDriver::startCountdown()
     }
 }
 
-void InstallDriver::send()
+void InstallDriver::send(std::chrono::milliseconds pause)
 {
     m_state = State::AwaitingReply;
-    if (const auto request = m_run.request()) {
+    const auto request = m_run.request();
+    if (!request) {
+        fail(InstallTrouble::MissingRecords);
+    } else if (pause.count() > 0) {
+        m_connection->askAfter(pause, *request);
+    } else {
         m_connection->ask(*request);
-    } else {
-        fail(InstallTrouble::MissingRecords);
-    }
-}
-
-void InstallDriver::sendAfterPause()
-{
-    if (const auto request = m_run.request()) {
-        m_connection->askAfter(exportPause, *request);
-    } else {
-        fail(InstallTrouble::MissingRecords);
     }
 }
 
@@ -127,7 +124,7 @@ void InstallDriver::carryOut(InstallMove move, const QString& reply)
         send();
         break;
     case InstallMove::SendAfterPause:
-        sendAfterPause();
+        send(exportPause);
         break;
     case InstallMove::SendAfterRefusal:
         noteRefusedRecall();

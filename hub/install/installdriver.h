@@ -6,6 +6,8 @@
 #include <QBasicTimer>
 #include <QObject>
 
+#include <chrono>
+
 class HttpConnection;
 class IDocAccessor;
 
@@ -28,7 +30,7 @@ public:
     InstallDriver(const QString& ipAddress, IDocAccessor* doc, QObject* parent);
 
     /// Begins a run. An earlier one that is still under way is dropped without an outcome of its
-    /// own. Not to be called while isAskingUser(): that run simply goes on.
+    /// own; but while isAskingUser() nothing happens, and that run goes on.
     void start();
 
     /// Answers firstPasswordWanted() or passwordWanted(). Only the password's digest is kept, until
@@ -91,8 +93,7 @@ private:
     };
 
     void startCountdown();
-    void send();
-    void sendAfterPause();
+    void send(std::chrono::milliseconds pause = {});
     void carryOut(InstallMove move, const QString& reply);
     void ask(bool wasRefused);
     void endLogIn();

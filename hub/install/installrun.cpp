@@ -81,7 +81,7 @@ InstallPlace InstallRun::place() const
         m_step >= InstallStep::PresetEntry && m_step <= InstallStep::PeripheralFile;
     const bool isOfDevice = m_step == InstallStep::PeripheralFile;
     return {m_step, isOfPreset ? m_presetNumber : 0,
-            isOfDevice ? m_devices.at(m_deviceIndex) : QString()};
+            isOfDevice ? m_devices.value(m_deviceIndex) : QString()};
 }
 
 std::optional<QString> InstallRun::request()
@@ -198,11 +198,11 @@ InstallRun::Request InstallRun::hubFileRequest()
 InstallMove InstallRun::afterHubFile(const QString& /*reply*/)
 {
     const auto devices = peripheralsOfHub(*m_doc, m_ipAddress, m_presetNumber);
-    if (!devices) {
-        return InstallMove::EndForLackOfRecords;
-    }
-    m_devices = *devices;
+    m_devices = devices.value_or(QStringList());
     m_deviceIndex = 0;
+    if (!devices) {
+        return goTo(InstallStep::PeripheralFile, InstallMove::EndForLackOfRecords);
+    }
     return m_devices.isEmpty() ? goToNextPreset() : goTo(InstallStep::PeripheralFile);
 }
 

@@ -32,8 +32,6 @@ public:
                      QWidget* parent);
     ~PresetFileSender() override;
 
-    const QString& ipAddress() const { return m_ipAddress; }
-
     /// Renames the hub, also in the dialogs that exist already.
     void setHostName(const QString& hostName);
 

@@ -49,7 +49,7 @@ HallDescription describe()
 {
     HallDescription description = HallDescription::byCounts(hubCount, 0, hubAddress(1)).value();
     for (HubDescription& hub : description.hubs) {
-        hub.exportPolls = 0; // each poll would block the whole program for a second
+        hub.exportPolls = 0; // nobody waits for the second between two polls
     }
     description.hubs.first().password = QString::fromLatin1(rightPassword);
     description.hubs.last().password = QString::fromLatin1(rightPassword);

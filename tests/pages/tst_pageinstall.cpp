@@ -25,8 +25,8 @@ private Q_SLOTS:
     void backStopsNoInstallation();
     void forthAgainDuringAnInstallationShowsWhatIsStillRunning();
     void aHubThatPreparesForEverHoldsUpNobodyAndCanBeTriedAgain();
-    void forthAgainAfterAllWasDoneOffersExecuteAnewAndClosingAsksNothing();
-    void whileHubsAreInstalledAgainClosingAsks();
+    void forthAgainAfterAllWasDoneOffersExecuteAnewAndStaysReportedAsInstalled();
+    void whileHubsAreInstalledAgainNothingIsReportedAsInstalled();
     void whatChangesDuringAnInstallationIsNotInstalled_data();
     void whatChangesDuringAnInstallationIsNotInstalled();
     void aFinishOnThePageBeforeDoesNotLetTheUserPassWithoutExecute();
@@ -217,7 +217,7 @@ void TestPageInstall::forthAgainDuringAnInstallationShowsWhatIsStillRunning()
     QTRY_COMPARE(step.execute()->text(), QStringLiteral("Next"));
 }
 
-void TestPageInstall::forthAgainAfterAllWasDoneOffersExecuteAnewAndClosingAsksNothing()
+void TestPageInstall::forthAgainAfterAllWasDoneOffersExecuteAnewAndStaysReportedAsInstalled()
 {
     InstallHall step(base, 1);
     press(step.execute());
@@ -230,7 +230,7 @@ void TestPageInstall::forthAgainAfterAllWasDoneOffersExecuteAnewAndClosingAsksNo
     QVERIFY(step.controller.installDone);
 }
 
-void TestPageInstall::whileHubsAreInstalledAgainClosingAsks()
+void TestPageInstall::whileHubsAreInstalledAgainNothingIsReportedAsInstalled()
 {
     InstallHall step(base, 2);
     press(step.execute());

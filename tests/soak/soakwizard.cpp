@@ -40,7 +40,7 @@ HallDescription describe(const QString& base)
     description.addSecondAddresses(hubs);
     for (HubDescription& hub : description.hubs) {
         hub.password = QStringLiteral("secret7");
-        hub.exportPolls = 0; // each poll would block the whole program for a second
+        hub.exportPolls = 0; // nobody waits for the second between two polls
     }
     return description;
 }

@@ -107,7 +107,7 @@ private Q_SLOTS:
     void labelsAndPresetNamesComeBack();
     void devicesAreKnownAgainByTheirAddressesAndModels_data();
     void devicesAreKnownAgainByTheirAddressesAndModels();
-    void twoAddressesThatAreSavedAlikeBothLoad();
+    void twoAddressesThatAreSavedAlikeDoNotStopTheLoad();
     void aTextTooLongForTheFileIsNotSaved();
 
 private:
@@ -189,7 +189,7 @@ void TestAwkwardTexts::devicesAreKnownAgainByTheirAddressesAndModels()
     QCOMPARE(record->speakerPosition, QStringLiteral("R"));
 }
 
-void TestAwkwardTexts::twoAddressesThatAreSavedAlikeBothLoad()
+void TestAwkwardTexts::twoAddressesThatAreSavedAlikeDoNotStopTheLoad()
 {
     const auto add = [](TesselDoc& doc, const QString& address) {
         return addDevice(doc, {QStringLiteral("x"), QStringLiteral("PX-DL"), QStringLiteral("2.1"),

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void theReasonOfAnEarlierRunIsForgottenWithTheNext();
     void whatTheHubSaysOfItselfIsShownOnOneLine();
     void answersNobodyAskedForChangeNothing();
+    void aStartWhileThePasswordIsAskedForChangesNothing();
     void anExportThatIsNotReadyIsAskedForAgainAfterASecondAtTheEarliest();
     void whileOneHubPreparesTheOthersAreServed();
     void aHubThatPreparesForEverCanBeGivenUpAndTriedAgain();
@@ -239,7 +240,7 @@ void TestInstallDriver::whatTheDocumentLacksIsNamedWithItsRequest_data()
     QTest::addColumn<int>("number");
     QTest::newRow("the preset's name") << DataKind::Preset << 4;
     QTest::newRow("the hub's file") << DataKind::PresetFile << 5;
-    QTest::newRow("the list of devices") << DataKind::DeviceIPList << 5;
+    QTest::newRow("the list of devices") << DataKind::DeviceIPList << 6;
     QTest::newRow("a device's file") << DataKind::DevicePresetFile << 6;
 }
 
@@ -250,7 +251,11 @@ void TestInstallDriver::whatTheDocumentLacksIsNamedWithItsRequest()
     Fixture f;
     f.doc.unreadableKind = kind;
     QVERIFY(f.run());
-    QCOMPARE(f.driver->outcome(), failure(InstallTrouble::MissingRecords, places().at(number)));
+    // Whose file comes first is not known where the list is missing.
+    const InstallPlace place = kind == DataKind::DeviceIPList
+                                   ? InstallPlace{InstallStep::PeripheralFile, 1}
+                                   : places().at(number);
+    QCOMPARE(f.driver->outcome(), failure(InstallTrouble::MissingRecords, place));
 }
 
 void TestInstallDriver::aCancelledLogInIsNamedWithThePasswordThatWasWanted()
@@ -324,11 +329,27 @@ void TestInstallDriver::answersNobodyAskedForChangeNothing()
     QCOMPARE(f.ended.size(), 1);
 }
 
+void TestInstallDriver::aStartWhileThePasswordIsAskedForChangesNothing()
+{
+    Fixture f;
+    // In place of the answer the user presses "Execute" once more.
+    disconnect(f.driver.get(), SIGNAL(passwordWanted(bool)), &f, nullptr);
+    QSignalSpy wanted(f.driver.get(), SIGNAL(passwordWanted(bool)));
+    f.driver->start();
+    QVERIFY(wanted.wait());
+    f.driver->start();
+    QVERIFY(f.driver->isAskingUser());
+    f.driver->submitPassword(password);
+    QVERIFY(f.ended.wait());
+    QVERIFY(f.driver->outcome().isInstalled);
+    QCOMPARE(f.steps(), QStringLiteral("0 1 3 4 5 6 7 8 6 7 9 10"));
+}
+
 void TestInstallDriver::anExportThatIsNotReadyIsAskedForAgainAfterASecondAtTheEarliest()
 {
     Fixture f;
     f.script.first = {{InstallStep::FetchExport, notReady(2)}};
-    // What the hub sees: the time from its reply to the next request.
+    // What the hub sees from one request to the next, its reply in between.
     QList<qint64> waits;
     QElapsedTimer clock;
     f.asked = [&](InstallStep step) {
@@ -352,11 +373,12 @@ void TestInstallDriver::whileOneHubPreparesTheOthersAreServed()
     preparing.driver->start();
     QTRY_VERIFY(preparing.isPausing());
     Fixture other(2);
+    int servedMeanwhile = 0;
+    other.asked = [&](InstallStep) { servedMeanwhile += preparing.isPausing() ? 1 : 0; };
     QVERIFY(other.run());
     QVERIFY(other.driver->outcome().isInstalled);
-    // The whole of the other run took place within one pause.
-    QVERIFY(preparing.isPausing());
-    QCOMPARE(preparing.steps(), QStringLiteral("0 1 3 4 5"));
+    QVERIFY(servedMeanwhile > 0);
+    QVERIFY(preparing.driver->isRunning());
 }
 
 void TestInstallDriver::aHubThatPreparesForEverCanBeGivenUpAndTriedAgain()
@@ -378,10 +400,12 @@ void TestInstallDriver::whatTheHubSaysDuringThePauseIsNoAnswer()
     Fixture f;
     f.script.first = {{InstallStep::FetchExport, notReady(1)}};
     f.driver->start();
-    QTRY_VERIFY(f.isPausing());
-    const QSignalSpy arrived(f.driver->findChild<HttpConnection*>(), SIGNAL(arrived()));
+    QSignalSpy arrived(f.driver->findChild<HttpConnection*>(), SIGNAL(arrived()));
+    while (!f.isPausing()) {
+        QVERIFY(arrived.wait());
+    }
     f.peer.sendUnasked(f.script.good(InstallStep::FetchExport).pieces.first());
-    QTRY_COMPARE(arrived.size(), 1);
+    QVERIFY(arrived.wait());
     QVERIFY(f.isPausing());
     QTRY_COMPARE(f.ended.size(), 1);
     QVERIFY(f.driver->outcome().isInstalled);
