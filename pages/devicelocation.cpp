@@ -81,6 +81,7 @@ void DeviceLocation::reload()
     m_rows.reserve(devices);
     fill(m_hubTable, hubs, roomOfAddress);
     fill(m_peripheralTable, peripherals, roomOfAddress);
+    markRepeatedRows();
     updateSummary();
 }
 
@@ -250,6 +251,16 @@ DeviceLocation::Row DeviceLocation::decorate(DeviceTable* table, QTreeWidgetItem
     return row;
 }
 
+/// A device that is listed twice is counted once; all rows of an address have the same room.
+void DeviceLocation::markRepeatedRows()
+{
+    QSet<QString> addresses;
+    for (Row& row : m_rows) {
+        row.isRepeated = addresses.contains(row.ipAddress);
+        addresses.insert(row.ipAddress);
+    }
+}
+
 void DeviceLocation::nameWidgets(const Row& row)
 {
     const QString label = row.item->text(LabelColumn);
@@ -269,11 +280,9 @@ void DeviceLocation::updateRow(const Row& row)
 void DeviceLocation::updateSummary()
 {
     QList<DeviceCounts> counts(m_rooms);
-    QSet<QString> counted;
     for (const Row& row : std::as_const(m_rows)) {
         const int room = row.room->room();
-        if (room != 0 && !counted.contains(row.ipAddress)) {
-            counted.insert(row.ipAddress);
+        if (room != 0 && !row.isRepeated) {
             counts[room - 1].add(row.modelName);
         }
     }

@@ -22,6 +22,15 @@ DeviceSetInfo unpack(const QVariantMap& data)
             data.value(DataKey::speakerPosition()).toString()};
 }
 
+QList<QVariantMap> mapsOfSet(IDocAccessor& doc, int deviceSet, int scene)
+{
+    QList<QVariantMap> maps;
+    doc.getDataList(DataKind::DeviceSet,
+                    {{DataKey::deviceSetNumber(), deviceSet}, {DataKey::sceneNumber(), scene}},
+                    maps);
+    return maps;
+}
+
 } // namespace
 
 std::optional<DeviceSetInfo> deviceSetRecord(IDocAccessor& doc, int deviceSet, int scene,
@@ -36,10 +45,7 @@ std::optional<DeviceSetInfo> deviceSetRecord(IDocAccessor& doc, int deviceSet, i
 
 QHash<QString, DeviceSetInfo> deviceSetRecords(IDocAccessor& doc, int deviceSet, int scene)
 {
-    QList<QVariantMap> maps;
-    doc.getDataList(DataKind::DeviceSet,
-                    {{DataKey::deviceSetNumber(), deviceSet}, {DataKey::sceneNumber(), scene}},
-                    maps);
+    const QList<QVariantMap> maps = mapsOfSet(doc, deviceSet, scene);
     QHash<QString, DeviceSetInfo> records;
     records.reserve(maps.size());
     for (const QVariantMap& map : maps) {
@@ -47,6 +53,17 @@ QHash<QString, DeviceSetInfo> deviceSetRecords(IDocAccessor& doc, int deviceSet,
         records.insert(record.ipAddress, record);
     }
     return records;
+}
+
+QSet<QString> removedDevices(IDocAccessor& doc, int deviceSet, int scene)
+{
+    QSet<QString> addresses;
+    for (const QVariantMap& map : mapsOfSet(doc, deviceSet, scene)) {
+        if (map.value(DataKey::deviceSetRemove()).toBool()) {
+            addresses.insert(map.value(DataKey::deviceIPAddress()).toString());
+        }
+    }
+    return addresses;
 }
 
 bool addToDeviceSet(IDocAccessor& doc, int deviceSet, int scene, const QString& ipAddress,

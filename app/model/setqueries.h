@@ -3,6 +3,7 @@
 #include "records.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <optional>
 
@@ -17,6 +18,9 @@ std::optional<DeviceSetInfo> deviceSetRecord(IDocAccessor& doc, int deviceSet, i
 /// All records of one set of one layout, found by the device's address: one pass over the records
 /// instead of one search per device.
 QHash<QString, DeviceSetInfo> deviceSetRecords(IDocAccessor& doc, int deviceSet, int scene);
+
+/// The addresses of the devices that were taken out of one set of one layout.
+QSet<QString> removedDevices(IDocAccessor& doc, int deviceSet, int scene);
 
 /// Appends a device to a set with its "removed" mark; its speaker position starts as "L".
 /// False when the device is in that set already.
