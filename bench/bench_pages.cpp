@@ -2,7 +2,7 @@
 // same rows, columns and widgets in them. Pages whose cost depends on the number of devices are
 // entered with two numbers of them.
 
-#include "baredevicesets.h"
+#include "baregrouppage.h"
 #include "barepage.h"
 #include "basepage.h"
 #include "benchdocument.h"
@@ -25,7 +25,9 @@ constexpr int rooms = 4;
 constexpr int cells = 64;
 constexpr int layouts = 10;
 constexpr int groups = rooms * layouts;
+constexpr int placingPage = 2;
 constexpr int deviceSetsPage = 4;
+constexpr int speakersPage = 5;
 constexpr int fewDevices = 250;
 constexpr int manyDevices = 1000;
 
@@ -38,8 +40,7 @@ public:
     void setInstallDone(bool /*done*/) override {}
 };
 
-// The shape of the page at `index` with so many devices; step 4 paints whole rooms, step 6 shows
-// one combined room.
+// The shape of the page at `index` with so many devices; step 4 paints whole rooms.
 BareShape shapeOf(int index, int devices)
 {
     const QString noWidgets;
@@ -54,9 +55,6 @@ BareShape shapeOf(int index, int devices)
                  {devices - rooms, 6, QStringLiteral("op  c")}}};
     case 3:
         return {3, {rooms, 393}, {{layouts, 2, QStringLiteral(" b"), layouts}}};
-    case 5:
-        return {
-            4, {}, {{groups, 3, noWidgets}, {devices / rooms / 2, 7, QStringLiteral(" p   c")}}};
     case 6:
         return {3, {}, {{groups, 4, QStringLiteral("e")}}};
     default:
@@ -113,7 +111,10 @@ void registerPage(int index, int devices)
     fillDocument(*doc, size);
     const auto makeBare = [index, devices, hall = hallRecords(size)](QWidget* parent) -> QWidget* {
         if (index == deviceSetsPage) {
-            return new BareDeviceSets(hall, parent);
+            return new BareGroupPage(BareGroupPage::Step::DeviceSets, hall, parent);
+        }
+        if (index == speakersPage) {
+            return new BareGroupPage(BareGroupPage::Step::SpeakerPositions, hall, parent);
         }
         return new BarePage(shapeOf(index, devices), parent);
     };
@@ -130,7 +131,7 @@ void registerPages()
     for (int index = 1; index <= pageTotal - 2; ++index) {
         registerPage(index, fewDevices);
     }
-    for (const int index : {2, 4, 5}) {
+    for (const int index : {placingPage, deviceSetsPage, speakersPage}) {
         registerPage(index, manyDevices);
     }
 }

@@ -19,8 +19,9 @@ QString modelOf(int device, const HallSize& size)
 {
     static const QStringList peripherals{QStringLiteral("PX-DL5"), QStringLiteral("PX-BK8"),
                                          QStringLiteral("LQA4-08S"), QStringLiteral("DSK4M")};
+    // Every room gets some of each.
     return device < size.hubs ? QStringLiteral("PX-HB")
-                              : peripherals.at(device % peripherals.size());
+                              : peripherals.at(device / rooms % peripherals.size());
 }
 
 DeviceData deviceRecord(int device, const HallSize& size)

@@ -7,29 +7,40 @@
 class QStackedWidget;
 class QTreeWidget;
 class QTreeWidgetItem;
+class QVBoxLayout;
 
-/// Step 5 in the plainest way: the same texts, lists, columns, colours, rows and buttons in the
-/// rows, from plain lists. Of the panels behind the list only the one that is shown has lists; the
-/// devices of all are counted.
-class BareDeviceSets : public QWidget
+/// Steps 5 and 6 in the plainest way: the same texts, lists, columns, colours, rows and widgets in
+/// the rows. Every stored record is handed over once in a map under the same keys, as any page gets
+/// it. Of the panels behind the list only the one that is shown has lists.
+class BareGroupPage : public QWidget
 {
     Q_OBJECT
 
 public:
+    enum class Step
+    {
+        DeviceSets,
+        SpeakerPositions
+    };
+
     /// `hall` is not owned and is used here only.
-    BareDeviceSets(const HallRecords& hall, QWidget* parent);
+    BareGroupPage(Step step, const HallRecords& hall, QWidget* parent);
 
 private Q_SLOTS:
     void identify() {}
     void remove() {}
+    void choosePosition() {}
 
 private:
     void layOut();
     void addGroups(const HallRecords& hall);
+    QList<DeviceData> devicesOfPanel(const HallRecords& hall, int set, int layout, int room) const;
     void buildPanel(QWidget* panel, const SceneInfo& layout, const QList<DeviceData>& devices);
+    void addDeviceTrees(QWidget* panel, QVBoxLayout* column, const QList<DeviceData>& devices);
     QTreeWidget* makeDeviceTree(QWidget* panel, const QList<DeviceData>& devices);
-    void addButtons(QTreeWidget* tree, QTreeWidgetItem* item);
+    void addRowWidgets(QTreeWidget* tree, QTreeWidgetItem* item);
 
+    Step m_step;
     QTreeWidget* m_groups;
     QStackedWidget* m_panels;
 };

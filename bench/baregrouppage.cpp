@@ -1,5 +1,8 @@
-#include "baredevicesets.h"
+#include "baregrouppage.h"
 
+#include "datakey.h"
+
+#include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPainter>
@@ -9,6 +12,7 @@
 #include <QSvgRenderer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <QVariantMap>
 
 #include <array>
 
@@ -17,7 +21,7 @@ namespace {
 constexpr int iconSide = 20;
 constexpr int rowHeight = 26;
 constexpr int identifyColumn = 1;
-constexpr int removeColumn = 5;
+constexpr int lastWidgetColumn = 5;
 
 struct Counts
 {
@@ -32,14 +36,11 @@ struct Counts
     }
 };
 
-Counts count(const QList<DeviceData>& devices, const QHash<QString, bool>& removed)
+Counts count(const QList<DeviceData>& devices)
 {
     Counts counts;
     for (const DeviceData& device : devices) {
         const QString& model = device.modelName;
-        if (removed.value(device.ipAddress)) {
-            continue;
-        }
         if (model.startsWith(u"PX-HB")) {
             ++counts.hubs;
         } else if (model.startsWith(u"PX-DL") || model.startsWith(u"PX-BK") ||
@@ -65,15 +66,25 @@ QList<DeviceData> devicesInRoom(const HallRecords& hall, int room)
     return devices;
 }
 
-QHash<QString, bool> removedDevices(const HallRecords& hall, int set, int layout)
+// What the step keeps of a record: nothing where the device is removed from the set.
+QHash<QString, QString> positions(const HallRecords& hall, int set, int layout)
 {
-    QHash<QString, bool> removed;
+    QHash<QString, QString> positions;
     for (const DeviceSetInfo& record : hall.sets) {
-        if (record.deviceSetNumber == set && record.sceneNumber == layout) {
-            removed.insert(record.ipAddress, record.remove);
+        if (record.deviceSetNumber != set || record.sceneNumber != layout) {
+            continue;
+        }
+        const QVariantMap data{{DataKey::deviceSetNumber(), set},
+                               {DataKey::sceneNumber(), layout},
+                               {DataKey::deviceIPAddress(), record.ipAddress},
+                               {DataKey::deviceSetRemove(), record.remove},
+                               {DataKey::speakerPosition(), record.speakerPosition}};
+        if (!data.value(DataKey::deviceSetRemove()).toBool()) {
+            positions.insert(data.value(DataKey::deviceIPAddress()).toString(),
+                             data.value(DataKey::speakerPosition()).toString());
         }
     }
-    return removed;
+    return positions;
 }
 
 QTreeWidget* makeTree(const QStringList& headers, const QList<int>& widths, QWidget* parent)
@@ -132,8 +143,9 @@ QPixmap identifyIcon()
 
 } // namespace
 
-BareDeviceSets::BareDeviceSets(const HallRecords& hall, QWidget* parent)
+BareGroupPage::BareGroupPage(Step step, const HallRecords& hall, QWidget* parent)
     : QWidget(parent)
+    , m_step(step)
     , m_groups(makeTree({QStringLiteral("No."), QStringLiteral("Layout"), QStringLiteral("Room")},
                         {15, 40, 40}, this))
     , m_panels(new QStackedWidget(this))
@@ -143,7 +155,7 @@ BareDeviceSets::BareDeviceSets(const HallRecords& hall, QWidget* parent)
     m_groups->setCurrentItem(m_groups->topLevelItem(0));
 }
 
-void BareDeviceSets::layOut()
+void BareGroupPage::layOut()
 {
     auto* layout = new QVBoxLayout(this);
     for (const int length : {2, 3, 2}) {
@@ -167,42 +179,69 @@ void BareDeviceSets::layOut()
     }
 }
 
-void BareDeviceSets::addGroups(const HallRecords& hall)
+void BareGroupPage::addGroups(const HallRecords& hall)
 {
     QList<QTreeWidgetItem*> rows;
     for (const SceneInfo& layout : hall.layouts) {
         for (const QString& room : layout.roomGroup.split(u'/')) {
             const int number = int(rows.size()) + 1;
-            const QList<DeviceData> devices = devicesInRoom(hall, room.toInt());
-            const auto removed = removedDevices(hall, number, layout.number);
-            const Counts counts = count(devices, removed);
+            const QList<DeviceData> devices =
+                devicesOfPanel(hall, number, layout.number, room.toInt());
             auto* panel = new QWidget(m_panels);
             if (rows.isEmpty()) {
                 buildPanel(panel, layout, devices);
             }
             m_panels->addWidget(panel);
-            rows.append(makeGroupRow(number, layout.number, room.toInt(), counts.isSupported()));
+            rows.append(
+                makeGroupRow(number, layout.number, room.toInt(), count(devices).isSupported()));
         }
     }
     m_groups->addTopLevelItems(rows);
 }
 
-void BareDeviceSets::buildPanel(QWidget* panel, const SceneInfo& layout,
-                                const QList<DeviceData>& devices)
+// The devices that are not removed; of them the loudspeakers in step 6.
+QList<DeviceData> BareGroupPage::devicesOfPanel(const HallRecords& hall, int set, int layout,
+                                                int room) const
+{
+    const QHash<QString, QString> kept = positions(hall, set, layout);
+    QList<DeviceData> devices;
+    for (const DeviceData& device : devicesInRoom(hall, room)) {
+        const bool isWanted = m_step == Step::DeviceSets || device.modelName == u"LQA4-08S" ||
+                              device.modelName == u"DSK4M";
+        if (isWanted && kept.contains(device.ipAddress)) {
+            devices.append(device);
+        }
+    }
+    return devices;
+}
+
+void BareGroupPage::buildPanel(QWidget* panel, const SceneInfo& layout,
+                               const QList<DeviceData>& devices)
+{
+    auto* picture = new QLabel(panel);
+    picture->setPixmap(layout.thumbnail);
+    auto* top = new QHBoxLayout;
+    top->addWidget(picture, 0, Qt::AlignTop);
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addLayout(top);
+    if (m_step == Step::DeviceSets) {
+        top->addWidget(makeSummary(count(devices), panel), 1, Qt::AlignTop);
+        addDeviceTrees(panel, column, devices);
+    } else {
+        column->addWidget(new QLabel(QStringLiteral("Speaker Position"), panel));
+        column->addWidget(makeDeviceTree(panel, devices), 1);
+    }
+}
+
+void BareGroupPage::addDeviceTrees(QWidget* panel, QVBoxLayout* column,
+                                   const QList<DeviceData>& devices)
 {
     QList<DeviceData> hubs;
     QList<DeviceData> peripherals;
     for (const DeviceData& device : devices) {
         (device.modelName.startsWith(u"PX-HB") ? hubs : peripherals).append(device);
     }
-    auto* picture = new QLabel(panel);
-    picture->setPixmap(layout.thumbnail);
-    auto* top = new QHBoxLayout;
-    top->addWidget(picture, 0, Qt::AlignTop);
-    top->addWidget(makeSummary(count(devices, {}), panel), 1, Qt::AlignTop);
-    auto* column = new QVBoxLayout(panel);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addLayout(top);
     column->addWidget(new QLabel(QStringLiteral("PX-HB"), panel));
     column->addWidget(makeDeviceTree(panel, hubs), 1);
     column->addWidget(new QLabel(QStringLiteral("Peripheral"), panel));
@@ -210,7 +249,7 @@ void BareDeviceSets::buildPanel(QWidget* panel, const SceneInfo& layout,
 }
 
 // All rows first and the widgets in them second, as it must be done.
-QTreeWidget* BareDeviceSets::makeDeviceTree(QWidget* panel, const QList<DeviceData>& devices)
+QTreeWidget* BareGroupPage::makeDeviceTree(QWidget* panel, const QList<DeviceData>& devices)
 {
     QTreeWidget* tree =
         makeTree({QStringLiteral("Hostname"), QString(), QStringLiteral("Model"),
@@ -225,20 +264,27 @@ QTreeWidget* BareDeviceSets::makeDeviceTree(QWidget* panel, const QList<DeviceDa
     tree->addTopLevelItems(items);
     tree->sortItems(0, Qt::AscendingOrder);
     for (QTreeWidgetItem* item : items) {
-        addButtons(tree, item);
+        addRowWidgets(tree, item);
     }
     tree->setSortingEnabled(true);
     return tree;
 }
 
-void BareDeviceSets::addButtons(QTreeWidget* tree, QTreeWidgetItem* item)
+void BareGroupPage::addRowWidgets(QTreeWidget* tree, QTreeWidgetItem* item)
 {
     auto* identifyButton = new BareButton({});
     connect(identifyButton, SIGNAL(clicked()), this, SLOT(identify()));
     tree->setItemWidget(item, identifyColumn, identifyButton);
-    auto* removeButton = new BareButton(QStringLiteral("Remove"));
-    connect(removeButton, SIGNAL(clicked()), this, SLOT(remove()));
-    tree->setItemWidget(item, removeColumn, removeButton);
+    if (m_step == Step::DeviceSets) {
+        auto* removeButton = new BareButton(QStringLiteral("Remove"));
+        connect(removeButton, SIGNAL(clicked()), this, SLOT(remove()));
+        tree->setItemWidget(item, lastWidgetColumn, removeButton);
+    } else {
+        auto* combo = new QComboBox;
+        combo->addItems({QStringLiteral("L"), QStringLiteral("R")});
+        connect(combo, SIGNAL(currentTextChanged(QString)), this, SLOT(choosePosition()));
+        tree->setItemWidget(item, lastWidgetColumn, combo);
+    }
 }
 
 BareButton::BareButton(const QString& text)
