@@ -2,8 +2,11 @@
 
 #include "comparison.h"
 
+#include <QDate>
 #include <QFile>
+#include <QSysInfo>
 #include <QTextStream>
+#include <QThread>
 
 #include <algorithm>
 
@@ -173,6 +176,13 @@ SampleLists readSamples(const QString& path)
         }
     }
     return samples;
+}
+
+QString formatHeading()
+{
+    return QStringLiteral("Measured on %1, %2, Qt %3, %4 processors:\n\n")
+        .arg(QDate::currentDate().toString(Qt::ISODate), QSysInfo::prettyProductName(),
+             QLatin1String(qVersion()), QString::number(QThread::idealThreadCount()));
 }
 
 QString formatTable(const SampleLists& samples, const SampleLists& instructions)
