@@ -52,7 +52,11 @@ DeviceSet::DeviceSet(RoomGroup group, IDocAccessor* doc, QWidget* parent)
 void DeviceSet::fill(RoomDevices& devices)
 {
     m_devices = devices.in(m_group.roomNumbers());
-    m_removed = removedDevices(*m_doc, m_group.number, m_group.sceneNumber);
+    QStringList addresses;
+    for (const DeviceEntry& device : std::as_const(m_devices)) {
+        addresses.append(device.ipAddress);
+    }
+    m_removed = removedDevices(*m_doc, m_group.number, m_group.sceneNumber, addresses);
     count();
 }
 
