@@ -94,16 +94,22 @@ void DeviceLocation::save()
 
 void DeviceLocation::reset()
 {
-    // Rows must not be sorted anew one by one while their room texts change.
-    m_hubTable->setSortingEnabled(false);
-    m_peripheralTable->setSortingEnabled(false);
+    // Rows sorted by room must not be sorted anew one by one while their room texts change.
+    QList<DeviceTable*> sortedByRoom;
+    for (DeviceTable* table : {m_hubTable, m_peripheralTable}) {
+        if (table->sortColumn() == RoomColumn) {
+            table->setSortingEnabled(false);
+            sortedByRoom.append(table);
+        }
+    }
     for (const Row& row : std::as_const(m_rows)) {
         const QSignalBlocker oneRecountForAll(row.room);
         row.room->setRoom(0);
         updateRow(row);
     }
-    m_hubTable->setSortingEnabled(true);
-    m_peripheralTable->setSortingEnabled(true);
+    for (DeviceTable* table : std::as_const(sortedByRoom)) {
+        table->setSortingEnabled(true);
+    }
     updateSummary();
 }
 
