@@ -13,7 +13,6 @@ public:
     BareConversation(const QString& address, quint16 port, const QList<QByteArray>& messages);
 
     void connectToPeer() { m_socket.connectToHost(m_address, m_port); }
-    bool isConnected() const { return m_socket.state() == QAbstractSocket::ConnectedState; }
 
 public Q_SLOTS:
     /// Sends the first message.

@@ -87,6 +87,7 @@ QTreeWidget* makeBareTree(const BareTree& shape, QWidget* parent)
     auto* tree = new QTreeWidget(parent);
     tree->setColumnCount(shape.columns);
     tree->setRootIsDecorated(false);
+    tree->setUniformRowHeights(true);
     QList<QTreeWidgetItem*> items;
     for (int row = 0; row < shape.rows; ++row) {
         items.append(makeRow(shape, row));

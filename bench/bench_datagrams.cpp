@@ -1,9 +1,10 @@
 // 250 discovery replies: parsed and entered into the document, beside parsing the same bytes by
-// hand into a list of texts.
+// hand, handing the values over in a map under the same keys, and appending the record to a list.
 
 #include "benchdocument.h"
 #include "benchpair.h"
 #include "benchrows.h"
+#include "datakey.h"
 #include "devicequeries.h"
 #include "discoverypacket.h"
 #include "mactext.h"
@@ -11,6 +12,7 @@
 #include "tesseldoc.h"
 
 #include <QHostAddress>
+#include <QVariantMap>
 #include <QtEndian>
 
 namespace {
@@ -63,11 +65,6 @@ void parseAndEnter(const QList<QByteArray>& datagrams, Stopwatch& watch)
     watch.stop();
 }
 
-struct Entry
-{
-    QString address, mac, service, name, model, version;
-};
-
 QString takeText(const QByteArray& bytes, qsizetype& at)
 {
     const auto length = qsizetype(uchar(bytes.at(at)));
@@ -76,28 +73,50 @@ QString takeText(const QByteArray& bytes, qsizetype& at)
     return text;
 }
 
-Entry parseByHand(const QByteArray& bytes)
+QVariantMap parseByHand(const QByteArray& bytes)
 {
-    Entry entry;
-    entry.address = QHostAddress(qFromBigEndian<quint32>(bytes.constData() + 8)).toString();
-    entry.mac = QString::fromLatin1(bytes.mid(24, 6).toHex(':').toUpper());
+    QVariantMap data;
+    data.insert(DataKey::deviceIPAddress(),
+                QHostAddress(qFromBigEndian<quint32>(bytes.constData() + 8)).toString());
+    data.insert(DataKey::deviceMacAddress(),
+                QString::fromLatin1(bytes.mid(24, 6).toHex(':').toUpper()));
     qsizetype at = 30;
-    entry.service = takeText(bytes, at);
+    const QString service = takeText(bytes, at);
     at += 2;
-    entry.name = takeText(bytes, at);
-    entry.model = takeText(bytes, at);
-    entry.version = takeText(bytes, at);
-    return entry;
+    data.insert(DataKey::deviceLabel(), takeText(bytes, at));
+    data.insert(DataKey::deviceModelName(), takeText(bytes, at));
+    data.insert(DataKey::deviceVersion(), takeText(bytes, at));
+    data.insert(DataKey::deviceSearchType(), QStringLiteral("QNFL"));
+    return data;
+}
+
+void enterByHand(QList<DeviceData>& devices, const QVariantMap& data)
+{
+    DeviceData device;
+    device.label = data.value(DataKey::deviceLabel()).toString();
+    device.ipAddress = data.value(DataKey::deviceIPAddress()).toString();
+    device.modelName = data.value(DataKey::deviceModelName()).toString();
+    device.version = data.value(DataKey::deviceVersion()).toString();
+    device.macAddress = data.value(DataKey::deviceMacAddress()).toString();
+    device.searchType = data.value(DataKey::deviceSearchType()).toString();
+    device.password = data.value(DataKey::devicePassword()).toString();
+    device.roomNumber = data.value(DataKey::roomNumber()).toInt();
+    if (device.modelName.startsWith(u"PX-") || device.modelName == u"LQA4-08S" ||
+        device.modelName == u"DSK4M" || device.modelName == u"PNB-QE7") {
+        if (device.version.split(u'.').first().toInt() >= 2) {
+            devices.append(device);
+        }
+    }
 }
 
 void parseAllByHand(const QList<QByteArray>& datagrams, Stopwatch& watch)
 {
-    QList<Entry> entries;
+    QList<DeviceData> devices;
     watch.start();
     for (const QByteArray& bytes : datagrams) {
         if (bytes.startsWith("QNFL") &&
             bytes.size() == 6 + qFromBigEndian<quint16>(bytes.constData() + 4)) {
-            entries.append(parseByHand(bytes));
+            enterByHand(devices, parseByHand(bytes));
         }
     }
     watch.stop();

@@ -1,6 +1,8 @@
-// Entering each working page for the first time until it is painted, beside bare trees with as many
-// rows, columns and widgets in them.
+// Entering each working page for the first time until it is painted, beside bare trees with the
+// same rows, columns and widgets in them. Pages whose cost depends on the number of devices are
+// entered with two numbers of them.
 
+#include "baregrouppage.h"
 #include "barepage.h"
 #include "basepage.h"
 #include "benchdocument.h"
@@ -14,6 +16,7 @@
 #include <QApplication>
 #include <QStackedWidget>
 
+#include <functional>
 #include <memory>
 
 namespace {
@@ -22,6 +25,11 @@ constexpr int rooms = 4;
 constexpr int cells = 64;
 constexpr int layouts = 10;
 constexpr int groups = rooms * layouts;
+constexpr int placingPage = 2;
+constexpr int deviceSetsPage = 4;
+constexpr int speakersPage = 5;
+constexpr int fewDevices = 250;
+constexpr int manyDevices = 1000;
 
 class StillController : public IPageController
 {
@@ -32,14 +40,10 @@ public:
     void setInstallDone(bool /*done*/) override {}
 };
 
-// The shape of the page at `index` with so many devices; step 4 paints whole rooms, step 5 and 6
-// show one combined room.
+// The shape of the page at `index` with so many devices; step 4 paints whole rooms.
 BareShape shapeOf(int index, int devices)
 {
-    const int inRoom = devices / rooms;
     const QString noWidgets;
-    const BareTree groupList{groups, 3, noWidgets};
-    const BareTree summary{1, 5, noWidgets};
     switch (index) {
     case 1:
         return {3, {cells, 402}, {}};
@@ -47,19 +51,10 @@ BareShape shapeOf(int index, int devices)
         return {5,
                 {cells, 113},
                 {{rooms, 4, noWidgets},
-                 {rooms, 6, QStringLiteral("opc")},
-                 {devices - rooms, 6, QStringLiteral("opc")}}};
+                 {rooms, 6, QStringLiteral("op  c")},
+                 {devices - rooms, 6, QStringLiteral("op  c")}}};
     case 3:
         return {3, {rooms, 393}, {{layouts, 2, QStringLiteral(" b"), layouts}}};
-    case 4:
-        return {6,
-                {},
-                {groupList,
-                 summary,
-                 {1, 7, QStringLiteral("pp")},
-                 {inRoom - 1, 7, QStringLiteral("pp")}}};
-    case 5:
-        return {4, {}, {groupList, {inRoom / 2, 7, QStringLiteral("pc")}}};
     case 6:
         return {3, {}, {{groups, 4, QStringLiteral("e")}}};
     default:
@@ -87,11 +82,11 @@ struct Frame
     QStackedWidget window;
 };
 
-void enterBare(const BareShape& shape, Stopwatch& watch)
+void enterBare(const std::function<QWidget*(QWidget*)>& makeBare, Stopwatch& watch)
 {
     Frame frame;
     watch.start();
-    auto* page = new BarePage(shape, &frame.window);
+    QWidget* page = makeBare(&frame.window);
     frame.window.addWidget(page);
     frame.showUntilPainted(page);
     watch.stop();
@@ -109,19 +104,34 @@ void enter(IDocAccessor& doc, int index, Stopwatch& watch)
     watch.stop();
 }
 
+void registerPage(int index, int devices)
+{
+    const HallSize size{rooms, devices - rooms, layouts};
+    const auto doc = std::make_shared<TesselDoc>(nullptr);
+    fillDocument(*doc, size);
+    const auto makeBare = [index, devices, hall = hallRecords(size)](QWidget* parent) -> QWidget* {
+        if (index == deviceSetsPage) {
+            return new BareGroupPage(BareGroupPage::Step::DeviceSets, hall, parent);
+        }
+        if (index == speakersPage) {
+            return new BareGroupPage(BareGroupPage::Step::SpeakerPositions, hall, parent);
+        }
+        return new BarePage(shapeOf(index, devices), parent);
+    };
+    registerPair(
+        QStringLiteral("page%1x%2").arg(index + 1).arg(devices), devices > fewDevices ? 9 : 15,
+        [makeBare](Stopwatch& watch) { enterBare(makeBare, watch); },
+        [doc, index](Stopwatch& watch) { enter(*doc, index, watch); });
+}
+
 } // namespace
 
 void registerPages()
 {
-    for (const int devices : {250, 1000}) {
-        const auto doc = std::make_shared<TesselDoc>(nullptr);
-        fillDocument(*doc, {rooms, devices - rooms, layouts});
-        for (int index = 1; index <= pageTotal - 2; ++index) {
-            const BareShape shape = shapeOf(index, devices);
-            registerPair(
-                QStringLiteral("page%1x%2").arg(index + 1).arg(devices), devices > 250 ? 9 : 15,
-                [shape](Stopwatch& watch) { enterBare(shape, watch); },
-                [doc, index](Stopwatch& watch) { enter(*doc, index, watch); });
-        }
+    for (int index = 1; index <= pageTotal - 2; ++index) {
+        registerPage(index, fewDevices);
+    }
+    for (const int index : {placingPage, deviceSetsPage, speakersPage}) {
+        registerPage(index, manyDevices);
     }
 }

@@ -1,19 +1,30 @@
 // Every preset file of 10 layouts for 4 hubs with 24 peripherals each, as the installation asks the
-// document for them, beside writing the same bytes from ready lists.
+// document for them, beside the same files from plain lists.
 
-#include "benchdocument.h"
+#include "barefiles.h"
 #include "benchpair.h"
 #include "benchrows.h"
 #include "presetqueries.h"
 #include "stopwatch.h"
 #include "tesseldoc.h"
 
-#include <QXmlStreamReader>
-#include <QXmlStreamWriter>
-
 namespace {
 
 constexpr HallSize size{4, 96, 10};
+
+QList<QByteArray> bareFiles(const HallRecords& hall)
+{
+    QList<QByteArray> files;
+    for (int hub = 0; hub < size.hubs; ++hub) {
+        for (int layout = 1; layout <= size.layouts; ++layout) {
+            files.append(BareFiles::hubFile(hall, benchAddress(hub), layout).toUtf8());
+            for (const QString& address : BareFiles::peripherals(hall, benchAddress(hub), layout)) {
+                files.append(BareFiles::peripheralFile(*hall.deviceAt.find(address)).toUtf8());
+            }
+        }
+    }
+    return files;
+}
 
 QList<QByteArray> allFiles(IDocAccessor& doc)
 {
@@ -30,47 +41,21 @@ QList<QByteArray> allFiles(IDocAccessor& doc)
     return files;
 }
 
-// The attributes of one file, ready to be written.
-QXmlStreamAttributes attributesOf(const QByteArray& file)
-{
-    QXmlStreamReader reader(file);
-    reader.readNextStartElement();
-    reader.readNextStartElement();
-    return reader.attributes();
-}
-
-QByteArray writeFile(const QXmlStreamAttributes& attributes)
-{
-    QString text;
-    QXmlStreamWriter writer(&text);
-    writer.setAutoFormatting(true);
-    writer.setAutoFormattingIndent(1);
-    writer.writeStartElement(QStringLiteral("provisioning"));
-    writer.writeStartElement(QStringLiteral("config"));
-    writer.writeAttributes(attributes);
-    writer.writeEndElement();
-    writer.writeEndElement();
-    return text.toUtf8();
-}
-
 } // namespace
 
 void registerPresetFiles()
 {
     const auto doc = std::make_shared<TesselDoc>(nullptr);
     fillDocument(*doc, size);
-    QList<QXmlStreamAttributes> ready;
-    for (const QByteArray& file : allFiles(*doc)) {
-        ready.append(attributesOf(file));
+    const HallRecords hall = hallRecords(size);
+    if (bareFiles(hall) != allFiles(*doc)) {
+        qFatal("The two sides write different preset files.");
     }
     registerPair(
         QStringLiteral("presetfiles"), 40,
-        [ready](Stopwatch& watch) {
-            QList<QByteArray> files;
+        [hall](Stopwatch& watch) {
             watch.start();
-            for (const QXmlStreamAttributes& attributes : ready) {
-                files.append(writeFile(attributes));
-            }
+            const QList<QByteArray> files = bareFiles(hall);
             watch.stop();
         },
         [doc](Stopwatch& watch) {

@@ -1,20 +1,22 @@
-// Identifying devices and installing presets, each beside bare sockets that send the same bytes to
-// the same peer. Run it on one CPU (taskset -c 0): across two, waking the other end costs more than
-// all that is measured.
+// Identifying devices and installing presets, each beside the plainest code that has the same
+// conversation with the same peer. Run it on one CPU (taskset -c 0): across two, waking the other
+// end costs more than all that is measured.
 
 #include "bareconversation.h"
+#include "bareidentity.h"
+#include "bareinstaller.h"
 #include "benchdocument.h"
 #include "benchpair.h"
 #include "cannedpeer.h"
 #include "countdown.h"
 #include "deviceinforeceiver.h"
 #include "installdesk.h"
-#include "installrun.h"
 #include "presetfilesender.h"
 #include "stopwatch.h"
 #include "tesseldoc.h"
 
 #include <QApplication>
+#include <QSignalSpy>
 
 #include <benchmark/benchmark.h>
 
@@ -24,7 +26,6 @@
 namespace {
 
 constexpr int mostDevices = 1000;
-constexpr quint16 textPort = SCPCommandSender::port;
 constexpr quint16 webPort = 80;
 constexpr HallSize hall{4, 64, 10}; // 16 peripherals per hub
 
@@ -37,23 +38,14 @@ QStringList addresses(int count)
     return list;
 }
 
-QList<QByteArray> identityQuestions()
-{
-    return {"devinfo deviceid\n", "devinfo deviceid\n", "devinfo devicename\n",
-            "devinfo version\n",  "devinfo serialno\n", "sscurrent_ex config\n"};
-}
-
 void identifyBare(int devices, Stopwatch& watch)
 {
-    std::vector<std::unique_ptr<BareConversation>> peers;
+    std::vector<std::unique_ptr<BareIdentity>> peers;
     Countdown countdown(devices);
     watch.start();
     for (const QString& address : addresses(devices)) {
-        peers.push_back(std::make_unique<BareConversation>(address, textPort, identityQuestions()));
-        QObject::connect(peers.back().get(), SIGNAL(connected()), peers.back().get(),
-                         SLOT(begin()));
+        peers.push_back(std::make_unique<BareIdentity>(address));
         QObject::connect(peers.back().get(), SIGNAL(finished()), &countdown, SLOT(done()));
-        peers.back()->connectToPeer();
     }
     countdown.wait();
     watch.stop();
@@ -74,47 +66,74 @@ void identify(int devices, Stopwatch& watch)
     watch.stop();
 }
 
-// The requests of one hub's transfer, as an installation words them.
-QList<QByteArray> transferRequests(IDocAccessor& doc, const QString& hub)
+using Installers = std::vector<std::unique_ptr<BareInstaller>>;
+
+// So many, connected and ready to begin.
+Installers connectedInstallers(const HallRecords& records, int hubs)
 {
-    InstallRun run(hub, &doc);
-    run.begin();
+    Installers installers;
+    Countdown connections(hubs);
+    for (int hub = 0; hub < hubs; ++hub) {
+        installers.push_back(std::make_unique<BareInstaller>(benchAddress(hub), records));
+        QObject::connect(installers.back().get(), SIGNAL(connected()), &connections, SLOT(done()));
+        installers.back()->connectToHub();
+    }
+    connections.wait();
+    return installers;
+}
+
+/// Returns how many bytes the hubs got.
+qint64 transferBare(const HallRecords& records, int hubs, const CannedPeer& peer, Stopwatch& watch)
+{
+    const Installers installers = connectedInstallers(records, hubs);
+    Countdown countdown(hubs);
+    for (const auto& installer : installers) {
+        QObject::connect(installer.get(), SIGNAL(finished()), &countdown, SLOT(done()));
+    }
+    const qint64 before = peer.bytesReceived();
+    watch.start();
+    for (const auto& installer : installers) {
+        installer->begin();
+    }
+    countdown.wait();
+    watch.stop();
+    return peer.bytesReceived() - before;
+}
+
+// The requests of the first hub's transfer.
+QList<QByteArray> transferRequests(const HallRecords& records)
+{
+    const Installers installers = connectedInstallers(records, 1);
+    Countdown countdown(1);
+    BareInstaller* const installer = installers.front().get();
+    const QSignalSpy spy(installer, SIGNAL(sending(QByteArray)));
+    QObject::connect(installer, SIGNAL(finished()), &countdown, SLOT(done()));
+    installer->begin();
+    countdown.wait();
     QList<QByteArray> requests;
-    const QString reply = QString::fromUtf8(CannedPeer::webReply());
-    for (auto move = InstallMove::Send; move != InstallMove::EndInSuccess;) {
-        if (move == InstallMove::EndLogIn) {
-            run.beginTransfer();
-            requests.clear();
-        }
-        run.setPassword(QString());
-        requests.append(run.request().value().toUtf8());
-        move = run.evaluate(reply);
+    for (const QList<QVariant>& sent : spy) {
+        requests.append(sent.first().toByteArray());
     }
     return requests;
 }
 
-void transferBare(int hubs, const QList<QList<QByteArray>>& requests, Stopwatch& watch)
+void sendPrepared(const QList<QByteArray>& requests, Stopwatch& watch)
 {
-    std::vector<std::unique_ptr<BareConversation>> peers;
-    Countdown connections(hubs);
-    Countdown countdown(hubs);
-    for (int hub = 0; hub < hubs; ++hub) {
-        peers.push_back(
-            std::make_unique<BareConversation>(benchAddress(hub), webPort, requests.at(hub)));
-        QObject::connect(peers.back().get(), SIGNAL(connected()), &connections, SLOT(done()));
-        QObject::connect(peers.back().get(), SIGNAL(finished()), &countdown, SLOT(done()));
-        peers.back()->connectToPeer();
-    }
-    connections.wait();
+    BareConversation hub(benchAddress(0), webPort, requests);
+    Countdown connection(1);
+    Countdown countdown(1);
+    QObject::connect(&hub, SIGNAL(connected()), &connection, SLOT(done()));
+    QObject::connect(&hub, SIGNAL(finished()), &countdown, SLOT(done()));
+    hub.connectToPeer();
+    connection.wait();
     watch.start();
-    for (const auto& peer : peers) {
-        peer->begin();
-    }
+    hub.begin();
     countdown.wait();
     watch.stop();
 }
 
-void transfer(int hubs, IDocAccessor& doc, Stopwatch& watch)
+/// Returns how many bytes the hubs got after the log-in.
+qint64 transfer(IDocAccessor& doc, int hubs, const CannedPeer& peer, Stopwatch& watch)
 {
     InstallDesk desk;
     std::vector<std::unique_ptr<PresetFileSender>> senders;
@@ -131,12 +150,14 @@ void transfer(int hubs, IDocAccessor& doc, Stopwatch& watch)
     }
     logIns.wait();
     desk.stopAnswering();
+    const qint64 before = peer.bytesReceived();
     watch.start();
     for (const auto& sender : senders) {
         sender->sendPresets();
     }
     countdown.wait();
     watch.stop();
+    return peer.bytesReceived() - before;
 }
 
 void registerIdentity(int devices, int repetitions)
@@ -147,20 +168,25 @@ void registerIdentity(int devices, int repetitions)
         [=](Stopwatch& watch) { identify(devices, watch); });
 }
 
-void registerTransfers()
+void registerTransfers(const CannedPeer& peer)
 {
     const auto doc = std::make_shared<TesselDoc>(nullptr);
     fillDocument(*doc, hall);
-    QList<QList<QByteArray>> requests;
-    for (int hub = 0; hub < hall.hubs; ++hub) {
-        requests.append(transferRequests(*doc, benchAddress(hub)));
+    const auto records = std::make_shared<HallRecords>(hallRecords(hall));
+    Stopwatch unused{QString()};
+    if (transferBare(*records, 1, peer, unused) != transfer(*doc, 1, peer, unused)) {
+        qFatal("The two sides send different requests.");
     }
     for (const int hubs : {1, 4}) {
         registerPair(
             QStringLiteral("transfer%1").arg(hubs), 40,
-            [=](Stopwatch& watch) { transferBare(hubs, requests, watch); },
-            [=](Stopwatch& watch) { transfer(hubs, *doc, watch); });
+            [=, &peer](Stopwatch& watch) { transferBare(*records, hubs, peer, watch); },
+            [=, &peer](Stopwatch& watch) { transfer(*doc, hubs, peer, watch); });
     }
+    const QList<QByteArray> requests = transferRequests(*records);
+    registerPair(
+        QStringLiteral("sockets"), 40, [=](Stopwatch& watch) { sendPrepared(requests, watch); },
+        [=, &peer](Stopwatch& watch) { transfer(*doc, 1, peer, watch); });
 }
 
 } // namespace
@@ -175,7 +201,7 @@ int main(int argc, char** argv)
     Stopwatch::countPeer(peer.processId());
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
-    registerTransfers();
+    registerTransfers(peer);
     registerIdentity(250, 25);
     registerIdentity(mostDevices, 11);
     benchmark::RunSpecifiedBenchmarks();

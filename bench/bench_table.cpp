@@ -9,7 +9,8 @@ int main(int argc, char** argv)
     if (argc != 3) {
         return 1;
     }
-    QTextStream(stdout) << formatTable(readSamples(QString::fromLocal8Bit(argv[1])),
+    QTextStream(stdout) << formatHeading()
+                        << formatTable(readSamples(QString::fromLocal8Bit(argv[1])),
                                        readSamples(QString::fromLocal8Bit(argv[2])));
     return 0;
 }

@@ -19,67 +19,102 @@ QString modelOf(int device, const HallSize& size)
 {
     static const QStringList peripherals{QStringLiteral("PX-DL5"), QStringLiteral("PX-BK8"),
                                          QStringLiteral("LQA4-08S"), QStringLiteral("DSK4M")};
+    // Every room gets some of each.
     return device < size.hubs ? QStringLiteral("PX-HB")
-                              : peripherals.at(device % peripherals.size());
+                              : peripherals.at(device / rooms % peripherals.size());
 }
 
-FoundDevice found(int device, const HallSize& size)
+DeviceData deviceRecord(int device, const HallSize& size)
 {
     const QString number = QStringLiteral("%1").arg(device, 4, 16, QLatin1Char('0')).toUpper();
-    const QString mac = QStringLiteral("02:00:00:00:") + number.left(2) + u':' + number.right(2);
-    return {QStringLiteral("Device-%1").arg(device),
-            modelOf(device, size),
-            QStringLiteral("2.1.0"),
-            benchAddress(device),
-            mac,
-            QStringLiteral("QNFL"),
-            {}};
+    DeviceData record;
+    record.label = QStringLiteral("Renamed-%1").arg(device);
+    record.ipAddress = benchAddress(device);
+    record.modelName = modelOf(device, size);
+    record.version = QStringLiteral("2.1.0");
+    record.macAddress = QStringLiteral("02:00:00:00:") + number.left(2) + u':' + number.right(2);
+    record.searchType = QStringLiteral("QNFL");
+    record.roomNumber = device % rooms + 1;
+    // A changed label makes the preset files as long as they can be.
+    record.labelModified = true;
+    return record;
 }
 
-int roomOf(int device)
+RoomInfo roomRecord(int room)
 {
-    return device % rooms + 1;
-}
-
-void drawRooms(IDocAccessor& doc)
-{
-    for (int room = 1; room <= rooms; ++room) {
-        QList<QPoint> cells;
-        for (int cell = 0; cell < columnsPerRoom * rowsOfGrid; ++cell) {
-            cells.append({(room - 1) * columnsPerRoom + cell / rowsOfGrid, cell % rowsOfGrid});
-        }
-        setRoomCells(doc, room, cells);
+    RoomInfo record{room, {}};
+    for (int cell = 0; cell < columnsPerRoom * rowsOfGrid; ++cell) {
+        record.positionList.append(
+            {(room - 1) * columnsPerRoom + cell / rowsOfGrid, cell % rowsOfGrid});
     }
+    return record;
 }
 
-void addLayoutWithSets(IDocAccessor& doc, int layout, int devices)
+SceneInfo layoutRecord(int layout)
 {
     QPixmap thumbnail(thumbnailSide, thumbnailSide);
     thumbnail.fill(Qt::darkGray);
-    addLayout(doc, {layout, QStringLiteral("1/2/3/4"), thumbnail});
+    return {layout, QStringLiteral("1/2/3/4"), thumbnail};
+}
+
+void appendSets(HallRecords& records, int layout)
+{
     for (int room = 1; room <= rooms; ++room) {
         const int set = (layout - 1) * rooms + room;
-        addPreset(doc, set, layout, QStringLiteral("Layout %1, room %2").arg(layout).arg(room));
-        for (int device = room - 1; device < devices; device += rooms) {
-            addToDeviceSet(doc, set, layout, benchAddress(device), false);
+        records.presets.append(
+            {set, layout, QStringLiteral("Layout %1, room %2").arg(layout).arg(room)});
+        for (const DeviceData& device : std::as_const(records.devices)) {
+            if (device.roomNumber == room) {
+                records.sets.append({set, layout, device.ipAddress});
+            }
         }
     }
+}
+
+void enter(IDocAccessor& doc, const DeviceData& device)
+{
+    addDevice(doc, {QStringLiteral("As found"), device.modelName, device.version, device.ipAddress,
+                    device.macAddress, device.searchType, QString()});
+    setDeviceRoom(doc, device.ipAddress, device.roomNumber);
+    setDeviceLabel(doc, device.ipAddress, device.label);
 }
 
 } // namespace
 
-void fillDocument(IDocAccessor& doc, const HallSize& size)
+HallRecords hallRecords(const HallSize& size)
 {
-    drawRooms(doc);
-    const int devices = size.hubs + size.peripherals;
-    for (int device = 0; device < devices; ++device) {
-        addDevice(doc, found(device, size));
-        setDeviceRoom(doc, benchAddress(device), roomOf(device));
-        // A changed label makes the preset files as long as they can be.
-        setDeviceLabel(doc, benchAddress(device), QStringLiteral("Renamed-%1").arg(device));
+    HallRecords records;
+    for (int device = 0; device < size.hubs + size.peripherals; ++device) {
+        records.devices.append(deviceRecord(device, size));
+        records.deviceAt.insert(benchAddress(device), records.devices.last());
+    }
+    for (int room = 1; room <= rooms; ++room) {
+        records.rooms.append(roomRecord(room));
     }
     for (int layout = 1; layout <= size.layouts; ++layout) {
-        addLayoutWithSets(doc, layout, devices);
+        records.layouts.append(layoutRecord(layout));
+        appendSets(records, layout);
+    }
+    return records;
+}
+
+void fillDocument(IDocAccessor& doc, const HallSize& size)
+{
+    const HallRecords records = hallRecords(size);
+    for (const DeviceData& device : records.devices) {
+        enter(doc, device);
+    }
+    for (const RoomInfo& room : records.rooms) {
+        setRoomCells(doc, room.number, room.positionList);
+    }
+    for (const SceneInfo& layout : records.layouts) {
+        addLayout(doc, layout);
+    }
+    for (const DeviceSetInfo& set : records.sets) {
+        addToDeviceSet(doc, set.deviceSetNumber, set.sceneNumber, set.ipAddress, set.remove);
+    }
+    for (const PresetInfo& preset : records.presets) {
+        addPreset(doc, preset.deviceSetNumber, preset.sceneNumber, preset.presetName);
     }
 }
 

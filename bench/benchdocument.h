@@ -1,5 +1,9 @@
 #pragma once
 
+#include "records.h"
+
+#include <QHash>
+#include <QList>
 #include <QString>
 
 class IDocAccessor;
@@ -13,7 +17,20 @@ struct HallSize
     int layouts = 10;
 };
 
-/// Fills an empty document as the steps up to the preset names would.
+/// What the steps up to the preset names store, as plain lists: what a floor works from.
+struct HallRecords
+{
+    QList<DeviceData> devices;
+    QHash<QString, DeviceData> deviceAt; ///< the same by address
+    QList<RoomInfo> rooms;
+    QList<SceneInfo> layouts;
+    QList<DeviceSetInfo> sets;
+    QList<PresetInfo> presets;
+};
+
+HallRecords hallRecords(const HallSize& size);
+
+/// Fills an empty document with the same records.
 void fillDocument(IDocAccessor& doc, const HallSize& size);
 
 /// The address of a device by its number, hubs first.

@@ -12,10 +12,9 @@ double measure(const QString& row, const QString& side, const MeasuredWork& work
     Stopwatch watch(row + side);
     work(watch);
     if (isWarm) {
-        recordSample(row + side, watch.processorMs());
-        recordSample(row + QStringLiteral("wall") + side, watch.wallMs());
+        recordSample(row + side, watch.milliseconds());
     }
-    return watch.processorMs();
+    return watch.milliseconds();
 }
 
 } // namespace

@@ -9,7 +9,6 @@ class Stopwatch;
 /// One side of a comparison: prepares, then does the work between start() and stop().
 using MeasuredWork = std::function<void(Stopwatch&)>;
 
-/// Registers a benchmark that does the floor's work and ours by turns, so often. The times by the
-/// wall's clock are recorded as well, as the row with "wall" behind its name.
+/// Registers a benchmark that does the floor's work and ours by turns, so often.
 void registerPair(const QString& row, int repetitions, const MeasuredWork& floor,
                   const MeasuredWork& ours);

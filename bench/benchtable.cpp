@@ -2,8 +2,11 @@
 
 #include "comparison.h"
 
+#include <QDate>
 #include <QFile>
+#include <QSysInfo>
 #include <QTextStream>
+#include <QThread>
 
 #include <algorithm>
 
@@ -22,16 +25,19 @@ double quantile(QList<double> values, double part)
     return values.at(qRound(part * double(values.size() - 1)));
 }
 
-// Value by value where both sides were measured by turns, else against the other's median.
-Ratios ratiosOf(const QList<double>& measured, const QList<double>& reference)
+Ratios quartiles(const QList<double>& ratios)
 {
-    const bool paired = measured.size() == reference.size();
-    const double middle = quantile(reference, 0.5);
-    QList<double> ratios;
-    for (qsizetype index = 0; index < measured.size(); ++index) {
-        ratios.append(measured.at(index) / (paired ? reference.at(index) : middle));
-    }
     return {quantile(ratios, 0.5), quantile(ratios, 0.25), quantile(ratios, 0.75)};
+}
+
+// Value by value: both sides were measured by turns.
+QList<double> ratiosOf(const QList<double>& measured, const QList<double>& reference)
+{
+    QList<double> ratios;
+    for (qsizetype index = 0; index < std::min(measured.size(), reference.size()); ++index) {
+        ratios.append(measured.at(index) / reference.at(index));
+    }
+    return ratios;
 }
 
 QString number(double value, int digits = 2)
@@ -44,16 +50,11 @@ QString amount(const QList<double>& values, const QString& unit)
     return values.isEmpty() ? QString() : number(quantile(values, 0.5)) + u' ' + unit;
 }
 
-QString instructionRatio(const Comparison& row, const SampleLists& instructions)
-{
-    const QList<double> measured = instructions.value(row.measured);
-    const QList<double> reference = instructions.value(row.reference);
-    return measured.isEmpty() || reference.isEmpty() ? QStringLiteral("–")
-                                                     : number(measured.last() / reference.last());
-}
-
 QString verdict(double value, double aim)
 {
+    if (aim == 0) {
+        return {};
+    }
     return value <= aim ? QStringLiteral("met") : QStringLiteral("**missed**");
 }
 
@@ -62,17 +63,87 @@ QString line(const QStringList& cells)
     return QStringLiteral("| ") + cells.join(QStringLiteral(" | ")) + QStringLiteral(" |\n");
 }
 
-QString formatRow(const Comparison& row, const SampleLists& samples,
-                  const SampleLists& instructions)
+/// Writes the rows from the samples.
+class TableWriter
 {
-    const QList<double> measured = samples.value(row.measured);
-    const QList<double> reference = samples.value(row.reference);
-    const QString aim = QStringLiteral("≤ ") + number(row.aim);
-    if (measured.isEmpty() || (reference.isEmpty() && !row.reference.isEmpty())) {
+public:
+    TableWriter(const SampleLists& samples, const SampleLists& instructions)
+        : m_samples(samples)
+        , m_instructions(instructions)
+    {
+    }
+
+    QString row(const Comparison& row) const
+    {
+        const QString aim =
+            row.aim == 0 ? QStringLiteral("–") : QStringLiteral("≤ ") + number(row.aim);
+        switch (row.kind) {
+        case ComparisonKind::Pair:
+            return isMeasured(row.measured, row.reference) ? pairRow(row, aim) : gap(row, aim);
+        case ComparisonKind::Growth:
+            return isMeasured(oursOf(row.measured), oursOf(row.reference)) ? growthRow(row, aim)
+                                                                           : gap(row, aim);
+        default:
+            return isMeasured(row.measured, row.measured) ? valueRow(row, aim) : gap(row, aim);
+        }
+    }
+
+private:
+    bool isMeasured(const QString& one, const QString& other) const
+    {
+        return m_samples.contains(one) && m_samples.contains(other);
+    }
+
+    static QString gap(const Comparison& row, const QString& aim)
+    {
         return line({row.what, {}, {}, {}, {}, {}, aim, QStringLiteral("not measured")});
     }
-    if (row.reference.isEmpty()) {
-        const double worst = quantile(measured, 0.5);
+
+    QString instructionRatio(const QString& measured, const QString& reference) const
+    {
+        const QList<double> counted = m_instructions.value(measured);
+        const QList<double> beside = m_instructions.value(reference);
+        return counted.isEmpty() || beside.isEmpty() ? QStringLiteral("–")
+                                                     : number(counted.last() / beside.last());
+    }
+
+    QString pairRow(const Comparison& row, const QString& aim) const
+    {
+        const QList<double> measured = m_samples.value(row.measured);
+        const QList<double> reference = m_samples.value(row.reference);
+        const Ratios ratios = quartiles(ratiosOf(measured, reference));
+        return line({row.what, amount(reference, row.unit), amount(measured, row.unit),
+                     number(ratios.median), number(ratios.lower) + u'–' + number(ratios.upper),
+                     instructionRatio(row.measured, row.reference), aim,
+                     verdict(ratios.median, row.aim)});
+    }
+
+    double growth(const QString& more, const QString& less) const
+    {
+        return quantile(m_samples.value(more), 0.5) / quantile(m_samples.value(less), 0.5);
+    }
+
+    QString growthRow(const Comparison& row, const QString& aim) const
+    {
+        const auto ratios = [this](const QString& name) {
+            return ratiosOf(m_samples.value(oursOf(name)), m_samples.value(floorOf(name)));
+        };
+        const double less = quantile(ratios(row.reference), 0.5);
+        const Ratios more = quartiles(ratios(row.measured));
+        const QString times = QStringLiteral("× ");
+        return line({row.what,
+                     times + number(growth(floorOf(row.measured), floorOf(row.reference))),
+                     times + number(growth(oursOf(row.measured), oursOf(row.reference))),
+                     number(more.median / less),
+                     number(more.lower / less) + u'–' + number(more.upper / less),
+                     {},
+                     aim,
+                     verdict(more.median / less, row.aim)});
+    }
+
+    QString valueRow(const Comparison& row, const QString& aim) const
+    {
+        const QList<double> measured = m_samples.value(row.measured);
         return line({row.what,
                      {},
                      amount(measured, row.unit),
@@ -80,13 +151,12 @@ QString formatRow(const Comparison& row, const SampleLists& samples,
                      {},
                      {},
                      aim + u' ' + row.unit,
-                     verdict(worst, row.aim)});
+                     verdict(quantile(measured, 0.5), row.aim)});
     }
-    const Ratios ratios = ratiosOf(measured, reference);
-    return line({row.what, amount(reference, row.unit), amount(measured, row.unit),
-                 number(ratios.median), number(ratios.lower) + u'–' + number(ratios.upper),
-                 instructionRatio(row, instructions), aim, verdict(ratios.median, row.aim)});
-}
+
+    const SampleLists& m_samples;
+    const SampleLists& m_instructions;
+};
 
 } // namespace
 
@@ -108,6 +178,13 @@ SampleLists readSamples(const QString& path)
     return samples;
 }
 
+QString formatHeading()
+{
+    return QStringLiteral("Measured on %1, %2, Qt %3, %4 processors:\n\n")
+        .arg(QDate::currentDate().toString(Qt::ISODate), QSysInfo::prettyProductName(),
+             QLatin1String(qVersion()), QString::number(QThread::idealThreadCount()));
+}
+
 QString formatTable(const SampleLists& samples, const SampleLists& instructions)
 {
     QString table =
@@ -115,8 +192,9 @@ QString formatTable(const SampleLists& samples, const SampleLists& instructions)
               QStringLiteral("ratio"), QStringLiteral("middle half"),
               QStringLiteral("instructions"), QStringLiteral("aim"), QStringLiteral("verdict")}) +
         QStringLiteral("|---|---|---|---|---|---|---|---|\n");
+    const TableWriter writer(samples, instructions);
     for (const Comparison& row : allComparisons()) {
-        table += formatRow(row, samples, instructions);
+        table += writer.row(row);
     }
     return table;
 }

@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <netinet/in.h>
 #include <sys/epoll.h>
+#include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
@@ -82,8 +83,9 @@ void answerAll(int socket, Conversation& conversation)
 class Loop
 {
 public:
-    explicit Loop(const QList<Listener>& listeners)
+    Loop(const QList<Listener>& listeners, qint64* bytesReceived)
         : m_epoll(epoll_create1(0))
+        , m_bytesReceived(bytesReceived)
     {
         for (const Listener& listener : listeners) {
             m_listeners.insert(listener.socket, listener.isWeb);
@@ -130,12 +132,14 @@ private:
             close(socket);
             return;
         }
+        *m_bytesReceived += count;
         Conversation& conversation = m_conversations[socket];
         conversation.pending.append(m_buffer.data(), count);
         answerAll(socket, conversation);
     }
 
     int m_epoll;
+    qint64* m_bytesReceived;
     QHash<int, bool> m_listeners; ///< socket to "speaks the web API"
     QHash<int, Conversation> m_conversations;
     std::array<char, readSize> m_buffer{};
@@ -153,6 +157,8 @@ void allowManySockets()
 } // namespace
 
 CannedPeer::CannedPeer(const QStringList& textAddresses, const QStringList& webAddresses)
+    : m_bytesReceived(static_cast<qint64*>(
+          mmap(nullptr, sizeof(qint64), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0)))
 {
     allowManySockets();
     QList<Listener> listeners;
@@ -167,7 +173,7 @@ CannedPeer::CannedPeer(const QStringList& textAddresses, const QStringList& webA
     m_pid = allOpen ? fork() : -1;
     if (m_pid == 0) {
         prctl(PR_SET_PDEATHSIG, SIGKILL);
-        Loop loop(listeners);
+        Loop loop(listeners, m_bytesReceived);
         for (;;) {
             loop.turn();
         }
@@ -183,19 +189,27 @@ CannedPeer::~CannedPeer()
         kill(m_pid, SIGTERM);
         waitpid(m_pid, nullptr, 0);
     }
+    munmap(m_bytesReceived, sizeof(qint64));
 }
 
 QByteArray CannedPeer::webReply()
 {
     // Holds what any of the requests looks for.
-    const QByteArray body = R"({"is-initialized": 1, "access-token": "4f1d8a60b3c2", )"
-                            R"("request": "accepted", "status": "invalid"})";
-    return "HTTP/1.1 200 OK\r\nContent-Type: application/json\r\n"
-           "Content-Disposition: attachment; filename=\"hub.xml\"\r\nContent-Length: " +
-           QByteArray::number(body.size()) + "\r\n\r\n" + body;
+    static const QByteArray body = R"({"is-initialized": 1, "access-token": ")" + token().toUtf8() +
+                                   R"(", "request": "accepted", "status": "invalid"})";
+    static const QByteArray reply =
+        "HTTP/1.1 200 OK\r\nContent-Type: application/json\r\n"
+        "Content-Disposition: attachment; filename=\"hub.xml\"\r\nContent-Length: " +
+        QByteArray::number(body.size()) + "\r\n\r\n" + body;
+    return reply;
 }
 
 QByteArray CannedPeer::textReply()
 {
     return "OK devinfo devicename \"Microphone-12\"\n";
+}
+
+QString CannedPeer::token()
+{
+    return QStringLiteral("4f1d8a60b3c2");
 }

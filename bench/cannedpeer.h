@@ -24,10 +24,17 @@ public:
     bool isOpen() const { return m_pid > 0; }
     int processId() const { return m_pid; }
 
+    /// How much has been sent to it so far, over all connections.
+    qint64 bytesReceived() const { return *m_bytesReceived; }
+
     /// What every web request is answered with, and every text command.
     static QByteArray webReply();
     static QByteArray textReply();
 
+    /// The access token in its web replies.
+    static QString token();
+
 private:
+    qint64* m_bytesReceived; ///< shared with the process
     int m_pid = -1;
 };

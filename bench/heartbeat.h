@@ -2,11 +2,11 @@
 
 #include <QBasicTimer>
 #include <QObject>
+#include <QString>
 
-/// A timer of 5 ms that notices how long the event loop did not come round to it.
-///
-/// It counts the processor time of this program between two beats: what the program itself did in
-/// one go, whatever else ran on the machine.
+/// Listens for stalls: beats every millisecond while the event loop is alive, and notes the longest
+/// time between two beats, whether the program worked or slept. Only the time in which it waited
+/// for a processor that other programs held does not count.
 class Heartbeat : public QObject
 {
     Q_OBJECT
@@ -15,6 +15,7 @@ public:
     using QObject::QObject;
 
     void start();
+    void stop() { m_timer.stop(); }
 
     /// The longest stall so far in milliseconds, and what was being done.
     double longestMs() const { return m_longestMs; }

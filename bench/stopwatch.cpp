@@ -17,7 +17,7 @@ namespace {
 
 clockid_t peerClock = CLOCK_PROCESS_CPUTIME_ID;
 
-double milliseconds(clockid_t clock)
+double timeOf(clockid_t clock)
 {
     timespec now{};
     clock_gettime(clock, &now);
@@ -27,7 +27,7 @@ double milliseconds(clockid_t clock)
 double processorTime()
 {
     const bool hasPeer = peerClock != CLOCK_PROCESS_CPUTIME_ID;
-    return milliseconds(CLOCK_PROCESS_CPUTIME_ID) + (hasPeer ? milliseconds(peerClock) : 0);
+    return timeOf(CLOCK_PROCESS_CPUTIME_ID) + (hasPeer ? timeOf(peerClock) : 0);
 }
 
 } // namespace
@@ -43,14 +43,12 @@ void Stopwatch::start()
         CALLGRIND_START_INSTRUMENTATION;
         CALLGRIND_ZERO_STATS;
     }
-    m_wallMs = -milliseconds(CLOCK_MONOTONIC);
-    m_processorMs = -processorTime();
+    m_milliseconds = -processorTime();
 }
 
 void Stopwatch::stop()
 {
-    m_processorMs += processorTime();
-    m_wallMs += milliseconds(CLOCK_MONOTONIC);
+    m_milliseconds += processorTime();
     if (isCountingInstructions()) {
         CALLGRIND_DUMP_STATS_AT(m_series.constData());
         CALLGRIND_STOP_INSTRUMENTATION;

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// Measures the stretch between start() and stop() in milliseconds, on two clocks: the wall's, and
-/// the processor time of this program, which other programs on the machine do not lengthen.
+/// Measures the processor time that this program spends between start() and stop(); other programs
+/// on the machine do not lengthen it.
 ///
 /// Under callgrind the same stretch is counted in instructions instead, and dumped under the
 /// series' name.
@@ -16,8 +16,7 @@ public:
     void start();
     void stop();
 
-    double wallMs() const { return m_wallMs; }
-    double processorMs() const { return m_processorMs; }
+    double milliseconds() const { return m_milliseconds; }
 
     /// From now on the processor time of this other process counts as well: of a peer that answers
     /// this program on the same CPU.
@@ -25,8 +24,7 @@ public:
 
 private:
     QByteArray m_series;
-    double m_wallMs = 0;
-    double m_processorMs = 0;
+    double m_milliseconds = 0;
 };
 
 /// Whether this program runs under callgrind: one repetition is then enough.

@@ -15,23 +15,16 @@ void pack(const DeviceData& device, QVariantMap& data)
     data.insert(DataKey::deviceMacAddress(), device.macAddress);
 }
 
-// Reads the value in its place, which data.value() would copy first.
-QString textOf(const QVariantMap& data, const QString& key)
-{
-    const auto found = data.constFind(key);
-    return found != data.cend() ? found->toString() : QString();
-}
-
 DeviceData unpack(const QVariantMap& data)
 {
     DeviceData device;
-    device.label = textOf(data, DataKey::deviceLabel());
-    device.ipAddress = textOf(data, DataKey::deviceIPAddress());
-    device.modelName = textOf(data, DataKey::deviceModelName());
-    device.version = textOf(data, DataKey::deviceVersion());
-    device.macAddress = textOf(data, DataKey::deviceMacAddress());
-    device.searchType = textOf(data, DataKey::deviceSearchType());
-    device.password = textOf(data, DataKey::devicePassword());
+    device.label = data.value(DataKey::deviceLabel()).toString();
+    device.ipAddress = data.value(DataKey::deviceIPAddress()).toString();
+    device.modelName = data.value(DataKey::deviceModelName()).toString();
+    device.version = data.value(DataKey::deviceVersion()).toString();
+    device.macAddress = data.value(DataKey::deviceMacAddress()).toString();
+    device.searchType = data.value(DataKey::deviceSearchType()).toString();
+    device.password = data.value(DataKey::devicePassword()).toString();
     device.roomNumber = data.value(DataKey::roomNumber()).toInt();
     return device;
 }
@@ -124,7 +117,7 @@ bool DeviceKinds::list(const DocumentData& doc, const QVariantMap& selector,
         if (device.roomNumber == room) {
             QVariantMap data{{DataKey::roomNumber(), room}};
             pack(device, data);
-            list.append(data);
+            list.append(std::move(data));
             found = true;
         }
     }

@@ -4,6 +4,7 @@
 #include "documentdata.h"
 
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -105,7 +106,7 @@ bool DeviceSetKinds::list(const DocumentData& doc, const QVariantMap& selector,
                          {DataKey::sceneNumber(), record.sceneNumber},
                          {DataKey::deviceIPAddress(), record.ipAddress}};
         putChoices(record, data);
-        list.append(data);
+        list.append(std::move(data));
     }
     return !doc.deviceSets.isEmpty();
 }

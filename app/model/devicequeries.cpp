@@ -4,8 +4,6 @@
 #include "datakind.h"
 #include "idocaccessor.h"
 
-#include <map>
-
 namespace {
 
 DeviceEntry unpack(const QVariantMap& data)
@@ -59,17 +57,16 @@ QList<DeviceEntry> devicesInRoom(IDocAccessor& doc, int room)
 
 bool addDevice(IDocAccessor& doc, const FoundDevice& device)
 {
-    // In the order of the key texts: the map appends each without searching for its place.
-    std::map<QString, QVariant> data{{DataKey::deviceIPAddress(), device.ipAddress},
-                                     {DataKey::deviceLabel(), device.label},
-                                     {DataKey::deviceMacAddress(), device.macAddress},
-                                     {DataKey::deviceModelName(), device.modelName},
-                                     {DataKey::deviceSearchType(), device.searchType},
-                                     {DataKey::deviceVersion(), device.version}};
+    QVariantMap data{{DataKey::deviceLabel(), device.label},
+                     {DataKey::deviceModelName(), device.modelName},
+                     {DataKey::deviceVersion(), device.version},
+                     {DataKey::deviceIPAddress(), device.ipAddress},
+                     {DataKey::deviceMacAddress(), device.macAddress},
+                     {DataKey::deviceSearchType(), device.searchType}};
     if (!device.password.isEmpty()) {
-        data.emplace(DataKey::devicePassword(), device.password);
+        data.insert(DataKey::devicePassword(), device.password);
     }
-    return doc.addData(DataKind::Device, QVariantMap(std::move(data)));
+    return doc.addData(DataKind::Device, data);
 }
 
 bool setDeviceRoom(IDocAccessor& doc, const QString& ipAddress, int room)

@@ -19,17 +19,26 @@ bool isCarried(QStringView text, qsizetype at)
     return isAllowed(unit.unicode());
 }
 
+qsizetype firstNotCarried(QStringView text, qsizetype from)
+{
+    while (from < text.size() && isCarried(text, from)) {
+        ++from;
+    }
+    return from;
+}
+
 } // namespace
 
 QString carriedByXml(QStringView text)
 {
     QString kept;
-    kept.reserve(text.size());
-    for (qsizetype at = 0; at < text.size(); ++at) {
-        if (isCarried(text, at)) {
-            kept.append(text.at(at));
-        }
+    qsizetype from = 0;
+    for (qsizetype at = firstNotCarried(text, 0); at < text.size();
+         at = firstNotCarried(text, from)) {
+        kept.append(text.sliced(from, at - from));
+        from = at + 1;
     }
+    kept.append(text.sliced(from));
     return kept;
 }
 

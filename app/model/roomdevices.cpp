@@ -1,5 +1,7 @@
 #include "roomdevices.h"
 
+#include <QSet>
+
 RoomDevices::RoomDevices(IDocAccessor& doc)
     : m_doc(&doc)
 {
@@ -7,13 +9,27 @@ RoomDevices::RoomDevices(IDocAccessor& doc)
 
 QList<DeviceEntry> RoomDevices::in(const QList<int>& rooms)
 {
+    auto found = m_byRooms.find(rooms);
+    if (found == m_byRooms.end()) {
+        found = m_byRooms.insert(rooms, gather(rooms));
+    }
+    return *found;
+}
+
+QList<DeviceEntry> RoomDevices::gather(const QList<int>& rooms)
+{
     QList<DeviceEntry> devices;
+    QSet<QString> addresses;
     for (const int room : rooms) {
-        auto found = m_devices.find(room);
-        if (found == m_devices.end()) {
-            found = m_devices.insert(room, devicesInRoom(*m_doc, room));
+        if (!m_byRoom.contains(room)) {
+            m_byRoom.insert(room, devicesInRoom(*m_doc, room));
         }
-        devices.append(*found);
+        for (const DeviceEntry& device : std::as_const(m_byRoom[room])) {
+            if (!addresses.contains(device.ipAddress)) {
+                addresses.insert(device.ipAddress);
+                devices.append(device);
+            }
+        }
     }
     return devices;
 }

@@ -34,19 +34,20 @@ std::optional<DeviceSetInfo> deviceSetRecord(IDocAccessor& doc, int deviceSet, i
     return unpack(data);
 }
 
-QHash<QString, DeviceSetInfo> deviceSetRecords(IDocAccessor& doc, int deviceSet, int scene)
+QSet<QString> removedDevices(IDocAccessor& doc, int deviceSet, int scene,
+                             const QStringList& addresses)
 {
-    QList<QVariantMap> maps;
-    doc.getDataList(DataKind::DeviceSet,
-                    {{DataKey::deviceSetNumber(), deviceSet}, {DataKey::sceneNumber(), scene}},
-                    maps);
-    QHash<QString, DeviceSetInfo> records;
-    records.reserve(maps.size());
-    for (const QVariantMap& map : maps) {
-        const DeviceSetInfo record = unpack(map);
-        records.insert(record.ipAddress, record);
+    QSet<QString> removed;
+    // One map for all: what the document found for one address it overwrites for the next.
+    QVariantMap data = selector(deviceSet, scene, {});
+    for (const QString& address : addresses) {
+        data.insert(DataKey::deviceIPAddress(), address);
+        if (doc.getData(DataKind::DeviceSet, data) &&
+            data.value(DataKey::deviceSetRemove()).toBool()) {
+            removed.insert(address);
+        }
     }
-    return records;
+    return removed;
 }
 
 bool addToDeviceSet(IDocAccessor& doc, int deviceSet, int scene, const QString& ipAddress,

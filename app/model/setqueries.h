@@ -2,7 +2,8 @@
 
 #include "records.h"
 
-#include <QHash>
+#include <QSet>
+#include <QStringList>
 
 #include <optional>
 
@@ -14,9 +15,9 @@ class IDocAccessor;
 std::optional<DeviceSetInfo> deviceSetRecord(IDocAccessor& doc, int deviceSet, int scene,
                                              const QString& ipAddress);
 
-/// All records of one set of one layout, found by the device's address: one pass over the records
-/// instead of one search per device.
-QHash<QString, DeviceSetInfo> deviceSetRecords(IDocAccessor& doc, int deviceSet, int scene);
+/// Which of these addresses are those of devices taken out of one set of one layout.
+QSet<QString> removedDevices(IDocAccessor& doc, int deviceSet, int scene,
+                             const QStringList& addresses);
 
 /// Appends a device to a set with its "removed" mark; its speaker position starts as "L".
 /// False when the device is in that set already.

@@ -3,16 +3,12 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QJsonValue>
-#include <QStringList>
+#include <QStringTokenizer>
 
 namespace {
 
 constexpr qsizetype longestStatusText = 80;
-
-QString lineEnd()
-{
-    return QStringLiteral("\r\n");
-}
+constexpr QStringView lineEnd = u"\r\n";
 
 QString emptyLine()
 {
@@ -43,12 +39,13 @@ QString HttpReply::body(const QString& reply)
 
 QString HttpReply::status(const QString& reply)
 {
-    return reply.left(reply.indexOf(lineEnd())).section(u' ', 1, 1);
+    const QStringView line = QStringView(reply).left(reply.indexOf(lineEnd));
+    return line.split(u' ').value(1).toString();
 }
 
 QString HttpReply::statusText(const QString& reply)
 {
-    QString text = reply.left(reply.indexOf(lineEnd())).section(u' ', 1);
+    QString text = reply.left(reply.indexOf(lineEnd)).section(u' ', 1);
     for (QChar& character : text) {
         if (!character.isPrint()) {
             character = u' ';
@@ -64,21 +61,22 @@ bool HttpReply::isOk(const QString& reply)
 
 int HttpReply::contentLength(const QString& header)
 {
-    QString last;
-    for (const QString& line : header.split(lineEnd())) {
-        if (line.startsWith(QLatin1String("Content-Length:"))) {
+    QStringView last;
+    for (const QStringView line : QStringTokenizer(QStringView(header), lineEnd)) {
+        if (line.startsWith(u"Content-Length:")) {
             last = line;
         }
     }
-    const QStringList pieces = last.split(u':');
-    return pieces.size() == 2 ? pieces.at(1).simplified().toInt() : 0;
+    const QList<QStringView> pieces = last.split(u':');
+    return pieces.size() == 2 ? pieces.at(1).toString().simplified().toInt() : 0;
 }
 
 bool HttpReply::wantsClose(const QString& header)
 {
-    const QString name = QStringLiteral("Connection:");
-    for (const QString& line : header.split(lineEnd())) {
-        if (line.startsWith(name) && line.mid(name.size()).simplified() == QLatin1String("close")) {
+    constexpr QStringView name = u"Connection:";
+    for (const QStringView line : QStringTokenizer(QStringView(header), lineEnd)) {
+        if (line.startsWith(name) &&
+            line.sliced(name.size()).toString().simplified() == QLatin1String("close")) {
             return true;
         }
     }

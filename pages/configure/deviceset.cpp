@@ -60,14 +60,12 @@ DeviceSet::DeviceSet(RoomGroup group, IDocAccessor* doc, QWidget* parent)
 
 void DeviceSet::fill(RoomDevices& devices)
 {
-    const auto records = deviceSetRecords(*m_doc, m_group.number, m_group.sceneNumber);
-    for (const DeviceEntry& device : devices.in(m_group.roomNumbers())) {
-        if (m_indexes.contains(device.ipAddress)) {
-            continue; // held twice: a device is known by its address
-        }
-        m_indexes.insert(device.ipAddress, m_members.size());
-        m_members.append({device, records.value(device.ipAddress).remove});
+    m_devices = devices.in(m_group.roomNumbers());
+    QStringList addresses;
+    for (const DeviceEntry& device : std::as_const(m_devices)) {
+        addresses.append(device.ipAddress);
     }
+    m_removed = removedDevices(*m_doc, m_group.number, m_group.sceneNumber, addresses);
     count();
 }
 
@@ -146,7 +144,7 @@ void DeviceSet::addRows()
 {
     QList<QStringList> hubs;
     QList<QStringList> peripherals;
-    for (const auto& [device, removed] : std::as_const(m_members)) {
+    for (const DeviceEntry& device : std::as_const(m_devices)) {
         auto& rows = isHub(device.modelName) ? hubs : peripherals;
         rows.append({device.label, QString(), device.modelName, device.ipAddress,
                      QString::number(device.roomNumber)});
@@ -158,7 +156,7 @@ void DeviceSet::addRows()
 
 void DeviceSet::addRemoveButton(DeviceTable* table, QTreeWidgetItem* row)
 {
-    const bool removed = member(row).removed;
+    const bool removed = m_removed.contains(table->addressOf(row));
     auto* button = new RemoveButton(table);
     button->setDevice(row->text(DeviceTable::labelColumn));
     button->setRemoved(removed);
@@ -170,16 +168,11 @@ void DeviceSet::addRemoveButton(DeviceTable* table, QTreeWidgetItem* row)
     connect(button, SIGNAL(clicked(bool)), this, SLOT(removeButtonClicked(bool)));
 }
 
-DeviceSet::Member& DeviceSet::member(const QTreeWidgetItem* row)
-{
-    return m_members[m_indexes.value(row->text(addressColumn))];
-}
-
 void DeviceSet::count()
 {
     DeviceCounts counts;
-    for (const auto& [device, removed] : std::as_const(m_members)) {
-        if (!removed) {
+    for (const DeviceEntry& device : std::as_const(m_devices)) {
+        if (!m_removed.contains(device.ipAddress)) {
             counts.add(device.modelName);
         }
     }
@@ -210,9 +203,7 @@ bool DeviceSet::isValid() const
 
 void DeviceSet::reset()
 {
-    for (Member& member : m_members) {
-        member.removed = false;
-    }
+    m_removed.clear();
     for (auto row = m_rows.cbegin(); row != m_rows.cend(); ++row) {
         row.key()->setRemoved(false);
         paintRow(row.value(), false);
@@ -222,8 +213,9 @@ void DeviceSet::reset()
 
 void DeviceSet::store() const
 {
-    for (const auto& [device, removed] : m_members) {
-        addToDeviceSet(*m_doc, m_group.number, m_group.sceneNumber, device.ipAddress, removed);
+    for (const DeviceEntry& device : m_devices) {
+        addToDeviceSet(*m_doc, m_group.number, m_group.sceneNumber, device.ipAddress,
+                       m_removed.contains(device.ipAddress));
     }
 }
 
@@ -237,7 +229,12 @@ void DeviceSet::removeButtonClicked(bool on)
     QTreeWidgetItem* row = m_rows.value(qobject_cast<RemoveButton*>(sender()));
     if (row != nullptr) {
         paintRow(row, on);
-        member(row).removed = on;
+        const QString address = row->text(addressColumn);
+        if (on) {
+            m_removed.insert(address);
+        } else {
+            m_removed.remove(address);
+        }
         count();
     }
 }

@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QSet>
 #include <QWidget>
 
 class DeviceTable;
@@ -54,26 +55,19 @@ public Q_SLOTS:
     void removeButtonClicked(bool on);
 
 private:
-    struct Member
-    {
-        DeviceEntry device;
-        bool removed = false;
-    };
-
     void createWidgets();
     DeviceTable* createTable(const QString& name, const QString& accessibleName);
     void layOut();
     void chainTabOrder(QWidget* previous);
     void addRows();
     void addRemoveButton(DeviceTable* table, QTreeWidgetItem* row);
-    Member& member(const QTreeWidgetItem* row);
     void count();
     void showCounts(const DeviceCounts& counts);
 
     RoomGroup m_group;
     IDocAccessor* m_doc;
-    QList<Member> m_members;             ///< room by room, in document order within a room
-    QHash<QString, qsizetype> m_indexes; ///< into m_members, by address
+    QList<DeviceEntry> m_devices; ///< room by room, in document order within a room
+    QSet<QString> m_removed;      ///< by address
     bool m_valid = true;
 
     // Null until the lists are built.

@@ -34,10 +34,14 @@ SpeakerPosition::SpeakerPosition(RoomGroup group, IDocAccessor* doc, QWidget* pa
 
 void SpeakerPosition::fill(RoomDevices& devices)
 {
-    const auto records = deviceSetRecords(*m_doc, m_group.number, m_group.sceneNumber);
     for (const DeviceEntry& device : devices.in(m_group.roomNumbers())) {
-        const DeviceSetInfo record = records.value(device.ipAddress);
-        if (deviceClass(device.modelName) == DeviceClass::Speaker && !record.remove) {
+        if (deviceClass(device.modelName) != DeviceClass::Speaker) {
+            continue;
+        }
+        const DeviceSetInfo record =
+            deviceSetRecord(*m_doc, m_group.number, m_group.sceneNumber, device.ipAddress)
+                .value_or(DeviceSetInfo());
+        if (!record.remove) {
             const bool isRight = record.speakerPosition == right;
             m_speakers.append({device, isRight ? right : left});
         }

@@ -81,6 +81,7 @@ void DeviceLocation::reload()
     m_rows.reserve(devices);
     fill(m_hubTable, hubs, roomOfAddress);
     fill(m_peripheralTable, peripherals, roomOfAddress);
+    markRepeatedRows();
     updateSummary();
 }
 
@@ -93,16 +94,22 @@ void DeviceLocation::save()
 
 void DeviceLocation::reset()
 {
-    // Rows must not be sorted anew one by one while their room texts change.
-    m_hubTable->setSortingEnabled(false);
-    m_peripheralTable->setSortingEnabled(false);
+    // Rows sorted by room must not be sorted anew one by one while their room texts change.
+    QList<DeviceTable*> sortedByRoom;
+    for (DeviceTable* table : {m_hubTable, m_peripheralTable}) {
+        if (table->sortColumn() == RoomColumn) {
+            table->setSortingEnabled(false);
+            sortedByRoom.append(table);
+        }
+    }
     for (const Row& row : std::as_const(m_rows)) {
         const QSignalBlocker oneRecountForAll(row.room);
         row.room->setRoom(0);
         updateRow(row);
     }
-    m_hubTable->setSortingEnabled(true);
-    m_peripheralTable->setSortingEnabled(true);
+    for (DeviceTable* table : std::as_const(sortedByRoom)) {
+        table->setSortingEnabled(true);
+    }
     updateSummary();
 }
 
@@ -250,6 +257,16 @@ DeviceLocation::Row DeviceLocation::decorate(DeviceTable* table, QTreeWidgetItem
     return row;
 }
 
+/// A device that is listed twice is counted once; all rows of an address have the same room.
+void DeviceLocation::markRepeatedRows()
+{
+    QSet<QString> addresses;
+    for (Row& row : m_rows) {
+        row.isRepeated = addresses.contains(row.ipAddress);
+        addresses.insert(row.ipAddress);
+    }
+}
+
 void DeviceLocation::nameWidgets(const Row& row)
 {
     const QString label = row.item->text(LabelColumn);
@@ -269,11 +286,9 @@ void DeviceLocation::updateRow(const Row& row)
 void DeviceLocation::updateSummary()
 {
     QList<DeviceCounts> counts(m_rooms);
-    QSet<QString> counted;
     for (const Row& row : std::as_const(m_rows)) {
         const int room = row.room->room();
-        if (room != 0 && !counted.contains(row.ipAddress)) {
-            counted.insert(row.ipAddress);
+        if (room != 0 && !row.isRepeated) {
             counts[room - 1].add(row.modelName);
         }
     }

@@ -54,6 +54,7 @@ private:
         RoomCombo* room;
         QString modelName;
         QString ipAddress;
+        bool isRepeated = false; ///< an earlier row shows the same device
     };
 
     DeviceTable* createTable(const QString& name, const QString& accessibleName);
@@ -63,6 +64,7 @@ private:
     void fill(DeviceTable* table, const QList<DeviceEntry>& devices,
               const QHash<QString, int>& roomOfAddress);
     Row decorate(DeviceTable* table, QTreeWidgetItem* item, RoomCombo* combo);
+    void markRepeatedRows();
     static void nameWidgets(const Row& row);
     static void updateRow(const Row& row);
     const Row* rowOfSender() const;
