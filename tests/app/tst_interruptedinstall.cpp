@@ -31,6 +31,7 @@ private Q_SLOTS:
     void backDuringAnyRequestAndForthAgainLetsTheInstallationGoOn();
     void closedDuringAnyRequestNothingBreaksAndTheNextWindowInstalls_data();
     void closedDuringAnyRequestNothingBreaksAndTheNextWindowInstalls();
+    void aHubThatPreparesForEverKeepsNobodyFromLeavingOrTryingAgain();
     void theInstallationGoesOnBehindTheQuestionAndAfterCancel();
     void aHubMayAskForItsPasswordOverTheQuestion_data();
     void aHubMayAskForItsPasswordOverTheQuestion();
@@ -69,7 +70,12 @@ std::unique_ptr<MainWindow> openWindow(IDocAccessor& doc)
 struct Wizard
 {
     explicit Wizard(Exchange exchange)
-        : step(describe(exchange))
+        : Wizard(describe(exchange))
+    {
+    }
+
+    explicit Wizard(const HallDescription& description)
+        : step(description)
     {
         step.page.hide();
         open();
@@ -219,6 +225,34 @@ void TestInterruptedInstall::closedDuringAnyRequestNothingBreaksAndTheNextWindow
     wizard.step.hall.clearFaults();
     wizard.open();
     wizard.installWhole();
+}
+
+void TestInterruptedInstall::aHubThatPreparesForEverKeepsNobodyFromLeavingOrTryingAgain()
+{
+    HallDescription description = quickHall(base, 2, 1);
+    description.hubs.first().exportPolls = HubDescription::mostExportPolls;
+    Wizard wizard(description);
+    wizard.installUntil(Exchange::ReadExport);
+    QTRY_COMPARE(wizard.statuses(), QStringLiteral("Installing... Done"));
+
+    press(wizard.button("backButton"));
+    QVERIFY(!wizard.page().isVisible());
+    wizard.window->next();
+    press(wizard.button("executeButton"));
+    QTRY_COMPARE(timesAsked(*wizard.step.hub(1), Exchange::LogIn), 2);
+    QTRY_COMPARE(wizard.statuses(), QStringLiteral("Installing... Done"));
+
+    const ModalAnswer answer(QStringLiteral("No"));
+    QVERIFY(wizard.window->close());
+    QVERIFY(answer.wasShown());
+    const qsizetype polls = timesAsked(*wizard.step.hub(1), Exchange::ReadExport);
+    wizard.window.reset();
+    // The next window installs into the same hubs at once; the first one's wait is gone.
+    wizard.open();
+    press(wizard.button("executeButton"));
+    QTRY_VERIFY(timesAsked(*wizard.step.hub(1), Exchange::ReadExport) > polls);
+    QTRY_COMPARE(wizard.statuses(), QStringLiteral("Installing... Done"));
+    QCOMPARE(timesAsked(*wizard.step.hub(1), Exchange::LogIn), 3);
 }
 
 void TestInterruptedInstall::theInstallationGoesOnBehindTheQuestionAndAfterCancel()
