@@ -116,8 +116,13 @@ void MainWindow::notifyDetectDevice(const QString& ipAddress)
         return;
     }
     const DetectedDevice found = m_detector->deviceInfo(ipAddress);
-    addDevice(*m_doc, {found.deviceName, found.modelName, found.version, found.ipAddress,
-                       found.macAddress, found.searchType, found.password});
+    addDevice(*m_doc, {.label = found.deviceName,
+                       .modelName = found.modelName,
+                       .version = found.version,
+                       .ipAddress = found.ipAddress,
+                       .macAddress = found.macAddress,
+                       .searchType = found.searchType,
+                       .password = found.password});
 }
 
 void MainWindow::customEvent(QEvent* event)
