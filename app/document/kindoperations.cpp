@@ -1,8 +1,8 @@
 #include "kindoperations.h"
 
 #include "datakind.h"
-#include "devicekinds.h"
 #include "devicesetkinds.h"
+#include "kinds.h"
 #include "layoutkinds.h"
 #include "presetfilekinds.h"
 #include "presetkinds.h"
