@@ -6,7 +6,7 @@
 //   and it is written as the same text.
 #include "fuzztarget.h"
 #include "guiapplication.h"
-#include "resumexmlreader.h"
+#include "resumexml.h"
 #include "resumexmlwriter.h"
 #include "wizardpage.h"
 

@@ -1,4 +1,4 @@
-#include "resumexmlreader.h"
+#include "resumexml.h"
 
 #include "boundedxml.h"
 #include "records.h"
