@@ -10,6 +10,7 @@
 #include "sessionqueries.h"
 #include "shownetworkdialogevent.h"
 #include "startdiscoveryevent.h"
+#include "wizardpage.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -30,7 +31,7 @@ constexpr QSize maximumWindowSize(1200, 1200);
 constexpr qreal titlePointSize = 14.0;
 // Time for discovery to find the devices that the saved configuration names.
 constexpr int resumeDelayMs = 5000;
-constexpr int installIndex = pageTotal - 2;
+constexpr int installIndex = int(WizardPage::Install);
 
 QString resumeFolder()
 {
@@ -116,8 +117,13 @@ void MainWindow::notifyDetectDevice(const QString& ipAddress)
         return;
     }
     const DetectedDevice found = m_detector->deviceInfo(ipAddress);
-    addDevice(*m_doc, {found.deviceName, found.modelName, found.version, found.ipAddress,
-                       found.macAddress, found.searchType, found.password});
+    addDevice(*m_doc, {.label = found.deviceName,
+                       .modelName = found.modelName,
+                       .version = found.version,
+                       .ipAddress = found.ipAddress,
+                       .macAddress = found.macAddress,
+                       .searchType = found.searchType,
+                       .password = found.password});
 }
 
 void MainWindow::customEvent(QEvent* event)

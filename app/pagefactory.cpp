@@ -9,6 +9,7 @@
 #include "pageinstall.h"
 #include "pageintroduction.h"
 #include "pageroomdesign.h"
+#include "wizardpage.h"
 
 #include <array>
 
@@ -22,11 +23,18 @@ BasePage* make(IPageController* controller, IDocAccessor* doc, QWidget* parent)
     return new Page(controller, doc, parent);
 }
 
-constexpr std::array<Maker, pageTotal> makers{
-    make<PageIntroduction>, make<PageRoomDesign>, make<PageDeviceLocation>,
-    make<PageCreateScene>,  make<PageConfigure>,  make<PageDanteSpeaker>,
-    make<PageCreatePreset>, make<PageInstall>,    make<PageFinish>,
-};
+constexpr auto makers = std::to_array<Maker>({
+    make<PageIntroduction>,
+    make<PageRoomDesign>,
+    make<PageDeviceLocation>,
+    make<PageCreateScene>,
+    make<PageConfigure>,
+    make<PageDanteSpeaker>,
+    make<PageCreatePreset>,
+    make<PageInstall>,
+    make<PageFinish>,
+});
+static_assert(makers.size() == pageTotal);
 
 } // namespace
 

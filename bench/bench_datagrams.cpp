@@ -59,8 +59,13 @@ void parseAndEnter(const QList<QByteArray>& datagrams, Stopwatch& watch)
     watch.start();
     for (const QByteArray& bytes : datagrams) {
         const auto packet = parseDiscoveryPacket(bytes);
-        addDevice(doc, {packet->nameText, packet->modelText, packet->trailingText, packet->ipText,
-                        formatMac(packet->mac), QStringLiteral("QNFL"), QString()});
+        addDevice(doc, {.label = packet->nameText,
+                        .modelName = packet->modelText,
+                        .version = packet->trailingText,
+                        .ipAddress = packet->ipText,
+                        .macAddress = formatMac(packet->mac),
+                        .searchType = QStringLiteral("QNFL"),
+                        .password = QString()});
     }
     watch.stop();
 }

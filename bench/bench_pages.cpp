@@ -12,6 +12,7 @@
 #include "pagefactory.h"
 #include "stopwatch.h"
 #include "tesseldoc.h"
+#include "wizardpage.h"
 
 #include <QApplication>
 #include <QStackedWidget>
@@ -25,9 +26,9 @@ constexpr int rooms = 4;
 constexpr int cells = 64;
 constexpr int layouts = 10;
 constexpr int groups = rooms * layouts;
-constexpr int placingPage = 2;
-constexpr int deviceSetsPage = 4;
-constexpr int speakersPage = 5;
+constexpr int placingPage = int(WizardPage::DeviceLocation);
+constexpr int deviceSetsPage = int(WizardPage::Configure);
+constexpr int speakersPage = int(WizardPage::DanteSpeaker);
 constexpr int fewDevices = 250;
 constexpr int manyDevices = 1000;
 
@@ -128,7 +129,7 @@ void registerPage(int index, int devices)
 
 void registerPages()
 {
-    for (int index = 1; index <= pageTotal - 2; ++index) {
+    for (int index = int(WizardPage::RoomDesign); index <= int(WizardPage::Install); ++index) {
         registerPage(index, fewDevices);
     }
     for (const int index : {placingPage, deviceSetsPage, speakersPage}) {

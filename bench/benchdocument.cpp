@@ -73,8 +73,13 @@ void appendSets(HallRecords& records, int layout)
 
 void enter(IDocAccessor& doc, const DeviceData& device)
 {
-    addDevice(doc, {QStringLiteral("As found"), device.modelName, device.version, device.ipAddress,
-                    device.macAddress, device.searchType, QString()});
+    addDevice(doc, {.label = QStringLiteral("As found"),
+                    .modelName = device.modelName,
+                    .version = device.version,
+                    .ipAddress = device.ipAddress,
+                    .macAddress = device.macAddress,
+                    .searchType = device.searchType,
+                    .password = QString()});
     setDeviceRoom(doc, device.ipAddress, device.roomNumber);
     setDeviceLabel(doc, device.ipAddress, device.label);
 }

@@ -6,8 +6,9 @@
 //   and it is written as the same text.
 #include "fuzztarget.h"
 #include "guiapplication.h"
-#include "resumexmlreader.h"
+#include "resumexml.h"
 #include "resumexmlwriter.h"
+#include "wizardpage.h"
 
 #include <QRect>
 
@@ -16,7 +17,6 @@
 
 namespace {
 
-constexpr int lastPage = 8;
 constexpr int lastRoom = 4;
 constexpr QRect grid(0, 0, 8, 8);
 
@@ -89,7 +89,7 @@ bool isOnGrid(const RoomInfo& room)
 
 void examineLimits(const SavedWork& work)
 {
-    require(work.pageIndex >= 0 && work.pageIndex <= lastPage, "the page exists");
+    require(work.pageIndex >= 0 && work.pageIndex < pageTotal, "the page exists");
     for (const SavedSection& section : work.sections) {
         if (const auto* rooms = std::get_if<QList<RoomInfo>>(&section)) {
             for (const RoomInfo& room : *rooms) {

@@ -1,4 +1,4 @@
-#include "devicekinds.h"
+#include "kinds.h"
 
 #include "acceptancerule.h"
 #include "datakey.h"

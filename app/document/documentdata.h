@@ -10,7 +10,7 @@
 struct DocumentData
 {
     int nicIndex = 0;            ///< chosen network interface, from 1; 0 = none chosen yet
-    int pageIndex = 0;           ///< wizard page shown when the work was saved, 0 to 8
+    int pageIndex = 0;           ///< WizardPage shown when the work was saved
     QSize windowSize;            ///< window size when the work was saved; invalid before
     DeviceRecords devices;       ///< in the order in which they were found
     QList<RoomInfo> rooms;       ///< no two of one number

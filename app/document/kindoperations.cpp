@@ -1,13 +1,7 @@
 #include "kindoperations.h"
 
 #include "datakind.h"
-#include "devicekinds.h"
-#include "devicesetkinds.h"
-#include "layoutkinds.h"
-#include "presetfilekinds.h"
-#include "presetkinds.h"
-#include "roomkinds.h"
-#include "sessionkinds.h"
+#include "kinds.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "layoutkinds.h"
+#include "kinds.h"
 
 #include "datakey.h"
 #include "documentdata.h"

@@ -1,4 +1,4 @@
-#include "presetfilekinds.h"
+#include "kinds.h"
 
 #include "datakey.h"
 #include "documentdata.h"

@@ -1,4 +1,4 @@
-#include "presetkinds.h"
+#include "kinds.h"
 
 #include "datakey.h"
 #include "documentdata.h"

@@ -1,4 +1,4 @@
-#include "roomkinds.h"
+#include "kinds.h"
 
 #include "datakey.h"
 #include "documentdata.h"

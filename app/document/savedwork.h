@@ -24,7 +24,7 @@ using SavedSection = std::variant<QList<SavedDevice>, QList<RoomInfo>, QList<Sce
 /// A saved configuration but for the layouts' pictures.
 struct SavedWork
 {
-    int pageIndex = 0;              ///< 0 to 8
+    int pageIndex = 0;              ///< of WizardPage
     QList<SavedSection> sections;   ///< in file order
     bool hasForeignElement = false; ///< an unknown child of the root ended the reading there
 };

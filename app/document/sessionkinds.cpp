@@ -1,4 +1,4 @@
-#include "sessionkinds.h"
+#include "kinds.h"
 
 #include "datakey.h"
 #include "documentdata.h"

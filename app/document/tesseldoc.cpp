@@ -7,7 +7,7 @@
 #include "kindoperations.h"
 #include "missingdevices.h"
 #include "resumefile.h"
-#include "resumexmlreader.h"
+#include "resumexml.h"
 #include "resumexmlwriter.h"
 #include "workrestore.h"
 

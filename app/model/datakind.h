@@ -4,7 +4,7 @@
 namespace DataKind {
 
 inline constexpr int NicIndex = 1;      ///< index of the chosen network interface
-inline constexpr int PageIndex = 2;     ///< wizard page shown when the work was saved, 0 to 8
+inline constexpr int PageIndex = 2;     ///< WizardPage shown when the work was saved
 inline constexpr int WindowSize = 3;    ///< window size when the work was saved
 inline constexpr int DeviceCount = 4;   ///< number of device records (read only)
 inline constexpr int Device = 5;        ///< one device record

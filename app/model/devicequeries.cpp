@@ -8,12 +8,12 @@ namespace {
 
 DeviceEntry unpack(const QVariantMap& data)
 {
-    return {data.value(DataKey::deviceLabel()).toString(),
-            data.value(DataKey::deviceModelName()).toString(),
-            data.value(DataKey::deviceVersion()).toString(),
-            data.value(DataKey::deviceIPAddress()).toString(),
-            data.value(DataKey::deviceMacAddress()).toString(),
-            data.value(DataKey::roomNumber()).toInt()};
+    return {.label = data.value(DataKey::deviceLabel()).toString(),
+            .modelName = data.value(DataKey::deviceModelName()).toString(),
+            .version = data.value(DataKey::deviceVersion()).toString(),
+            .ipAddress = data.value(DataKey::deviceIPAddress()).toString(),
+            .macAddress = data.value(DataKey::deviceMacAddress()).toString(),
+            .roomNumber = data.value(DataKey::roomNumber()).toInt()};
 }
 
 std::optional<DeviceEntry> readDevice(IDocAccessor& doc, QVariantMap selector)

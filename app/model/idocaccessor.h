@@ -19,24 +19,24 @@ class IDocAccessor
 {
 public:
     /// Writes a value or replaces a record that exists (a room: or adds it).
-    /// Kinds 1, 2, 3, 5, 8, 9, 11.
+    /// Kinds NicIndex, PageIndex, WindowSize, Device, RoomInfo, Scene, DeviceSet.
     virtual bool setData(int kind, const QVariantMap& data) = 0;
 
     /// Reads. The caller puts the selector keys into `data`; results are added to the same map
-    /// and replace entries of the same key. Kinds 1 to 5, 7 to 15.
+    /// and replace entries of the same key. Every kind but Room and Identify.
     virtual bool getData(int kind, QVariantMap& data) = 0;
 
-    /// Empties lists: 6 (rooms and layouts), 9, 11, 12.
+    /// Empties lists. Kinds Room (rooms and layouts), Scene, DeviceSet, Preset.
     virtual bool clearData(int kind) = 0;
 
-    /// Appends one record, never replacing one. Kinds 5, 9, 11, 12.
+    /// Appends one record, never replacing one. Kinds Device, Scene, DeviceSet, Preset.
     virtual bool addData(int kind, const QVariantMap& data) = 0;
 
-    /// Starts something; its outcome is not reported here. Kind 16 only.
+    /// Starts something; its outcome is not reported here. Kind Identify only.
     virtual bool doAction(int kind, const QVariantMap& data) = 0;
 
     /// Appends one map per record that matches the selector to `list`, in document order.
-    /// Kinds 5, 11, 12.
+    /// Kinds Device, DeviceSet, Preset.
     virtual bool getDataList(int kind, const QVariantMap& selector, QList<QVariantMap>& list) = 0;
 
     /// Writes all data to the resume file at `path`. False when it could not be written; an

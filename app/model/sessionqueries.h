@@ -10,7 +10,7 @@ class IDocAccessor;
 int nicIndex(IDocAccessor& doc);
 void setNicIndex(IDocAccessor& doc, int index);
 
-/// The page shown when the work was saved, 0 to 8.
+/// The page shown when the work was saved, an index of WizardPage.
 int pageIndex(IDocAccessor& doc);
 void setPageIndex(IDocAccessor& doc, int index);
 

@@ -9,7 +9,7 @@ public:
     /// The title shown above the page.
     virtual const QString& title() const = 0;
 
-    /// The step, 1 to 9.
+    /// The step, from 1.
     virtual int pageNumber() const = 0;
 
     /// Called when the page is about to be shown (it is not visible yet) because the user moved

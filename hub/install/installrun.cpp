@@ -10,16 +10,28 @@
 #include <QDebug>
 
 #include <array>
+#include <cstddef>
 #include <utility>
 
 namespace {
 
 constexpr int firstPreset = 1;
-constexpr int stepCount = 11;
 
 bool isAccepted(const QString& reply)
 {
     return HttpReply::jsonText(reply, QStringLiteral("request")) == QLatin1String("accepted");
+}
+
+/// Each row stands at the place of its step.
+template <typename Rows>
+constexpr bool isInStepOrder(const Rows& rows)
+{
+    for (std::size_t place = 0; place < rows.size(); ++place) {
+        if (rows[place].step != InstallStep(place)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 QString accessToken(const QString& reply)
@@ -32,23 +44,25 @@ QString accessToken(const QString& reply)
 const InstallRun::Row& InstallRun::rowOf(InstallStep step)
 {
     using Run = InstallRun;
+    using Step = InstallStep;
     using Move = InstallMove;
     // clang-format off
-    static constexpr std::array<Row, stepCount> rows = {{
-        // the request                   what a "200" means          what every other status means
-        {&Run::statusRequest,         &Run::afterStatus,         Move::EndByStatus},
-        {&Run::tokenRequest,          &Run::afterToken,          Move::EndByStatus},
-        {&Run::validateRequest,       &Run::afterValidate,       Move::AskInitialPassword},
-        {&Run::authenticateRequest,   &Run::afterAuthenticate,   Move::AskPasswordAgain},
-        {&Run::startExportRequest,    &Run::afterStartExport,    Move::EndByStatus},
-        {&Run::fetchExportRequest,    &Run::afterFetchExport,    Move::EndByStatus},
-        {&Run::presetEntryRequest,    &Run::afterPresetEntry,    Move::EndByStatus},
-        {&Run::hubFileRequest,        &Run::afterHubFile,        Move::EndByStatus},
-        {&Run::peripheralFileRequest, &Run::afterPeripheralFile, Move::EndByStatus},
-        {&Run::recallRequest,         &Run::afterRecall,         Move::EndByStatus},
-        {&Run::invalidateRequest,     &Run::afterInvalidate,     Move::EndByStatus},
+    static constexpr std::array<Row, installStepTotal> rows = {{
+        // step                the request                  what a "200" means         what every other status means
+        {Step::Status,         &Run::statusRequest,         &Run::afterStatus,         Move::EndByStatus},
+        {Step::Token,          &Run::tokenRequest,          &Run::afterToken,          Move::EndByStatus},
+        {Step::Validate,       &Run::validateRequest,       &Run::afterValidate,       Move::AskInitialPassword},
+        {Step::Authenticate,   &Run::authenticateRequest,   &Run::afterAuthenticate,   Move::AskPasswordAgain},
+        {Step::StartExport,    &Run::startExportRequest,    &Run::afterStartExport,    Move::EndByStatus},
+        {Step::FetchExport,    &Run::fetchExportRequest,    &Run::afterFetchExport,    Move::EndByStatus},
+        {Step::PresetEntry,    &Run::presetEntryRequest,    &Run::afterPresetEntry,    Move::EndByStatus},
+        {Step::HubFile,        &Run::hubFileRequest,        &Run::afterHubFile,        Move::EndByStatus},
+        {Step::PeripheralFile, &Run::peripheralFileRequest, &Run::afterPeripheralFile, Move::EndByStatus},
+        {Step::Recall,         &Run::recallRequest,         &Run::afterRecall,         Move::EndByStatus},
+        {Step::Invalidate,     &Run::invalidateRequest,     &Run::afterInvalidate,     Move::EndByStatus},
     }};
     // clang-format on
+    static_assert(isInStepOrder(rows));
     return rows.at(static_cast<size_t>(step));
 }
 

@@ -47,6 +47,7 @@ private:
 
     struct Row
     {
+        InstallStep step; ///< whose row it is
         Request (InstallRun::*request)();
         InstallMove (InstallRun::*onSuccess)(const QString& reply);
         InstallMove otherwise; ///< on every status but "200"

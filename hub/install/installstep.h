@@ -17,6 +17,9 @@ enum class InstallStep
     Invalidate = 10     ///< gives the token back
 };
 
+/// The number of steps.
+inline constexpr int installStepTotal = int(InstallStep::Invalidate) + 1;
+
 /// What is to be done after a reply.
 enum class InstallMove
 {

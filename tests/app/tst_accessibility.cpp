@@ -1,11 +1,11 @@
 #include "devicequeries.h"
 #include "layoutqueries.h"
 #include "mainwindow.h"
-#include "pagefactory.h"
 #include "roomqueries.h"
 #include "sessionqueries.h"
 #include "tesseldoc.h"
 #include "testcase.h"
+#include "wizardpage.h"
 
 #include <QAccessible>
 #include <QAccessibleInterface>

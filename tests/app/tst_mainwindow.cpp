@@ -9,6 +9,7 @@
 #include "steppage.h"
 #include "tesseldoc.h"
 #include "testcase.h"
+#include "wizardpage.h"
 
 #include <QApplication>
 #include <QDir>

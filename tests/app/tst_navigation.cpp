@@ -1,11 +1,11 @@
 #include "basepage.h"
 #include "mainwindow.h"
 #include "modalanswer.h"
-#include "pagefactory.h"
 #include "pagefixtures.h"
 #include "sessionqueries.h"
 #include "tesseldoc.h"
 #include "testcase.h"
+#include "wizardpage.h"
 
 #include <QApplication>
 #include <QDir>

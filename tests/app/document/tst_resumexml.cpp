@@ -1,4 +1,4 @@
-#include "resumexmlreader.h"
+#include "resumexml.h"
 #include "resumexmlwriter.h"
 #include "testcase.h"
 

@@ -1,15 +1,15 @@
-#include "resumexmlreader.h"
+#include "resumexml.h"
 
 #include "boundedxml.h"
 #include "records.h"
 #include "resumecells.h"
+#include "wizardpage.h"
 
 #include <algorithm>
 #include <array>
 
 namespace {
 
-constexpr int lastPageIndex = 8;
 constexpr int maxWindowSide = 10000;
 // Ten times what the wizard makes: more would only stall its pages.
 constexpr qsizetype maxLayouts = 100;
@@ -178,7 +178,7 @@ std::optional<int> readPageIndex(const BoundedXml& xml)
 {
     bool ok = false;
     const int index = Attributes(xml).number("Page", &ok);
-    return ok && index >= 0 && index <= lastPageIndex ? std::optional(index) : std::nullopt;
+    return ok && index >= 0 && index < pageTotal ? std::optional(index) : std::nullopt;
 }
 
 } // namespace
