@@ -3,7 +3,7 @@
 #include "getidentification.h"
 #include "getstatus.h"
 #include "gettoken.h"
-#include "postauthenticate.h"
+#include "identifysteps.h"
 #include "postinvalidate.h"
 
 HttpIdentify::HttpIdentify(const QString& address, const QString& password, QObject* parent)

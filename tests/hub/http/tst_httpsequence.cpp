@@ -2,7 +2,7 @@
 #include "getstatus.h"
 #include "gettoken.h"
 #include "httprequest.h"
-#include "postauthenticate.h"
+#include "identifysteps.h"
 #include "postinvalidate.h"
 #include "testcase.h"
 

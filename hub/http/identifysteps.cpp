@@ -1,4 +1,4 @@
-#include "postauthenticate.h"
+#include "identifysteps.h"
 
 #include "httpreply.h"
 #include "httprequest.h"
