@@ -9,7 +9,7 @@
 #include "resumedialog.h"
 #include "sessionqueries.h"
 #include "shownetworkdialogevent.h"
-#include "startdiscoveryevent.h"
+#include "windowevents.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "startdiscoveryevent.h"
+#include "windowevents.h"
 
 const QEvent::Type StartDiscoveryEvent::eventType = QEvent::Type(QEvent::registerEventType());
 
