@@ -8,7 +8,6 @@
 #include "pagefactory.h"
 #include "resumedialog.h"
 #include "sessionqueries.h"
-#include "shownetworkdialogevent.h"
 #include "windowevents.h"
 
 #include <QCloseEvent>
