@@ -8,8 +8,7 @@
 #include "pagefactory.h"
 #include "resumedialog.h"
 #include "sessionqueries.h"
-#include "shownetworkdialogevent.h"
-#include "startdiscoveryevent.h"
+#include "windowevents.h"
 #include "wizardpage.h"
 
 #include <QCloseEvent>

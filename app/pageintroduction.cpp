@@ -1,11 +1,26 @@
 #include "pageintroduction.h"
 
-#include "introduction.h"
 #include "ipagecontroller.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+Introduction::Introduction(QWidget* parent)
+    : PictureText(
+          {tr("This tool helps generating preset settings for up to 4 Calyra solutions that make "
+              "up a divide/combine space."),
+           tr("The presets on an PX-HB include information on connected peripheral devices like "
+              "speakers and microphones. This information not only includes the information on how "
+              "to establish the Dante connections between devices, but also all settings for each "
+              "of the devices that create the optimal environment for the specific configuration."),
+           tr("This wizard allows to define the partitions and different room configurations for "
+              "the divided and the combined rooms. It allows to group the devices on the network "
+              "accordingly, and create the required preset information for each room "
+              "configuration.")},
+          QStringLiteral(":/image/floor.svg"), parent)
+{
+}
 
 PageIntroduction::PageIntroduction(IPageController* controller, IDocAccessor* doc, QWidget* parent)
     : BasePage(tr("1. Introduction"), 1, controller, doc, parent)

@@ -1,6 +1,16 @@
 #pragma once
 
 #include "basepage.h"
+#include "picturetext.h"
+
+/// What the wizard is for: the content of the first page.
+class Introduction : public PictureText
+{
+    Q_OBJECT
+
+public:
+    explicit Introduction(QWidget* parent);
+};
 
 /// Step 1: tells what the wizard does.
 class PageIntroduction : public BasePage

@@ -52,5 +52,5 @@ public:
     IDocAccessor& operator=(const IDocAccessor&) = delete;
     IDocAccessor(IDocAccessor&&) = delete;
     IDocAccessor& operator=(IDocAccessor&&) = delete;
-    virtual ~IDocAccessor();
+    virtual ~IDocAccessor() = default;
 };

@@ -28,5 +28,5 @@ public:
     IPage& operator=(const IPage&) = delete;
     IPage(IPage&&) = delete;
     IPage& operator=(IPage&&) = delete;
-    virtual ~IPage();
+    virtual ~IPage() = default;
 };

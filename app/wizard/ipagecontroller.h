@@ -23,5 +23,5 @@ public:
     IPageController& operator=(const IPageController&) = delete;
     IPageController(IPageController&&) = delete;
     IPageController& operator=(IPageController&&) = delete;
-    virtual ~IPageController();
+    virtual ~IPageController() = default;
 };

@@ -1,10 +1,6 @@
 #include "httpidentify.h"
 
-#include "getidentification.h"
-#include "getstatus.h"
-#include "gettoken.h"
-#include "postauthenticate.h"
-#include "postinvalidate.h"
+#include "identifysteps.h"
 
 HttpIdentify::HttpIdentify(const QString& address, const QString& password, QObject* parent)
     : HttpReadWrite(address, password, parent)

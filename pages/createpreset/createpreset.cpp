@@ -1,6 +1,5 @@
 #include "createpreset.h"
 
-#include "presetnameedit.h"
 #include "presetqueries.h"
 #include "roomgrouplist.h"
 #include "textlabel.h"
@@ -17,6 +16,15 @@ constexpr int layoutWidth = 25;
 constexpr int gapBelowTexts = 10;
 
 } // namespace
+
+PresetNameEdit::PresetNameEdit(const QString& name, QWidget* parent)
+    : QLineEdit(parent)
+{
+    setObjectName(QStringLiteral("presetNameEdit"));
+    setMaxLength(maxNameLength);
+    setText(name);
+    setCursorPosition(0);
+}
 
 CreatePreset::CreatePreset(IDocAccessor* doc, QWidget* parent)
     : QWidget(parent)

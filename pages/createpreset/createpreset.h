@@ -2,13 +2,24 @@
 
 #include "roomgroup.h"
 
+#include <QLineEdit>
 #include <QList>
 #include <QWidget>
 
 class IDocAccessor;
-class PresetNameEdit;
 class QLabel;
 class RoomGroupList;
+
+/// The field for the name of one combined room's preset: one line of at most 255 characters.
+class PresetNameEdit : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    static constexpr int maxNameLength = 255;
+
+    explicit PresetNameEdit(const QString& name, QWidget* parent = nullptr);
+};
 
 /// Content of the preset naming step: every combined room of every layout with a field for the
 /// name of its preset, beside the picture of the selected room's layout.

@@ -1,8 +1,7 @@
 #include "devicelocation.h"
 
 #include "deviceclass.h"
-#include "devicelabeldelegate.h"
-#include "devicelabelediticon.h"
+#include "devicelabel.h"
 #include "devicenamedialog.h"
 #include "devicequeries.h"
 #include "devicetable.h"

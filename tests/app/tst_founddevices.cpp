@@ -3,9 +3,9 @@
 #include "mainwindow.h"
 #include "roomqueries.h"
 #include "sessionqueries.h"
-#include "startdiscoveryevent.h"
 #include "tesseldoc.h"
 #include "testcase.h"
+#include "windowevents.h"
 
 #include <QDir>
 #include <QTcpServer>

@@ -5,10 +5,10 @@
 #include "pagefactory.h"
 #include "roomqueries.h"
 #include "sessionqueries.h"
-#include "startdiscoveryevent.h"
 #include "steppage.h"
 #include "tesseldoc.h"
 #include "testcase.h"
+#include "windowevents.h"
 #include "wizardpage.h"
 
 #include <QApplication>

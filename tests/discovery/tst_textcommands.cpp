@@ -1,6 +1,5 @@
-#include "currentpresetsender.h"
 #include "identifysender.h"
-#include "presetrecallsender.h"
+#include "presetcommandsenders.h"
 #include "testcase.h"
 #include "textpeer.h"
 

@@ -1,7 +1,6 @@
-#include "currentpresetsender.h"
 #include "deviceinforeceiver.h"
 #include "identifysender.h"
-#include "presetrecallsender.h"
+#include "presetcommandsenders.h"
 #include "testcase.h"
 #include "textpeer.h"
 

@@ -3,8 +3,8 @@
 #include "devicequeries.h"
 #include "pagefixtures.h"
 #include "sessionqueries.h"
-#include "startdiscoveryevent.h"
 #include "tablefixtures.h"
+#include "windowevents.h"
 
 #include <QApplication>
 #include <QNetworkInterface>

@@ -1,14 +1,86 @@
 #include "pressbutton.h"
 
-#include "pressbuttonaccessible.h"
-
+#include <QAccessibleWidget>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QPainter>
+
+namespace {
+
+/// What assistive technology sees of a PressButton: a button that can be pressed, and that is
+/// checked or not where its face can be.
+class PressButtonAccessible : public QAccessibleWidget
+{
+public:
+    explicit PressButtonAccessible(PressButton* button);
+
+    QAccessible::State state() const override;
+    QStringList actionNames() const override;
+    void doAction(const QString& actionName) override;
+    QStringList keyBindingsForAction(const QString& actionName) const override;
+
+private:
+    PressButton* button() const;
+};
+
+PressButtonAccessible::PressButtonAccessible(PressButton* button)
+    : QAccessibleWidget(button, QAccessible::Button)
+{
+}
+
+QAccessible::State PressButtonAccessible::state() const
+{
+    QAccessible::State state = QAccessibleWidget::state();
+    state.pressed = button()->isPressed();
+    state.checkable = button()->isCheckable();
+    state.checked = button()->isChecked();
+    return state;
+}
+
+QStringList PressButtonAccessible::actionNames() const
+{
+    QStringList names = QAccessibleWidget::actionNames();
+    if (button()->isEnabled()) {
+        names.prepend(pressAction());
+    }
+    return names;
+}
+
+void PressButtonAccessible::doAction(const QString& actionName)
+{
+    if (actionName != pressAction()) {
+        QAccessibleWidget::doAction(actionName);
+    } else if (button()->isEnabled()) {
+        button()->press();
+    }
+}
+
+QStringList PressButtonAccessible::keyBindingsForAction(const QString& actionName) const
+{
+    if (actionName != pressAction()) {
+        return QAccessibleWidget::keyBindingsForAction(actionName);
+    }
+    return {QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText)};
+}
+
+PressButton* PressButtonAccessible::button() const
+{
+    return static_cast<PressButton*>(widget());
+}
+
+QAccessibleInterface* createAccessible(const QString& /*className*/, QObject* object)
+{
+    auto* button = qobject_cast<PressButton*>(object);
+    return button ? new PressButtonAccessible(button) : nullptr;
+}
+
+} // namespace
 
 PressButton::PressButton(QWidget* parent)
     : QWidget(parent)
 {
-    PressButtonAccessible::install();
+    // Needed once; more calls with the same function do nothing.
+    QAccessible::installFactory(createAccessible);
     setFocusPolicy(Qt::StrongFocus);
     // A right click is a click here; it must not also open the menu of what lies below.
     setContextMenuPolicy(Qt::PreventContextMenu);

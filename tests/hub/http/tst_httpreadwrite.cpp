@@ -1,6 +1,6 @@
-#include "basehttpsequence.h"
 #include "httpconnection.h"
 #include "httpreadwrite.h"
+#include "identifysteps.h"
 #include "scriptedpeer.h"
 #include "testcase.h"
 

@@ -1,9 +1,5 @@
-#include "getidentification.h"
-#include "getstatus.h"
-#include "gettoken.h"
 #include "httprequest.h"
-#include "postauthenticate.h"
-#include "postinvalidate.h"
+#include "identifysteps.h"
 #include "testcase.h"
 
 #include <QTest>

@@ -1,8 +1,22 @@
-#include "devicelabelediticon.h"
+#include "devicelabel.h"
 
 #include "svgbutton.h"
 
 #include <QHBoxLayout>
+
+namespace {
+
+constexpr int marginsAndPencil = 30;
+
+} // namespace
+
+void DeviceLabelDelegate::initStyleOption(QStyleOptionViewItem* option,
+                                          const QModelIndex& index) const
+{
+    RowDelegate::initStyleOption(option, index);
+    option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight,
+                                                  option->rect.width() - marginsAndPencil);
+}
 
 DeviceLabelEditIcon::DeviceLabelEditIcon(QWidget* parent)
     : QWidget(parent)

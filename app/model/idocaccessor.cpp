@@ -1,3 +1,0 @@
-#include "idocaccessor.h"
-
-IDocAccessor::~IDocAccessor() = default;

@@ -1,8 +1,0 @@
-#include "startdiscoveryevent.h"
-
-const QEvent::Type StartDiscoveryEvent::eventType = QEvent::Type(QEvent::registerEventType());
-
-StartDiscoveryEvent::StartDiscoveryEvent()
-    : QEvent(eventType)
-{
-}

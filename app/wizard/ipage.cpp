@@ -1,3 +1,0 @@
-#include "ipage.h"
-
-IPage::~IPage() = default;

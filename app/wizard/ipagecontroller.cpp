@@ -1,3 +1,0 @@
-#include "ipagecontroller.h"
-
-IPageController::~IPageController() = default;
