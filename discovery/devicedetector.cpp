@@ -1,5 +1,6 @@
 #include "devicedetector.h"
 
+#include "deviceclass.h"
 #include "deviceinforeceiver.h"
 #include "discoverypacket.h"
 #include "interfaceaddress.h"
@@ -18,11 +19,6 @@ constexpr int secondAddressWait = 1000; // milliseconds
 
 // A large hall answers at once; the usual buffer holds about 250 replies.
 constexpr int receiveBufferSize = 1 << 20;
-
-bool isHubModel(const QString& model)
-{
-    return model.startsWith(u"PX-HB");
-}
 
 } // namespace
 
@@ -84,7 +80,7 @@ void DeviceDetector::deviceInfoReceived()
     found->version = receiver->version();
     found->serialNumber = receiver->serialNumber();
     found->currentPreset = receiver->currentPreset();
-    if (isHubModel(found->modelName)) {
+    if (isHub(found->modelName)) {
         groupHub(*found);
     } else {
         Q_EMIT deviceDetected(ipText);

@@ -1,62 +1,48 @@
 #include "acceptancerule.h"
 
+#include "devicecatalogue.h"
+
 #include <QList>
 #include <optional>
 
 namespace {
 
-bool isKnownModel(QStringView model)
-{
-    return model.startsWith(u"PX-") || model == u"LQA4-08S" || model == u"DSK4M" ||
-           model == u"PNB-QE7";
-}
-
-std::optional<int> toNumber(QStringView text)
-{
-    bool ok = false;
-    const int number = text.toInt(&ok);
-    return ok ? std::optional(number) : std::nullopt;
-}
-
-QStringView firstPart(QStringView version)
-{
-    const qsizetype dot = version.indexOf(u'.');
-    return dot < 0 ? version : version.first(dot);
-}
-
-std::optional<int> majorNumber(QStringView part)
+QStringView fromFirstDigit(QStringView part)
 {
     while (!part.isEmpty() && !part.front().isDigit()) {
         part = part.sliced(1);
     }
-    return toNumber(part);
+    return part;
 }
 
-bool isAccessPointVersionAccepted(int major, QStringView version)
+/// The first `count` parts of a version; nothing when there are fewer or one is no number.
+std::optional<QList<int>> firstNumbers(QStringView version, qsizetype count)
 {
-    const QList<QStringView> parts = version.split(u'.');
-    if (parts.size() < 3) {
-        return false;
+    QList<QStringView> parts = version.split(u'.');
+    if (parts.size() < count) {
+        return std::nullopt;
     }
-    const std::optional<int> minor = toNumber(parts.at(1));
-    const std::optional<int> patch = toNumber(parts.at(2));
-    if (!minor || !patch || major < 1) {
-        return false;
+    parts.first() = fromFirstDigit(parts.first());
+    QList<int> numbers;
+    for (qsizetype i = 0; i < count; ++i) {
+        bool ok = false;
+        numbers.append(parts.at(i).toInt(&ok));
+        if (!ok) {
+            return std::nullopt;
+        }
     }
-    return major > 1 || *minor > 9 || (*minor == 9 && *patch >= 3);
+    return numbers;
 }
 
 } // namespace
 
 bool isDeviceAccepted(QStringView version, QStringView model)
 {
-    if (version.isEmpty() || !isKnownModel(model)) {
+    const DeviceModel* known = findModel(model);
+    if (known == nullptr) {
         return false;
     }
-    const std::optional<int> major = majorNumber(firstPart(version));
-    if (!major) {
-        return false;
-    }
-    return model.startsWith(u"PX-NDE") ? isAccessPointVersionAccepted(*major, version)
-                                       : *major >= 2;
+    const qsizetype parts = known->leastFirmware.count(u'.') + 1;
+    // What is no version comes before every version.
+    return firstNumbers(version, parts) >= firstNumbers(known->leastFirmware, parts);
 }

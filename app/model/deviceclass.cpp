@@ -1,26 +1,14 @@
 #include "deviceclass.h"
 
-bool isHub(QStringView model)
-{
-    return model.startsWith(u"PX-HB");
-}
-
 DeviceClass deviceClass(QStringView model)
 {
-    if (isHub(model)) {
-        return DeviceClass::Hub;
-    }
-    // The wireless access point carries microphones and is counted as one.
-    if (model.startsWith(u"PX-DL") || model.startsWith(u"PX-BK") || model.startsWith(u"PX-NDE")) {
-        return DeviceClass::Microphone;
-    }
-    if (model == u"LQA4-08S" || model == u"DSK4M") {
-        return DeviceClass::Speaker;
-    }
-    if (model == u"PNB-QE7") {
-        return DeviceClass::Controller;
-    }
-    return DeviceClass::Other;
+    const DeviceModel* known = findModel(model);
+    return known != nullptr ? known->deviceClass : DeviceClass::Other;
+}
+
+bool isHub(QStringView model)
+{
+    return deviceClass(model) == DeviceClass::Hub;
 }
 
 void DeviceCounts::add(QStringView model)

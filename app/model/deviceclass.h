@@ -1,22 +1,11 @@
 #pragma once
 
-#include <QStringView>
+#include "devicecatalogue.h"
 
-/// What a device is, by its model.
-enum class DeviceClass
-{
-    Hub,
-    Microphone,
-    Speaker,
-    Controller,
-    Other
-};
-
-/// The class of a model: hubs and microphones by the beginning of the name (variants of a model
-/// count with it), speakers and controllers by the exact name.
+/// The class of a model in the catalogue; Other for a model that is not known.
 DeviceClass deviceClass(QStringView model);
 
-/// True for every model whose name begins with the hub's.
+/// True for every model that counts as a hub.
 bool isHub(QStringView model);
 
 /// Counts of one room or one device set, and the limits that a conference system sets them.

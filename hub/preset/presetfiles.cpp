@@ -1,5 +1,6 @@
 #include "presetfiles.h"
 
+#include "devicecatalogue.h"
 #include "orderedxml.h"
 #include "records.h"
 
@@ -7,7 +8,8 @@
 
 namespace {
 
-constexpr int slotCount = 24; // peripherals that a hub's file has room for
+constexpr int slotCount = 24;  // peripherals that a hub's file has room for
+constexpr int hubNameMode = 0; // whatever its model
 
 QString systemName()
 {
@@ -89,11 +91,11 @@ void writePositions(OrderedXml& xml, const QList<const DeviceSetInfo*>& members)
 }
 
 /// A device keeps the name that it has unless the installer changed it.
-void writeName(OrderedXml& xml, const DeviceData* device, const QString& mode)
+void writeName(OrderedXml& xml, const DeviceData* device, int mode)
 {
     if (device != nullptr && device->labelModified) {
         xml.attribute(systemName(), device->label);
-        xml.attribute(systemNameMode(), mode);
+        xml.attribute(systemNameMode(), QString::number(mode));
     }
 }
 
@@ -126,7 +128,7 @@ std::optional<BuiltHubFile> buildHubFile(const QList<DeviceSetInfo>& sets,
     open(xml);
     writeMacAddresses(xml, members, deviceAt);
     writePositions(xml, members);
-    writeName(xml, deviceAt(hubAddress), QStringLiteral("0"));
+    writeName(xml, deviceAt(hubAddress), hubNameMode);
     return BuiltHubFile{hub->deviceSetNumber, close(xml)};
 }
 
@@ -141,9 +143,9 @@ std::optional<QStringList> listPeripherals(const QList<DeviceSetInfo>& sets,
     QStringList addresses;
     for (const DeviceSetInfo* member : companions(sets, *hub)) {
         const DeviceData* device = deviceAt(member->ipAddress);
-        // Exactly this model: a member that is not known stays listed, so that its missing file
-        // ends the installation instead of being passed over.
-        if (device == nullptr || device->modelName != u"PX-HB") {
+        // A member that is not known stays listed, so that its missing file ends the installation
+        // instead of being passed over.
+        if (device == nullptr || hasOwnFile(device->modelName)) {
             addresses.append(member->ipAddress);
         }
     }
@@ -157,9 +159,8 @@ std::optional<BuiltPeripheralFile> buildPeripheralFile(const DeviceLookup& devic
     if (device == nullptr) {
         return std::nullopt;
     }
-    const bool accessPoint = device->modelName.startsWith(u"PX-NDE");
     OrderedXml xml;
     open(xml);
-    writeName(xml, device, accessPoint ? QStringLiteral("1") : QStringLiteral("0"));
+    writeName(xml, device, nameMode(device->modelName));
     return BuiltPeripheralFile{device->macAddress, close(xml)};
 }
