@@ -7,7 +7,6 @@
 #include "fuzztarget.h"
 #include "guiapplication.h"
 #include "resumexml.h"
-#include "resumexmlwriter.h"
 #include "wizardpage.h"
 
 #include <QRect>

@@ -1,8 +1,9 @@
 #include "resumexml.h"
 
 #include "boundedxml.h"
-#include "records.h"
+#include "orderedxml.h"
 #include "resumecells.h"
+#include "resumeforms.h"
 #include "wizardpage.h"
 
 #include <algorithm>
@@ -15,91 +16,129 @@ constexpr int maxWindowSide = 10000;
 constexpr qsizetype maxLayouts = 100;
 constexpr qsizetype maxRoomGroupLength = 64;
 
-/// The attributes of one element by name.
-class Attributes
+/// A name as a string without a copy of it: names last as long as the program.
+QString literal(QStringView name)
 {
-public:
-    explicit Attributes(const BoundedXml& xml)
-        : m_attributes(xml.attributes())
-    {
-    }
+    return QString::fromRawData(name.data(), name.size());
+}
 
-    bool has(const char* name) const { return m_attributes.hasAttribute(QLatin1String(name)); }
-    QString text(const char* name) const
-    {
-        return m_attributes.value(QLatin1String(name)).toString();
-    }
-    bool isSet(const char* name) const { return m_attributes.value(QLatin1String(name)) == u"1"; }
+QString toText(int number)
+{
+    return QString::number(number);
+}
 
-    /// 0 for what is no number.
-    int number(const char* name, bool* ok = nullptr) const
-    {
-        return m_attributes.value(QLatin1String(name)).toInt(ok);
-    }
+QString toText(bool isSet)
+{
+    return isSet ? QStringLiteral("1") : QStringLiteral("0");
+}
 
-private:
-    QXmlStreamAttributes m_attributes;
-};
+QString toText(const QString& text)
+{
+    return text;
+}
+
+QString toText(const QList<QPoint>& cells)
+{
+    return writeCells(cells);
+}
+
+/// 0 for what is no number.
+void fromText(QStringView text, int& number)
+{
+    number = text.toInt();
+}
+
+void fromText(QStringView text, bool& isSet)
+{
+    isSet = text == u"1";
+}
+
+void fromText(QStringView text, QString& copy)
+{
+    copy = text.toString();
+}
+
+void fromText(QStringView text, QList<QPoint>& cells)
+{
+    cells = readCells(text);
+}
+
+template <typename Record>
+void writeRecord(OrderedXml& xml, const Record& record)
+{
+    xml.start(literal(formOf<Record>.element));
+    for (const ResumeField<Record>& field : formOf<Record>.fields) {
+        const auto write = [&](auto member) {
+            xml.attribute(literal(field.name), toText(record.*member));
+        };
+        std::visit(write, field.member);
+    }
+    xml.end();
+}
+
+/// What the current element does not say stays as it is in a new record.
+template <typename Record>
+Record readRecord(const BoundedXml& xml)
+{
+    const QXmlStreamAttributes attributes = xml.attributes();
+    Record record;
+    for (const ResumeField<Record>& field : formOf<Record>.fields) {
+        const QString name = literal(field.name);
+        const auto read = [&](auto member) { fromText(attributes.value(name), record.*member); };
+        if (attributes.hasAttribute(name)) {
+            std::visit(read, field.member);
+        }
+    }
+    return record;
+}
 
 bool isRoomNumber(int number)
 {
     return number >= 0 && number <= RoomInfo::maxRooms;
 }
 
-std::optional<SavedDevice> readDevice(const Attributes& attributes)
+/// What the wizard could have written of a record, if anything.
+template <typename Record>
+std::optional<Record> plausible(const Record& record)
 {
-    const int room = attributes.number("Room");
-    return SavedDevice{attributes.text("Label"),      attributes.text("IP"),
-                       attributes.text("MacAddress"), attributes.text("Model"),
-                       isRoomNumber(room) ? room : 0, attributes.isSet("ModifiedLabel")};
-}
-
-std::optional<RoomInfo> readRoom(const Attributes& attributes)
-{
-    const int number = attributes.number("Number");
-    if (!isRoomNumber(number)) {
-        return std::nullopt;
-    }
-    return RoomInfo{number, readCells(attributes.text("PosList"))};
-}
-
-std::optional<SceneInfo> readScene(const Attributes& attributes)
-{
-    const QString roomGroup = attributes.text("RoomGroup");
-    if (roomGroup.size() > maxRoomGroupLength) {
-        return std::nullopt;
-    }
-    return SceneInfo{attributes.number("Number"), roomGroup, {}};
-}
-
-std::optional<DeviceSetInfo> readDeviceSet(const Attributes& attributes)
-{
-    DeviceSetInfo record;
-    record.deviceSetNumber = attributes.number("DeviceSetNumber");
-    record.sceneNumber = attributes.number("SceneNumber");
-    record.ipAddress = attributes.text("IP");
-    record.remove = attributes.isSet("Remove");
-    if (attributes.has("SpeakerPosition")) {
-        record.speakerPosition = attributes.text("SpeakerPosition");
-    }
     return record;
 }
 
-std::optional<PresetInfo> readPreset(const Attributes& attributes)
+std::optional<SavedDevice> plausible(const SavedDevice& device)
 {
-    return PresetInfo{attributes.number("DeviceSetNumber"), attributes.number("SceneNumber"),
-                      attributes.text("PresetName")};
+    SavedDevice placed = device;
+    placed.roomNumber = isRoomNumber(device.roomNumber) ? device.roomNumber : 0;
+    return placed;
+}
+
+std::optional<RoomInfo> plausible(const RoomInfo& room)
+{
+    return isRoomNumber(room.number) ? std::optional(room) : std::nullopt;
+}
+
+std::optional<SceneInfo> plausible(const SceneInfo& scene)
+{
+    return scene.roomGroup.size() <= maxRoomGroupLength ? std::optional(scene) : std::nullopt;
+}
+
+template <typename Record>
+void writeList(OrderedXml& xml, const QList<Record>& records)
+{
+    xml.start(literal(formOf<Record>.list));
+    for (const Record& record : records) {
+        writeRecord(xml, record);
+    }
+    xml.end();
 }
 
 /// The children of the current list element; those of another name are passed over.
 template <typename Record>
-QList<Record> readList(BoundedXml& xml, QStringView tag,
-                       std::optional<Record> (*read)(const Attributes&))
+QList<Record> readList(BoundedXml& xml)
 {
     QList<Record> records;
     while (xml.enterChild()) {
         const std::optional<Record> record =
-            xml.tag() == tag ? read(Attributes(xml)) : std::nullopt;
+            xml.tag() == formOf<Record>.element ? plausible(readRecord<Record>(xml)) : std::nullopt;
         if (record) {
             records.append(*record);
         }
@@ -108,39 +147,40 @@ QList<Record> readList(BoundedXml& xml, QStringView tag,
     return records;
 }
 
-SavedSection readDevices(BoundedXml& xml)
+struct SectionWriter
 {
-    return readList(xml, u"DeviceData", readDevice);
-}
+    OrderedXml& xml;
 
-SavedSection readRooms(BoundedXml& xml)
+    template <typename Record>
+    void operator()(const QList<Record>& records) const
+    {
+        writeList(xml, records);
+    }
+    void operator()(QSize windowSize) const
+    {
+        writeRecord(xml, WindowSides{windowSize.width(), windowSize.height()});
+    }
+};
+
+template <typename Record>
+SavedSection readSection(BoundedXml& xml)
 {
-    return readList(xml, u"RoomInfo", readRoom);
+    return readList<Record>(xml);
 }
 
 SavedSection readScenes(BoundedXml& xml)
 {
-    QList<SceneInfo> scenes = readList(xml, u"SceneInfo", readScene);
+    QList<SceneInfo> scenes = readList<SceneInfo>(xml);
     scenes.resize(std::min(scenes.size(), maxLayouts));
     return scenes;
-}
-
-SavedSection readDeviceSets(BoundedXml& xml)
-{
-    return readList(xml, u"DeviceSetInfo", readDeviceSet);
-}
-
-SavedSection readPresets(BoundedXml& xml)
-{
-    return readList(xml, u"PresetInfo", readPreset);
 }
 
 /// A size that no window has counts as never set.
 SavedSection readWindowSize(BoundedXml& xml)
 {
-    const Attributes attributes(xml);
-    const QSize size(attributes.number("Width"), attributes.number("Height"));
+    const auto sides = readRecord<WindowSides>(xml);
     xml.leave();
+    const QSize size(sides.width, sides.height);
     const QSize largest(maxWindowSide, maxWindowSide);
     return size.isValid() && size.boundedTo(largest) == size ? size : QSize();
 }
@@ -152,12 +192,12 @@ struct SectionReader
 };
 
 constexpr std::array sectionReaders = {
-    SectionReader{u"DeviceDataList", readDevices},
-    SectionReader{u"RoomInfoList", readRooms},
-    SectionReader{u"SceneInfoList", readScenes},
-    SectionReader{u"DeviceSetInfoList", readDeviceSets},
-    SectionReader{u"PresetInfoList", readPresets},
-    SectionReader{u"WindowSize", readWindowSize},
+    SectionReader{formOf<SavedDevice>.list, readSection<SavedDevice>},
+    SectionReader{formOf<RoomInfo>.list, readSection<RoomInfo>},
+    SectionReader{formOf<SceneInfo>.list, readScenes},
+    SectionReader{formOf<DeviceSetInfo>.list, readSection<DeviceSetInfo>},
+    SectionReader{formOf<PresetInfo>.list, readSection<PresetInfo>},
+    SectionReader{formOf<WindowSides>.element, readWindowSize},
 };
 
 void readSections(BoundedXml& xml, SavedWork& work)
@@ -177,16 +217,28 @@ void readSections(BoundedXml& xml, SavedWork& work)
 std::optional<int> readPageIndex(const BoundedXml& xml)
 {
     bool ok = false;
-    const int index = Attributes(xml).number("Page", &ok);
+    const int index = xml.attributes().value(literal(ResumeRoot::page)).toInt(&ok);
     return ok && index >= 0 && index < pageTotal ? std::optional(index) : std::nullopt;
 }
 
 } // namespace
 
+QString writeResumeXml(const SavedWork& work)
+{
+    OrderedXml xml;
+    xml.start(literal(ResumeRoot::element));
+    xml.attribute(literal(ResumeRoot::page), work.pageIndex);
+    for (const SavedSection& section : work.sections) {
+        std::visit(SectionWriter{xml}, section);
+    }
+    xml.end();
+    return xml.text();
+}
+
 std::optional<SavedWork> readResumeXml(const QString& text)
 {
     BoundedXml xml(text);
-    if (!xml.enterChild() || xml.tag() != u"Tessel") {
+    if (!xml.enterChild() || xml.tag() != ResumeRoot::element) {
         return std::nullopt;
     }
     const std::optional<int> pageIndex = readPageIndex(xml);

@@ -4,8 +4,12 @@
 
 #include <optional>
 
-/// Reads the XML text of a resume file. Nothing when it does not parse to its end, when its root
-/// is another, or when its page is no page of the wizard.
+/// The XML text inside a resume file: the work's sections in their order. The same work gives the
+/// same text.
+QString writeResumeXml(const SavedWork& work);
+
+/// Reads it back. Nothing when it does not parse to its end, when its root is another, or when its
+/// page is no page of the wizard.
 ///
 /// The text comes from outside: whatever it says, reading it ends soon and yields nothing that the
 /// wizard could not have written. Numbers that do not convert count as 0; rooms of an impossible

@@ -8,7 +8,6 @@
 #include "missingdevices.h"
 #include "resumefile.h"
 #include "resumexml.h"
-#include "resumexmlwriter.h"
 #include "workrestore.h"
 
 #include <QCoreApplication>

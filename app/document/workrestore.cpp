@@ -12,8 +12,12 @@ namespace {
 
 SavedDevice saved(const DeviceData& device)
 {
-    return {device.label,     device.ipAddress,  device.macAddress,
-            device.modelName, device.roomNumber, device.labelModified};
+    return {.label = device.label,
+            .ipAddress = device.ipAddress,
+            .macAddress = device.macAddress,
+            .modelName = device.modelName,
+            .roomNumber = device.roomNumber,
+            .labelModified = device.labelModified};
 }
 
 /// A device gets back what the installer gave it.

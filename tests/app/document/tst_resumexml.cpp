@@ -1,5 +1,4 @@
 #include "resumexml.h"
-#include "resumexmlwriter.h"
 #include "testcase.h"
 
 #include <QDomDocument>
