@@ -2,13 +2,51 @@
 
 #include "layoutqueries.h"
 
-QList<int> RoomGroup::roomNumbers() const
+#include <QStringList>
+
+namespace {
+
+constexpr QChar betweenRooms = u'+';
+constexpr QChar betweenGroups = u'/';
+
+QStringList numberTexts(const QList<int>& rooms)
 {
-    QList<int> numbers;
-    for (const QStringView part : QStringView(roomText).split(u',')) {
-        numbers.append(part.toInt());
+    QStringList texts;
+    for (const int room : rooms) {
+        texts.append(QString::number(room));
     }
-    return numbers;
+    return texts;
+}
+
+QString sortedAndJoined(QStringList texts, QChar separator)
+{
+    texts.sort();
+    return texts.join(separator);
+}
+
+QList<int> roomsIn(QStringView text)
+{
+    QList<int> rooms;
+    for (const QStringView room : text.split(betweenRooms)) {
+        rooms.append(room.toInt());
+    }
+    return rooms;
+}
+
+} // namespace
+
+QString RoomGroup::roomText() const
+{
+    return numberTexts(rooms).join(u',');
+}
+
+QString layoutText(const QList<QList<int>>& combinedRooms)
+{
+    QStringList groups;
+    for (const QList<int>& rooms : combinedRooms) {
+        groups.append(sortedAndJoined(numberTexts(rooms), betweenRooms));
+    }
+    return sortedAndJoined(std::move(groups), betweenGroups);
 }
 
 QList<RoomGroup> roomGroups(IDocAccessor& doc)
@@ -20,9 +58,8 @@ QList<RoomGroup> roomGroups(IDocAccessor& doc)
         if (!layout) {
             continue;
         }
-        for (QString rooms : layout->roomGroup.split(u'/')) {
-            rooms.replace(u'+', u',');
-            groups.append({int(groups.size()) + 1, scene, rooms, layout->thumbnail});
+        for (const QStringView text : QStringView(layout->roomGroup).split(betweenGroups)) {
+            groups.append({int(groups.size()) + 1, scene, roomsIn(text), layout->thumbnail});
         }
     }
     return groups;

@@ -60,7 +60,7 @@ DeviceSet::DeviceSet(RoomGroup group, IDocAccessor* doc, QWidget* parent)
 
 void DeviceSet::fill(RoomDevices& devices)
 {
-    m_devices = devices.in(m_group.roomNumbers());
+    m_devices = devices.in(m_group.rooms);
     QStringList addresses;
     for (const DeviceEntry& device : std::as_const(m_devices)) {
         addresses.append(device.ipAddress);

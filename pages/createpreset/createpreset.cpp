@@ -92,7 +92,7 @@ PresetNameEdit* CreatePreset::nameField(const RoomGroup& group)
     const auto name = presetName(*m_doc, group.number, group.sceneNumber);
     auto* field = new PresetNameEdit(name.value_or(QString()), m_groupList);
     field->setAccessibleName(tr("Preset name of rooms %1 in layout %2")
-                                 .arg(group.roomText, QString::number(group.sceneNumber)));
+                                 .arg(group.roomText(), QString::number(group.sceneNumber)));
     return field;
 }
 

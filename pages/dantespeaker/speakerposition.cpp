@@ -34,7 +34,7 @@ SpeakerPosition::SpeakerPosition(RoomGroup group, IDocAccessor* doc, QWidget* pa
 
 void SpeakerPosition::fill(RoomDevices& devices)
 {
-    for (const DeviceEntry& device : devices.in(m_group.roomNumbers())) {
+    for (const DeviceEntry& device : devices.in(m_group.rooms)) {
         if (deviceClass(device.modelName) != DeviceClass::Speaker) {
             continue;
         }

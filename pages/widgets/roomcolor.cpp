@@ -15,8 +15,3 @@ QColor roomColor(int room, const QColor& fallback)
         return fallback;
     }
 }
-
-QColor roomGroupColor(QStringView roomText, const QColor& fallback)
-{
-    return roomText.isEmpty() ? fallback : roomColor(roomText.front().unicode() - u'0', fallback);
-}

@@ -1,7 +1,5 @@
 #include "roomlinks.h"
 
-#include <QStringList>
-
 #include <algorithm>
 
 namespace {
@@ -36,16 +34,6 @@ bool mergeOnce(QList<QList<int>>& groups)
     return merged;
 }
 
-QString joined(const QList<int>& rooms)
-{
-    QStringList texts;
-    for (const int room : rooms) {
-        texts.append(QString::number(room));
-    }
-    texts.sort();
-    return texts.join(u'+');
-}
-
 } // namespace
 
 RoomPair roomPair(int one, int other)
@@ -67,23 +55,18 @@ QList<QList<int>> RoomLinks::groups() const
     return groups;
 }
 
-QString RoomLinks::groupText(int roomCount) const
+QList<QList<int>> RoomLinks::combinedRooms(int roomCount) const
 {
-    const QList<QList<int>> combined = groups();
-    QStringList texts;
+    QList<QList<int>> combined = groups();
+    combined.removeIf([](const QList<int>& group) { return group.isEmpty(); });
+    const QList<QList<int>> linked = combined;
     for (int room = 1; room <= roomCount; ++room) {
         const bool alone =
-            std::none_of(combined.begin(), combined.end(),
+            std::none_of(linked.begin(), linked.end(),
                          [room](const QList<int>& group) { return group.contains(room); });
         if (alone) {
-            texts.append(QString::number(room));
+            combined.append(QList<int>{room});
         }
     }
-    for (const QList<int>& group : combined) {
-        if (!group.isEmpty()) {
-            texts.append(joined(group));
-        }
-    }
-    texts.sort();
-    return texts.join(u'/');
+    return combined;
 }

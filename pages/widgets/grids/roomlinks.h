@@ -2,7 +2,6 @@
 
 #include <QList>
 #include <QMap>
-#include <QString>
 
 #include <utility>
 
@@ -23,10 +22,9 @@ public:
     /// The groups of two rooms and more. Lists that were merged into others are left empty.
     QList<QList<int>> groups() const;
 
-    /// The text that names a layout of the rooms 1 to `roomCount` and that two equal layouts
-    /// share: the rooms of each group sorted and joined with "+", the groups sorted and joined
-    /// with "/", each room once ("1+2/3/4"). Empty without rooms.
-    QString groupText(int roomCount) const;
+    /// The combined rooms that a layout of the rooms 1 to `roomCount` consists of, each room in
+    /// one of them, alone where nothing links it. None of them is empty.
+    QList<QList<int>> combinedRooms(int roomCount) const;
 
 private:
     QMap<RoomPair, bool> m_links;

@@ -6,6 +6,7 @@
 #include "roomarea.h"
 #include "roomborder.h"
 #include "roomcolor.h"
+#include "roomgroup.h"
 #include "tesselbutton.h"
 
 #include <QContextMenuEvent>
@@ -79,7 +80,7 @@ void Tessel::clearAll()
 
 QString Tessel::roomGroupText() const
 {
-    return m_links.groupText(maxRoomNumber());
+    return layoutText(m_links.combinedRooms(maxRoomNumber()));
 }
 
 QPixmap Tessel::renderThumbnail() const

@@ -43,8 +43,8 @@ protected:
 QTreeWidgetItem* createRow(const RoomGroup& group)
 {
     auto* row = new QTreeWidgetItem(
-        {QString::number(group.number), QString::number(group.sceneNumber), group.roomText});
-    row->setBackground(RoomGroupList::roomColumn, roomGroupColor(group.roomText, Qt::white));
+        {QString::number(group.number), QString::number(group.sceneNumber), group.roomText()});
+    row->setBackground(RoomGroupList::roomColumn, roomColor(group.rooms.first(), Qt::white));
     row->setForeground(RoomGroupList::roomColumn, QColor(Qt::white));
     return row;
 }

@@ -10,8 +10,6 @@ class TestRoomColor : public TestCase
 private Q_SLOTS:
     void everyRoomHasItsColour_data();
     void everyRoomHasItsColour();
-    void aGroupHasTheColourOfItsFirstCharacter_data();
-    void aGroupHasTheColourOfItsFirstCharacter();
 };
 
 void TestRoomColor::everyRoomHasItsColour_data()
@@ -32,28 +30,6 @@ void TestRoomColor::everyRoomHasItsColour()
     QFETCH(const int, room);
     QFETCH(const QColor, color);
     QCOMPARE(roomColor(room, Qt::cyan), color);
-}
-
-void TestRoomColor::aGroupHasTheColourOfItsFirstCharacter_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("room");
-    QTest::newRow("one room") << QStringLiteral("4") << 4;
-    QTest::newRow("commas") << QStringLiteral("1,2") << 1;
-    QTest::newRow("plus signs") << QStringLiteral("2+3+4") << 2;
-    QTest::newRow("empty") << QString() << 0;
-    QTest::newRow("0") << QStringLiteral("0") << 0;
-    QTest::newRow("5") << QStringLiteral("5,1") << 0;
-    QTest::newRow("12 begins with 1") << QStringLiteral("12") << 1;
-    QTest::newRow("space first") << QStringLiteral(" 1") << 0;
-    QTest::newRow("letter") << QStringLiteral("a") << 0;
-}
-
-void TestRoomColor::aGroupHasTheColourOfItsFirstCharacter()
-{
-    QFETCH(const QString, text);
-    QFETCH(const int, room);
-    QCOMPARE(roomGroupColor(text, Qt::white), roomColor(room, Qt::white));
 }
 
 TESSEL_TEST_MAIN(TestRoomColor)

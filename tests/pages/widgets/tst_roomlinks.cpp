@@ -1,3 +1,4 @@
+#include "roomgroup.h"
 #include "roomlinks.h"
 #include "testcase.h"
 
@@ -62,7 +63,7 @@ void TestRoomLinks::theTextNamesEveryRoomOnce()
     QFETCH(const int, rooms);
     QFETCH(const Pairs, pairs);
     QFETCH(const QString, text);
-    QCOMPARE(linked(pairs).groupText(rooms), text);
+    QCOMPARE(layoutText(linked(pairs).combinedRooms(rooms)), text);
 }
 
 void TestRoomLinks::unlinkedPairsCountForNothing()
@@ -71,7 +72,7 @@ void TestRoomLinks::unlinkedPairsCountForNothing()
     links.set({1, 2}, false);
     QVERIFY(!links.isLinked({1, 2}));
     QCOMPARE(links.groups(), QList<QList<int>>());
-    QCOMPARE(links.groupText(2), QStringLiteral("1/2"));
+    QCOMPARE(layoutText(links.combinedRooms(2)), QStringLiteral("1/2"));
 }
 
 void TestRoomLinks::allRoomsOfAChainAreOneGroup()
@@ -85,7 +86,7 @@ void TestRoomLinks::allRoomsOfAChainAreOneGroup()
 
 void TestRoomLinks::onlyRoomsThatExistTakePart()
 {
-    QCOMPARE(linked({{1, 2}}).groupText(3), QStringLiteral("1+2/3"));
+    QCOMPARE(layoutText(linked({{1, 2}}).combinedRooms(3)), QStringLiteral("1+2/3"));
 }
 
 void TestRoomLinks::clearForgetsAllLinks()
@@ -93,7 +94,7 @@ void TestRoomLinks::clearForgetsAllLinks()
     RoomLinks links = linked({{1, 2}});
     links.clear();
     QVERIFY(!links.isLinked({1, 2}));
-    QCOMPARE(links.groupText(2), QStringLiteral("1/2"));
+    QCOMPARE(layoutText(links.combinedRooms(2)), QStringLiteral("1/2"));
 }
 
 TESSEL_TEST_MAIN(TestRoomLinks)
