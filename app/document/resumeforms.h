@@ -4,8 +4,7 @@
 
 #include <QStringView>
 
-#include <array>
-#include <variant>
+#include <tuple>
 
 // The names in the XML text of a resume file, each written once: writing and reading follow them.
 
@@ -18,27 +17,33 @@ inline constexpr QStringView page = u"Page"; ///< attribute: an index of WizardP
 } // namespace ResumeRoot
 
 /// One attribute of an element: its name, and where in the record its value stands.
-template <typename Record>
+template <typename Record, typename Value>
 struct ResumeField
 {
     QStringView name;
-    std::variant<int Record::*, bool Record::*, QString Record::*, QList<QPoint> Record::*> member;
+    Value Record::*member;
 };
 
+template <typename Record, typename Value>
+constexpr ResumeField<Record, Value> resumeField(QStringView name, Value Record::*member)
+{
+    return {name, member};
+}
+
 /// How records of one type look in the file; writing and reading both follow it.
-template <typename Record, std::size_t count>
+template <typename Record, typename... Values>
 struct ResumeForm
 {
     QStringView list; ///< the element around all of them; empty for what there is one of
     QStringView element;
-    std::array<ResumeField<Record>, count> fields; ///< in file order
+    std::tuple<ResumeField<Record, Values>...> fields; ///< in file order
 };
 
-template <typename Record, std::size_t count>
-constexpr ResumeForm<Record, count> resumeForm(QStringView list, QStringView element,
-                                               const ResumeField<Record> (&fields)[count])
+template <typename Record, typename... Values>
+constexpr ResumeForm<Record, Values...> resumeForm(QStringView list, QStringView element,
+                                                   ResumeField<Record, Values>... fields)
 {
-    return {list, element, std::to_array(fields)};
+    return {list, element, {fields...}};
 }
 
 /// The form of each type that is saved.
@@ -46,40 +51,39 @@ template <typename Record>
 inline constexpr auto formOf = nullptr;
 
 template <>
-inline constexpr auto formOf<SavedDevice> =
-    resumeForm<SavedDevice>(u"DeviceDataList", u"DeviceData",
-                            {{u"Label", &SavedDevice::label},
-                             {u"IP", &SavedDevice::ipAddress},
-                             {u"MacAddress", &SavedDevice::macAddress},
-                             {u"Model", &SavedDevice::modelName},
-                             {u"Room", &SavedDevice::roomNumber},
-                             {u"ModifiedLabel", &SavedDevice::labelModified}});
+inline constexpr auto formOf<SavedDevice> = resumeForm(
+    u"DeviceDataList", u"DeviceData", resumeField(u"Label", &SavedDevice::label),
+    resumeField(u"IP", &SavedDevice::ipAddress),
+    resumeField(u"MacAddress", &SavedDevice::macAddress),
+    resumeField(u"Model", &SavedDevice::modelName), resumeField(u"Room", &SavedDevice::roomNumber),
+    resumeField(u"ModifiedLabel", &SavedDevice::labelModified));
 
 template <>
-inline constexpr auto formOf<RoomInfo> =
-    resumeForm<RoomInfo>(u"RoomInfoList", u"RoomInfo",
-                         {{u"Number", &RoomInfo::number}, {u"PosList", &RoomInfo::positionList}});
+inline constexpr auto formOf<RoomInfo> = resumeForm(u"RoomInfoList", u"RoomInfo",
+                                                    resumeField(u"Number", &RoomInfo::number),
+                                                    resumeField(u"PosList",
+                                                                &RoomInfo::positionList));
 
 template <>
-inline constexpr auto formOf<SceneInfo> =
-    resumeForm<SceneInfo>(u"SceneInfoList", u"SceneInfo",
-                          {{u"Number", &SceneInfo::number}, {u"RoomGroup", &SceneInfo::roomGroup}});
+inline constexpr auto formOf<SceneInfo> = resumeForm(u"SceneInfoList", u"SceneInfo",
+                                                     resumeField(u"Number", &SceneInfo::number),
+                                                     resumeField(u"RoomGroup",
+                                                                 &SceneInfo::roomGroup));
 
 template <>
-inline constexpr auto formOf<DeviceSetInfo> =
-    resumeForm<DeviceSetInfo>(u"DeviceSetInfoList", u"DeviceSetInfo",
-                              {{u"DeviceSetNumber", &DeviceSetInfo::deviceSetNumber},
-                               {u"SceneNumber", &DeviceSetInfo::sceneNumber},
-                               {u"IP", &DeviceSetInfo::ipAddress},
-                               {u"Remove", &DeviceSetInfo::remove},
-                               {u"SpeakerPosition", &DeviceSetInfo::speakerPosition}});
+inline constexpr auto formOf<DeviceSetInfo> = resumeForm(
+    u"DeviceSetInfoList", u"DeviceSetInfo",
+    resumeField(u"DeviceSetNumber", &DeviceSetInfo::deviceSetNumber),
+    resumeField(u"SceneNumber", &DeviceSetInfo::sceneNumber),
+    resumeField(u"IP", &DeviceSetInfo::ipAddress), resumeField(u"Remove", &DeviceSetInfo::remove),
+    resumeField(u"SpeakerPosition", &DeviceSetInfo::speakerPosition));
 
 template <>
 inline constexpr auto
-    formOf<PresetInfo> = resumeForm<PresetInfo>(u"PresetInfoList", u"PresetInfo",
-                                                {{u"DeviceSetNumber", &PresetInfo::deviceSetNumber},
-                                                 {u"SceneNumber", &PresetInfo::sceneNumber},
-                                                 {u"PresetName", &PresetInfo::presetName}});
+    formOf<PresetInfo> = resumeForm(u"PresetInfoList", u"PresetInfo",
+                                    resumeField(u"DeviceSetNumber", &PresetInfo::deviceSetNumber),
+                                    resumeField(u"SceneNumber", &PresetInfo::sceneNumber),
+                                    resumeField(u"PresetName", &PresetInfo::presetName));
 
 /// The size of the window as the file has it.
 struct WindowSides
@@ -89,6 +93,7 @@ struct WindowSides
 };
 
 template <>
-inline constexpr auto formOf<WindowSides> =
-    resumeForm<WindowSides>(QStringView(), u"WindowSize",
-                            {{u"Width", &WindowSides::width}, {u"Height", &WindowSides::height}});
+inline constexpr auto formOf<WindowSides> = resumeForm(QStringView(), u"WindowSize",
+                                                       resumeField(u"Width", &WindowSides::width),
+                                                       resumeField(u"Height",
+                                                                   &WindowSides::height));

@@ -67,12 +67,10 @@ template <typename Record>
 void writeRecord(OrderedXml& xml, const Record& record)
 {
     xml.start(literal(formOf<Record>.element));
-    for (const ResumeField<Record>& field : formOf<Record>.fields) {
-        const auto write = [&](auto member) {
-            xml.attribute(literal(field.name), toText(record.*member));
-        };
-        std::visit(write, field.member);
-    }
+    const auto write = [&](const auto& field) {
+        xml.attribute(literal(field.name), toText(record.*field.member));
+    };
+    std::apply([&](const auto&... field) { (write(field), ...); }, formOf<Record>.fields);
     xml.end();
 }
 
@@ -82,13 +80,13 @@ Record readRecord(const BoundedXml& xml)
 {
     const QXmlStreamAttributes attributes = xml.attributes();
     Record record;
-    for (const ResumeField<Record>& field : formOf<Record>.fields) {
+    const auto read = [&](const auto& field) {
         const QString name = literal(field.name);
-        const auto read = [&](auto member) { fromText(attributes.value(name), record.*member); };
         if (attributes.hasAttribute(name)) {
-            std::visit(read, field.member);
+            fromText(attributes.value(name), record.*field.member);
         }
-    }
+    };
+    std::apply([&](const auto&... field) { (read(field), ...); }, formOf<Record>.fields);
     return record;
 }
 
