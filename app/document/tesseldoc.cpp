@@ -4,6 +4,7 @@
 #include "datakey.h"
 #include "datakind.h"
 #include "deviceidentify.h"
+#include "documentdata.h"
 #include "kindoperations.h"
 #include "missingdevices.h"
 #include "resumefile.h"
@@ -14,17 +15,18 @@
 
 TesselDoc::TesselDoc(QObject* parent)
     : QObject(parent)
+    , m_data(std::make_unique<DocumentData>())
 {
     const CommandLine commandLine = readCommandLine(QCoreApplication::arguments());
-    m_data.nicIndex = commandLine.nicIndex;
+    m_data->nicIndex = commandLine.nicIndex;
     for (const DeviceData& device : commandLine.devices) {
-        m_data.devices.append(device);
+        m_data->devices.append(device);
     }
 }
 
 TesselDoc::~TesselDoc()
 {
-    for (const DeviceData& device : m_data.devices.all()) {
+    for (const DeviceData& device : m_data->devices.all()) {
         deleteIdentifiers(device);
     }
 }
@@ -32,13 +34,13 @@ TesselDoc::~TesselDoc()
 bool TesselDoc::setData(int kind, const QVariantMap& data)
 {
     const auto set = operationsOf(kind).set;
-    return set != nullptr && set(m_data, data);
+    return set != nullptr && set(*m_data, data);
 }
 
 bool TesselDoc::getData(int kind, QVariantMap& data)
 {
     const auto get = operationsOf(kind).get;
-    return get != nullptr && get(m_data, data);
+    return get != nullptr && get(*m_data, data);
 }
 
 bool TesselDoc::clearData(int kind)
@@ -47,14 +49,14 @@ bool TesselDoc::clearData(int kind)
     if (clear == nullptr) {
         return false;
     }
-    clear(m_data);
+    clear(*m_data);
     return true;
 }
 
 bool TesselDoc::addData(int kind, const QVariantMap& data)
 {
     const auto add = operationsOf(kind).add;
-    return add != nullptr && add(m_data, data);
+    return add != nullptr && add(*m_data, data);
 }
 
 bool TesselDoc::doAction(int kind, const QVariantMap& data)
@@ -62,7 +64,7 @@ bool TesselDoc::doAction(int kind, const QVariantMap& data)
     if (kind != DataKind::Identify || !data.contains(DataKey::deviceIPAddress())) {
         return false;
     }
-    DeviceData* device = m_data.devices.find(data.value(DataKey::deviceIPAddress()).toString());
+    DeviceData* device = m_data->devices.find(data.value(DataKey::deviceIPAddress()).toString());
     if (device == nullptr) {
         return false;
     }
@@ -73,12 +75,12 @@ bool TesselDoc::doAction(int kind, const QVariantMap& data)
 bool TesselDoc::getDataList(int kind, const QVariantMap& selector, QList<QVariantMap>& list)
 {
     const auto getList = operationsOf(kind).list;
-    return getList != nullptr && getList(m_data, selector, list);
+    return getList != nullptr && getList(*m_data, selector, list);
 }
 
 bool TesselDoc::saveResume(const QString& path)
 {
-    const ResumeFile content{writeResumeXml(gatherWork(m_data)), m_data.scenes};
+    const ResumeFile content{writeResumeXml(gatherWork(*m_data)), m_data->scenes};
     return writeResumeFile(path, packResumeFile(content));
 }
 
@@ -90,7 +92,7 @@ bool TesselDoc::loadResume(const QString& path)
     if (!work) {
         return false;
     }
-    const RestoreOutcome outcome = restoreWork(m_data, *work, content->scenes);
+    const RestoreOutcome outcome = restoreWork(*m_data, *work, content->scenes);
     if (!outcome.missing.isEmpty()) {
         warnOfMissingDevices(outcome.missing);
     }

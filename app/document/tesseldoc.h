@@ -1,9 +1,12 @@
 #pragma once
 
-#include "documentdata.h"
 #include "idocaccessor.h"
 
 #include <QObject>
+
+#include <memory>
+
+struct DocumentData;
 
 /// The wizard's one document: network interface, devices, rooms, layouts, device sets, presets.
 /// It lives from program start to exit; everybody else sees it as IDocAccessor.
@@ -32,5 +35,5 @@ public:
     bool loadResume(const QString& path) override;
 
 private:
-    DocumentData m_data;
+    std::unique_ptr<DocumentData> m_data;
 };
