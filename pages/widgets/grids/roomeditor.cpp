@@ -1,8 +1,6 @@
 #include "roomeditor.h"
 
 #include "arrowkey.h"
-#include "gridcolor.h"
-#include "roomcolor.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -12,25 +10,16 @@ namespace {
 
 constexpr QPoint noPosition{-1, -1};
 
-/// The numbers stay inside cells that are lower than a line of text.
-QFont fittingFont(QFont font, int cellSize)
-{
-    if (QFontMetrics(font).height() > cellSize) {
-        font.setPixelSize(std::max(1, cellSize * 3 / 4));
-    }
-    return font;
-}
-
 } // namespace
 
 RoomEditor::RoomEditor(QWidget* parent, int gap, int cellSize, bool readOnly)
     : QWidget(parent)
-    , m_geometry{gap, cellSize}
+    , m_picture(GridGeometry{gap, cellSize})
     , m_readOnly(readOnly)
     , m_pressPosition(noPosition)
 {
-    setFixedSize(m_geometry.side(), m_geometry.side());
-    setFont(fittingFont(font(), cellSize));
+    setFixedSize(geometry().side(), geometry().side());
+    setFont(m_picture.fittingFont(font()));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(readOnly ? Qt::NoFocus : Qt::StrongFocus);
     setAccessibleName(tr("Room design"));
@@ -63,7 +52,7 @@ void RoomEditor::mousePressEvent(QMouseEvent* event)
     m_focusMark.mouseUsed();
     updateCell(m_cursor);
     const QPoint position = event->position().toPoint();
-    const std::optional<QPoint> cell = m_geometry.cellAt(position);
+    const std::optional<QPoint> cell = geometry().cellAt(position);
     if (cell) {
         m_cursor = *cell;
     }
@@ -75,7 +64,7 @@ void RoomEditor::mousePressEvent(QMouseEvent* event)
 
 void RoomEditor::mouseMoveEvent(QMouseEvent* event)
 {
-    const std::optional<QPoint> cell = m_geometry.cellAt(event->position().toPoint());
+    const std::optional<QPoint> cell = geometry().cellAt(event->position().toPoint());
     if (!m_readOnly && cell) {
         const RoomGrid before = m_drawing.grid();
         m_drawing.extend(*cell);
@@ -90,7 +79,7 @@ void RoomEditor::mouseReleaseEvent(QMouseEvent* event)
     }
     m_drawing.liftStroke();
     const QPoint position = event->position().toPoint();
-    const std::optional<QPoint> cell = m_geometry.cellAt(position);
+    const std::optional<QPoint> cell = geometry().cellAt(position);
     if (!cell) {
         return;
     }
@@ -142,19 +131,9 @@ void RoomEditor::focusOutEvent(QFocusEvent* /*event*/)
 void RoomEditor::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    painter.fillRect(event->rect(), gridBackground);
-    // Only what is exposed: while drawing that is a single cell per move, without lines.
-    const QRect cells = m_geometry.cellsIn(event->rect());
-    if (!m_geometry.cellRect(cells.topLeft()).contains(event->rect())) {
-        paintLines(painter, cells);
-    }
-    for (int x = cells.left(); x <= cells.right(); ++x) {
-        for (int y = cells.top(); y <= cells.bottom(); ++y) {
-            paintCell(painter, {x, y});
-        }
-    }
+    m_picture.paint(painter, m_drawing.grid(), event->rect());
     if (m_focusMark.isShown(this)) {
-        drawFocusRing(painter, m_geometry.cellRect(m_cursor));
+        drawFocusRing(painter, geometry().cellRect(m_cursor));
     }
 }
 
@@ -252,40 +231,5 @@ void RoomEditor::describeCursor()
 
 void RoomEditor::updateCell(QPoint cell)
 {
-    update(m_geometry.cellRect(cell));
-}
-
-/// Draws the lines around the given cells.
-void RoomEditor::paintLines(QPainter& painter, const QRect& cells) const
-{
-    painter.setPen(
-        QPen(QBrush(Qt::black), m_geometry.gap, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    for (int i = cells.left(); i <= cells.right() + 1; ++i) {
-        const int x = m_geometry.pitch() * i + m_geometry.gap / 2;
-        painter.drawLine(x, 0, x, height());
-    }
-    for (int i = cells.top(); i <= cells.bottom() + 1; ++i) {
-        const int y = m_geometry.pitch() * i + m_geometry.gap / 2;
-        painter.drawLine(0, y, width(), y);
-    }
-}
-
-void RoomEditor::paintCell(QPainter& painter, QPoint cell)
-{
-    const int room = m_drawing.grid().at(cell);
-    if (room == 0) {
-        return;
-    }
-    const QRect square = m_geometry.cellRect(cell);
-    painter.fillRect(square, roomColor(room, Qt::white));
-    // Laid out once per number: setting the text of 64 cells costs more than all else here.
-    QStaticText& text = m_numbers[room];
-    if (text.text().isEmpty()) {
-        text.setTextFormat(Qt::PlainText);
-        text.setText(QString::number(room));
-        text.prepare(QTransform(), font());
-    }
-    painter.setPen(QPen(Qt::white, 1));
-    const QPointF middle = QRectF(QPointF(), text.size()).center();
-    painter.drawStaticText(QRectF(square).center() - middle, text);
+    update(geometry().cellRect(cell));
 }

@@ -1,11 +1,9 @@
 #pragma once
 
 #include "focusmark.h"
-#include "gridgeometry.h"
 #include "roomdrawing.h"
+#include "roompicture.h"
 
-#include <QHash>
-#include <QStaticText>
 #include <QWidget>
 
 /// The 8 x 8 grid on which the rooms of the hall are drawn; read-only it is a picture of them.
@@ -68,14 +66,13 @@ private:
     void describeCursor();
 
     void updateCell(QPoint cell);
-    void paintLines(QPainter& painter, const QRect& cells) const;
-    void paintCell(QPainter& painter, QPoint cell);
 
-    GridGeometry m_geometry;
+    const GridGeometry& geometry() const { return m_picture.geometry(); }
+
+    RoomPicture m_picture;
     bool m_readOnly;
     RoomDrawing m_drawing;
-    QHash<int, QStaticText> m_numbers; ///< laid out, per room
-    QPoint m_pressPosition;            ///< noPosition while no press is pending
+    QPoint m_pressPosition; ///< noPosition while no press is pending
     bool m_keyStroke = false;
     QPoint m_cursor;
     FocusMark m_focusMark;

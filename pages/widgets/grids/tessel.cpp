@@ -1,11 +1,7 @@
 #include "tessel.h"
 
 #include "arrowkey.h"
-#include "gridcolor.h"
-#include "records.h"
-#include "roomarea.h"
 #include "roomborder.h"
-#include "roomcolor.h"
 #include "roomgroup.h"
 #include "tesselbutton.h"
 
@@ -19,11 +15,6 @@ namespace {
 
 constexpr int focusLineWidth = 3;
 
-QColor ownColor(int room)
-{
-    return roomColor(room, Qt::white);
-}
-
 /// Where a press opens the room's menu: the drop-down mark and a little around it.
 QRect hotSpot(const QRect& label)
 {
@@ -34,10 +25,10 @@ QRect hotSpot(const QRect& label)
 
 Tessel::Tessel(QWidget* parent, int gap, int cellSize, bool readOnly)
     : QWidget(parent)
-    , m_geometry{gap, cellSize}
+    , m_picture(GridGeometry{gap, cellSize})
     , m_readOnly(readOnly)
 {
-    setFixedSize(m_geometry.side(), m_geometry.side());
+    setFixedSize(m_picture.geometry().side(), m_picture.geometry().side());
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(readOnly ? Qt::NoFocus : Qt::StrongFocus);
     setAccessibleName(tr("Room combination"));
@@ -47,11 +38,7 @@ Tessel::Tessel(QWidget* parent, int gap, int cellSize, bool readOnly)
 
 void Tessel::setRoom(int room, const QList<QPoint>& cells)
 {
-    for (const QPoint cell : cells) {
-        m_grid.set(cell, room);
-    }
-    const QRegion area = roomArea(m_grid, m_geometry, room);
-    m_rooms.insert(room, {roomLabelRect(area), area, ownColor(room)});
+    m_picture.setRoom(room, cells);
 }
 
 void Tessel::createLinkButtons()
@@ -59,7 +46,7 @@ void Tessel::createLinkButtons()
     qDeleteAll(m_buttons);
     m_buttons.clear();
     QWidget* last = this;
-    for (const RoomBorder& border : firstBorders(m_grid)) {
+    for (const RoomBorder& border : firstBorders(m_picture.grid())) {
         TesselButton* button = createLinkButton(border);
         m_buttons.insert(border.rooms, button);
         setTabOrder(last, button);
@@ -69,8 +56,7 @@ void Tessel::createLinkButtons()
 
 void Tessel::clearAll()
 {
-    m_grid.clear();
-    m_rooms.clear();
+    m_picture.clear();
     qDeleteAll(m_buttons);
     m_buttons.clear();
     m_links.clear();
@@ -87,16 +73,17 @@ QPixmap Tessel::renderThumbnail() const
 {
     QPixmap pixmap(size());
     QPainter painter(&pixmap);
-    paintRooms(painter);
+    m_picture.paintRooms(painter);
     return pixmap;
 }
 
 void Tessel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    paintRooms(painter);
-    for (auto room = m_rooms.cbegin(); room != m_rooms.cend(); ++room) {
-        paintLabel(painter, room.key(), room.value());
+    m_picture.paintRooms(painter);
+    m_picture.paintNumbers(painter);
+    if (!m_readOnly) {
+        paintMarks(painter);
     }
     if (m_focusMark.isShown(this)) {
         paintFocus(painter);
@@ -111,12 +98,12 @@ void Tessel::mousePressEvent(QMouseEvent* event)
     m_focusMark.mouseUsed();
     update();
     const QPoint position = event->position().toPoint();
-    const int room = roomAt(position);
+    const int room = m_picture.roomAt(position);
     if (room == 0) {
         return;
     }
     setCurrentRoom(room);
-    if (hotSpot(m_rooms.value(room).label).contains(position)) {
+    if (hotSpot(m_picture.rooms().value(room).label).contains(position)) {
         openMenu(room);
     }
 }
@@ -130,7 +117,7 @@ void Tessel::contextMenuEvent(QContextMenuEvent* event)
     if (event->reason() == QContextMenuEvent::Keyboard) {
         openMenu(m_currentRoom);
     } else {
-        openMenuAt(roomAt(event->pos()), event->globalPos());
+        openMenuAt(m_picture.roomAt(event->pos()), event->globalPos());
     }
 }
 
@@ -153,8 +140,8 @@ void Tessel::keyPressEvent(QKeyEvent* event)
 void Tessel::focusInEvent(QFocusEvent* event)
 {
     m_focusMark.focusIn(event);
-    if (!m_rooms.contains(m_currentRoom)) {
-        m_currentRoom = m_rooms.isEmpty() ? 0 : m_rooms.firstKey();
+    if (!m_picture.rooms().contains(m_currentRoom)) {
+        m_currentRoom = m_picture.rooms().isEmpty() ? 0 : m_picture.rooms().firstKey();
     }
     setCurrentRoom(m_currentRoom);
 }
@@ -189,14 +176,14 @@ void Tessel::menuToggled(bool checked)
 TesselButton* Tessel::createLinkButton(const RoomBorder& border)
 {
     auto* button = new TesselButton(this);
-    const QPoint corner = m_geometry.pitch() * border.cell;
-    const int cellSize = m_geometry.cellSize;
+    const QPoint corner = m_picture.geometry().pitch() * border.cell;
+    const int cellSize = m_picture.geometry().cellSize;
     if (border.step.x() != 0) {
-        button->move(corner.x() + m_geometry.pitch() - button->width() / 2,
+        button->move(corner.x() + m_picture.geometry().pitch() - button->width() / 2,
                      corner.y() + (cellSize - button->height()) / 2);
     } else {
         button->move(corner.x() + (cellSize - button->width()) / 2,
-                     corner.y() + m_geometry.pitch() - button->height() / 2);
+                     corner.y() + m_picture.geometry().pitch() - button->height() / 2);
     }
     const auto [one, other] = border.rooms;
     const QString text = tr("Link room %1 and room %2").arg(one).arg(other);
@@ -210,47 +197,18 @@ TesselButton* Tessel::createLinkButton(const RoomBorder& border)
 void Tessel::setLinked(RoomPair pair, bool linked)
 {
     m_links.set(pair, linked);
-    recolor();
+    m_picture.setGroups(combinedGroups());
     update();
-}
-
-void Tessel::recolor()
-{
-    for (auto room = m_rooms.begin(); room != m_rooms.end(); ++room) {
-        room->color = ownColor(room.key());
-    }
-    for (const QList<int>& group : combinedGroups()) {
-        int lowest = RoomInfo::maxRooms;
-        for (const int number : group) {
-            lowest = std::min(lowest, number);
-        }
-        for (const int number : group) {
-            if (m_rooms.contains(number)) {
-                m_rooms[number].color = ownColor(lowest);
-            }
-        }
-    }
-}
-
-/// The first room whose area holds the position; 0 for none.
-int Tessel::roomAt(QPoint position) const
-{
-    for (auto room = m_rooms.begin(); room != m_rooms.end(); ++room) {
-        if (room->area.contains(position)) {
-            return room.key();
-        }
-    }
-    return 0;
 }
 
 void Tessel::openMenu(int room)
 {
-    openMenuAt(room, mapToGlobal(hotSpot(m_rooms.value(room).label).bottomLeft()));
+    openMenuAt(room, mapToGlobal(hotSpot(m_picture.rooms().value(room).label).bottomLeft()));
 }
 
 void Tessel::openMenuAt(int room, QPoint globalPosition)
 {
-    if (!m_rooms.contains(room)) {
+    if (!m_picture.rooms().contains(room)) {
         return;
     }
     m_menu = new QMenu(this);
@@ -278,29 +236,21 @@ void Tessel::setCurrentRoom(int room)
 void Tessel::goToNeighbour(QPoint step)
 {
     QMap<int, QPoint> places;
-    for (auto room = m_rooms.begin(); room != m_rooms.end(); ++room) {
+    const QMap<int, LayoutPicture::Room>& rooms = m_picture.rooms();
+    for (auto room = rooms.begin(); room != rooms.end(); ++room) {
         places.insert(room.key(), room->label.center());
     }
     setCurrentRoom(neighbourPlace(places, m_currentRoom, step));
 }
 
-void Tessel::paintRooms(QPainter& painter) const
+/// The marks that open the rooms' menus.
+void Tessel::paintMarks(QPainter& painter) const
 {
-    painter.fillRect(rect(), gridBackground);
-    for (const Room& room : m_rooms) {
-        painter.setClipRegion(room.area);
-        painter.fillRect(rect(), room.color);
-    }
-}
-
-void Tessel::paintLabel(QPainter& painter, int number, const Room& room) const
-{
-    painter.setClipRegion(room.area);
     painter.setPen(Qt::white);
-    painter.drawText(room.label, Qt::AlignCenter, QString::number(number));
-    if (!m_readOnly) {
+    painter.setBrush(Qt::white);
+    for (const LayoutPicture::Room& room : m_picture.rooms()) {
+        painter.setClipRegion(room.area);
         const QPoint center = room.label.center();
-        painter.setBrush(Qt::white);
         painter.drawPolygon(QPolygon({center + QPoint(6, 0), center + QPoint(14, 0),
                                       center + QPoint(10, 4), center + QPoint(6, 0)}));
     }
@@ -309,7 +259,7 @@ void Tessel::paintLabel(QPainter& painter, int number, const Room& room) const
 /// Outlines the current room from inside.
 void Tessel::paintFocus(QPainter& painter) const
 {
-    const QRegion area = m_rooms.value(m_currentRoom).area;
+    const QRegion area = m_picture.rooms().value(m_currentRoom).area;
     QPainterPath outline;
     outline.addRegion(area);
     painter.setClipRegion(area);

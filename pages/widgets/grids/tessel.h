@@ -1,15 +1,12 @@
 #pragma once
 
 #include "focusmark.h"
-#include "gridgeometry.h"
-#include "roomgrid.h"
+#include "layoutpicture.h"
 #include "roomlinks.h"
 
-#include <QColor>
 #include <QMap>
 #include <QPixmap>
 #include <QPointer>
-#include <QRegion>
 #include <QWidget>
 
 class QMenu;
@@ -53,7 +50,7 @@ public:
     QPixmap renderThumbnail() const;
 
     /// The highest room number, 0 without rooms.
-    int maxRoomNumber() const { return m_grid.highestRoom(); }
+    int maxRoomNumber() const { return m_picture.grid().highestRoom(); }
 
     /// The groups of two rooms and more; empty lists among them mean nothing.
     QList<QList<int>> combinedGroups() const { return m_links.groups(); }
@@ -71,32 +68,20 @@ private Q_SLOTS:
     void menuToggled(bool checked);
 
 private:
-    struct Room
-    {
-        QRect label; ///< where the number is written
-        QRegion area;
-        QColor color;
-    };
-
     TesselButton* createLinkButton(const RoomBorder& border);
     void setLinked(RoomPair pair, bool linked);
-    void recolor();
 
-    int roomAt(QPoint position) const;
     void openMenu(int room);
     void openMenuAt(int room, QPoint globalPosition);
 
     void setCurrentRoom(int room);
     void goToNeighbour(QPoint step);
 
-    void paintRooms(QPainter& painter) const;
-    void paintLabel(QPainter& painter, int number, const Room& room) const;
+    void paintMarks(QPainter& painter) const;
     void paintFocus(QPainter& painter) const;
 
-    GridGeometry m_geometry;
+    LayoutPicture m_picture;
     bool m_readOnly;
-    RoomGrid m_grid;
-    QMap<int, Room> m_rooms;
     QMap<RoomPair, TesselButton*> m_buttons;
     RoomLinks m_links;
     int m_currentRoom = 0; ///< where the keyboard is; 0 before its first use
