@@ -35,7 +35,7 @@ void InstallDriver::start()
         m_connection->drop();
     }
     m_isLoggedIn = false;
-    m_isRecallRefused = false;
+    m_outcome = {};
     m_run.begin();
     startCountdown();
     send();
@@ -59,7 +59,9 @@ void InstallDriver::cancelLogIn()
 void InstallDriver::sendPresets()
 {
     if (m_state == State::LoggedIn) {
+        const InstallProgress before = m_run.progress();
         m_run.beginTransfer();
+        tellProgress(before);
         startCountdown();
         send();
     }
@@ -93,7 +95,10 @@ void InstallDriver::noteArrival()
 
 void InstallDriver::evaluate(const QString& reply)
 {
-    carryOut(m_run.evaluate(reply), reply);
+    const InstallProgress before = m_run.progress();
+    const InstallMove move = m_run.evaluate(reply);
+    tellProgress(before);
+    carryOut(move, reply);
 }
 
 void InstallDriver::startCountdown()
@@ -172,21 +177,26 @@ void InstallDriver::endLogIn()
     Q_EMIT loggedIn();
 }
 
+void InstallDriver::tellProgress(InstallProgress before)
+{
+    if (m_run.progress() != before) {
+        Q_EMIT progressed();
+    }
+}
+
 /// In this order, so that a receiver finds the run in a state in which it can start anew.
 void InstallDriver::noteRefusedRecall()
 {
-    m_isRecallRefused = true;
+    m_outcome.trouble = InstallTrouble::NotConfirmed;
+    m_outcome.place.step = InstallStep::Recall;
     send();
     Q_EMIT recallRefused();
 }
 
 void InstallDriver::succeed()
 {
-    InstallOutcome outcome{.isInstalled = true};
-    if (m_isRecallRefused) {
-        outcome.trouble = InstallTrouble::NotConfirmed;
-        outcome.place.step = InstallStep::Recall;
-    }
+    InstallOutcome outcome = m_outcome;
+    outcome.isInstalled = true;
     end(outcome);
 }
 

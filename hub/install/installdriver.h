@@ -54,9 +54,12 @@ public:
     /// True from start() until the run has ended, however it ended.
     bool isRunning() const { return m_state != State::Idle; }
 
-    /// How the last run that ended went; before the first one, nothing is installed and there is no
-    /// trouble.
+    /// How the last run went. Until it has ended nothing is installed, and the only trouble that
+    /// there can be is the refused recall.
     const InstallOutcome& outcome() const { return m_outcome; }
+
+    /// How far the transfer of the present or last run is.
+    InstallProgress progress() const { return m_run.progress(); }
 
 Q_SIGNALS:
     /// The hub has no password yet, or did not take the one that was submitted.
@@ -67,6 +70,9 @@ Q_SIGNALS:
 
     /// The hub has accepted the password.
     void loggedIn();
+
+    /// Another file was stored, or the number of all of them became known; see progress().
+    void progressed();
 
     /// The hub does not make preset 1 the current one. The run goes on all the same, and its
     /// outcome will name this trouble unless a worse one follows.
@@ -97,6 +103,7 @@ private:
     void carryOut(InstallMove move, const QString& reply);
     void ask(bool wasRefused);
     void endLogIn();
+    void tellProgress(InstallProgress before);
     void noteRefusedRecall();
     void succeed();
     void fail(InstallTrouble trouble, const QString& status = QString());
@@ -108,7 +115,6 @@ private:
     HttpConnection* m_connection;
     State m_state = State::Idle;
     bool m_isLoggedIn = false;
-    bool m_isRecallRefused = false;
     InstallOutcome m_outcome;
     QBasicTimer m_ticks;
     int m_secondsLeft = 0;

@@ -28,6 +28,15 @@ enum class InstallTrouble
     MissingRecords     ///< the wizard's own data lacked what the request needs
 };
 
+/// How far the transfer to one hub is.
+struct InstallProgress
+{
+    int filesStored = 0;
+    int filesToStore = 0; ///< in all; 0 before the transfer begins
+
+    bool operator==(const InstallProgress&) const = default;
+};
+
 /// How the installation of one hub ended. A value for every run, whoever drives it; the words for
 /// it are up to whoever shows it.
 struct InstallOutcome

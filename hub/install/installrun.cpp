@@ -77,11 +77,13 @@ void InstallRun::begin()
     m_step = InstallStep::Status;
     m_presetCount = layoutCount(*m_doc);
     m_presetNumber = firstPreset;
+    m_progress = {};
 }
 
 void InstallRun::beginTransfer()
 {
     m_step = InstallStep::StartExport;
+    m_progress = {.filesToStore = filesOfAllPresets()};
 }
 
 void InstallRun::setPassword(const QString& password)
@@ -211,6 +213,7 @@ InstallRun::Request InstallRun::hubFileRequest()
 
 InstallMove InstallRun::afterHubFile(const QString& /*reply*/)
 {
+    ++m_progress.filesStored;
     const auto devices = peripheralsOfHub(*m_doc, m_ipAddress, m_presetNumber);
     m_devices = devices.value_or(QStringList());
     m_deviceIndex = 0;
@@ -236,6 +239,7 @@ InstallRun::Request InstallRun::peripheralFileRequest()
 InstallMove InstallRun::afterPeripheralFile(const QString& /*reply*/)
 {
     ++m_deviceIndex;
+    ++m_progress.filesStored;
     return m_deviceIndex < m_devices.size() ? InstallMove::Send : goToNextPreset();
 }
 
@@ -277,6 +281,17 @@ InstallMove InstallRun::goToNextPreset()
     }
     ++m_presetNumber;
     return goTo(InstallStep::PresetEntry);
+}
+
+/// One of the hub's own and one of each device, in every preset.
+int InstallRun::filesOfAllPresets() const
+{
+    int files = 0;
+    for (int preset = firstPreset; preset <= m_presetCount; ++preset) {
+        files +=
+            1 + int(peripheralsOfHub(*m_doc, m_ipAddress, preset).value_or(QStringList()).size());
+    }
+    return files;
 }
 
 QString InstallRun::takeDigest()

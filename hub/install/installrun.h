@@ -31,6 +31,9 @@ public:
     /// The request of the current step.
     InstallPlace place() const;
 
+    /// How many of the files that it holds, hub's and devices', the hub has taken.
+    InstallProgress progress() const { return m_progress; }
+
     /// The password that the user typed, for the next request. Only its digest is kept, and only
     /// until that request has been built.
     void setPassword(const QString& password);
@@ -80,6 +83,7 @@ private:
 
     InstallMove goTo(InstallStep step, InstallMove move = InstallMove::Send);
     InstallMove goToNextPreset();
+    int filesOfAllPresets() const;
     QString takeDigest();
     QString logPrefix() const;
 
@@ -90,6 +94,7 @@ private:
     QString m_digest;
     int m_hubInitialized = 0; ///< 0 or 1, as the hub last said
     QString m_storageName;
+    InstallProgress m_progress;
     int m_presetCount = 0;
     int m_presetNumber = 1;
     QStringList m_devices; ///< placed with the hub in the current preset

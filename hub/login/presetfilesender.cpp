@@ -24,6 +24,7 @@ PresetFileSender::PresetFileSender(const QString& ipAddress, const QString& host
     connect(m_driver, SIGNAL(firstPasswordWanted()), this, SLOT(askFirstPassword()));
     connect(m_driver, SIGNAL(passwordWanted(bool)), this, SLOT(askPassword(bool)));
     connect(m_driver, SIGNAL(loggedIn()), this, SLOT(noteLogIn()));
+    connect(m_driver, SIGNAL(progressed()), this, SLOT(reportProgress()));
     connect(m_driver, SIGNAL(recallRefused()), this, SLOT(reportRefusedRecall()));
     connect(m_driver, SIGNAL(ended()), this, SLOT(reportEnd()));
 }
@@ -75,6 +76,11 @@ const InstallOutcome& PresetFileSender::outcome() const
     return m_driver->outcome();
 }
 
+InstallProgress PresetFileSender::progress() const
+{
+    return m_driver->progress();
+}
+
 void PresetFileSender::askFirstPassword()
 {
     ask();
@@ -108,6 +114,11 @@ void PresetFileSender::noteLogIn()
 {
     setErrorVisible(false);
     Q_EMIT completedLogin();
+}
+
+void PresetFileSender::reportProgress()
+{
+    Q_EMIT progressed(m_ipAddress);
 }
 
 void PresetFileSender::reportRefusedRecall()

@@ -10,6 +10,7 @@ class InstallDriver;
 class LoginDialog;
 class QWidget;
 struct InstallOutcome;
+struct InstallProgress;
 
 /// Installs the wizard's presets on one hub: the face of an installation on its page.
 ///
@@ -56,12 +57,18 @@ public:
     /// How the last run went, with the reason of a failure; up to date when finished() is emitted.
     const InstallOutcome& outcome() const;
 
+    /// How far the transfer of the present or last run is.
+    InstallProgress progress() const;
+
 Q_SIGNALS:
     /// The outcome: 1 = everything is installed, 0 = failed or cancelled. Emitted once per run,
     /// with one exception: when the hub refuses the recall, 0 is emitted although the run goes on,
     /// and the answer to its last request brings the outcome that counts. A receiver must not
     /// delete the sender, but may start it again.
     void finished(const QString& ipAddress, int result);
+
+    /// progress() has changed.
+    void progressed(const QString& ipAddress);
 
     /// The hub has accepted the password.
     void completedLogin();
@@ -74,6 +81,7 @@ private Q_SLOTS:
     void askPassword(bool wasRefused);
     void runDialog();
     void noteLogIn();
+    void reportProgress();
     void reportRefusedRecall();
     void reportEnd();
 

@@ -31,6 +31,9 @@ private Q_SLOTS:
     void aCancelledLogInIsNamedWithThePasswordThatWasWanted();
     void aTokenThatStaysValidIsARequestThatWasNotConfirmed();
     void aRefusedRecallIsNamedAlthoughEverythingIsInstalled();
+    void aRefusedRecallIsNamedAsSoonAsItIsTold();
+    void everyFileOfTheHubAndItsDevicesCountsAsProgress();
+    void aRunThatBeginsAnewHasMadeNoProgress();
     void theReasonOfAnEarlierRunIsForgottenWithTheNext();
     void whatTheHubSaysOfItselfIsShownOnOneLine();
     void answersNobodyAskedForChangeNothing();
@@ -291,6 +294,36 @@ void TestInstallDriver::aRefusedRecallIsNamedAlthoughEverythingIsInstalled()
     QCOMPARE(f.driver->outcome(), expected);
     QCOMPARE(refused.size(), 1);
     QCOMPARE(f.ended.size(), 1);
+}
+
+void TestInstallDriver::aRefusedRecallIsNamedAsSoonAsItIsTold()
+{
+    Fixture f;
+    InstallOutcome told;
+    QVERIFY(connect(f.driver.get(), &InstallDriver::recallRefused, this,
+                    [&] { told = f.driver->outcome(); }));
+    f.script.instead = {{InstallStep::Recall, okAnswer(R"({"request": "refused"})")}};
+    QVERIFY(f.run());
+    QCOMPARE(told, failure(InstallTrouble::NotConfirmed, {InstallStep::Recall}));
+}
+
+void TestInstallDriver::everyFileOfTheHubAndItsDevicesCountsAsProgress()
+{
+    Fixture f;
+    QList<InstallProgress> told;
+    QVERIFY(connect(f.driver.get(), &InstallDriver::progressed, this,
+                    [&] { told.append(f.driver->progress()); }));
+    QCOMPARE(f.driver->progress(), InstallProgress());
+    QVERIFY(f.run());
+    QCOMPARE(told, (QList<InstallProgress>{{0, 3}, {1, 3}, {2, 3}, {3, 3}}));
+}
+
+void TestInstallDriver::aRunThatBeginsAnewHasMadeNoProgress()
+{
+    Fixture f;
+    QVERIFY(f.run());
+    QVERIFY(f.runUntilSilentAt(InstallStep::Status));
+    QCOMPARE(f.driver->progress(), InstallProgress());
 }
 
 void TestInstallDriver::theReasonOfAnEarlierRunIsForgottenWithTheNext()
