@@ -13,17 +13,16 @@
 #include <QVBoxLayout>
 
 Configure::Configure(IDocAccessor* doc, QWidget* parent)
-    : QWidget(parent)
-    , m_doc(doc)
+    : StepContent(doc, parent)
     , m_panelsView(new RoomGroupPanels(QStringLiteral("deviceSetStack"), this))
     , m_groupList(m_panelsView->list())
     , m_stack(m_panelsView->stack())
 {
-    layOut();
+    buildLayout();
     connect(m_groupList, SIGNAL(itemSelectionChanged()), this, SLOT(deviceSetSelected()));
 }
 
-void Configure::layOut()
+void Configure::buildLayout()
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -44,7 +43,7 @@ void Configure::addTexts(QVBoxLayout* layout)
     }
 }
 
-void Configure::initialise()
+void Configure::load()
 {
     m_sets.clear();
     m_panelsView->clear();
@@ -55,10 +54,10 @@ void Configure::initialise()
 
 void Configure::addSets()
 {
-    const QList<RoomGroup> groups = roomGroups(*m_doc);
-    RoomDevices devices(*m_doc);
+    const QList<RoomGroup> groups = roomGroups(doc());
+    RoomDevices devices(doc());
     for (const RoomGroup& group : groups) {
-        auto* set = new DeviceSet(group, m_doc, m_stack);
+        auto* set = new DeviceSet(group, &doc(), m_stack);
         set->fill(devices);
         connect(set, SIGNAL(deviceRemoveStatusChanged()), this, SLOT(deviceRemoveStatusChanged()));
         m_stack->addWidget(set);
@@ -67,9 +66,9 @@ void Configure::addSets()
     m_groupList->setGroups(groups);
 }
 
-void Configure::store() const
+void Configure::store()
 {
-    clearDeviceSets(*m_doc);
+    clearDeviceSets(doc());
     for (const DeviceSet* set : m_sets) {
         set->store();
     }

@@ -73,7 +73,7 @@ void DeviceSet::buildLists(QWidget* previous)
 {
     if (m_summaryTable == nullptr) {
         createWidgets();
-        layOut();
+        buildLayout();
         chainTabOrder(previous);
         addRows();
         count();
@@ -113,7 +113,7 @@ DeviceTable* DeviceSet::createTable(const QString& name, const QString& accessib
     return table;
 }
 
-void DeviceSet::layOut()
+void DeviceSet::buildLayout()
 {
     auto* thumbnail = new QLabel(this);
     thumbnail->setObjectName(QStringLiteral("thumbnailLabel"));

@@ -57,7 +57,7 @@ public Q_SLOTS:
 private:
     void createWidgets();
     DeviceTable* createTable(const QString& name, const QString& accessibleName);
-    void layOut();
+    void buildLayout();
     void chainTabOrder(QWidget* previous);
     void addRows();
     void addRemoveButton(DeviceTable* table, QTreeWidgetItem* row);

@@ -27,11 +27,10 @@ PresetNameEdit::PresetNameEdit(const QString& name, QWidget* parent)
 }
 
 CreatePreset::CreatePreset(IDocAccessor* doc, QWidget* parent)
-    : QWidget(parent)
-    , m_doc(doc)
+    : StepContent(doc, parent)
 {
     createWidgets();
-    layOut();
+    buildLayout();
     connect(m_groupList, SIGNAL(itemSelectionChanged()), this, SLOT(deviceSetSelected()));
 }
 
@@ -45,7 +44,7 @@ void CreatePreset::createWidgets()
     m_thumbnail->setAccessibleName(tr("Selected layout"));
 }
 
-void CreatePreset::layOut()
+void CreatePreset::buildLayout()
 {
     auto* listColumn = new QVBoxLayout;
     listColumn->addWidget(titleLabel(tr("Select a room combination"), m_groupList));
@@ -64,9 +63,9 @@ void CreatePreset::layOut()
     layout->addLayout(row, 1);
 }
 
-void CreatePreset::initialise()
+void CreatePreset::load()
 {
-    m_groups = roomGroups(*m_doc);
+    m_groups = roomGroups(doc());
     m_groupList->setGroups(m_groups);
     addNameFields();
     m_groupList->selectRow(0);
@@ -89,19 +88,19 @@ void CreatePreset::addNameFields()
 
 PresetNameEdit* CreatePreset::nameField(const RoomGroup& group)
 {
-    const auto name = presetName(*m_doc, group.number, group.sceneNumber);
+    const auto name = presetName(doc(), group.number, group.sceneNumber);
     auto* field = new PresetNameEdit(name.value_or(QString()), m_groupList);
     field->setAccessibleName(tr("Preset name of rooms %1 in layout %2")
                                  .arg(group.roomText(), QString::number(group.sceneNumber)));
     return field;
 }
 
-void CreatePreset::store() const
+void CreatePreset::store()
 {
-    clearPresets(*m_doc);
+    clearPresets(doc());
     for (qsizetype row = 0; row < m_groups.size(); ++row) {
         const RoomGroup& group = m_groups.at(row);
-        addPreset(*m_doc, group.number, group.sceneNumber, m_nameFields.at(row)->text());
+        addPreset(doc(), group.number, group.sceneNumber, m_nameFields.at(row)->text());
     }
 }
 

@@ -37,17 +37,16 @@ void setNumber(QTreeWidgetItem* row, int number)
 
 } // namespace
 
-CreateScene::CreateScene(IDocAccessor& doc, QWidget* parent)
-    : QWidget(parent)
-    , m_doc(doc)
+CreateScene::CreateScene(IDocAccessor* doc, QWidget* parent)
+    : StepContent(doc, parent)
     , m_tessel(new Tessel(this, gap, cellSize, false))
 {
     createWidgets();
-    layOut();
+    buildLayout();
     connect(m_addButton, SIGNAL(clicked()), this, SLOT(addButtonClicked()));
 }
 
-void CreateScene::initialise()
+void CreateScene::load()
 {
     m_tessel->clearAll();
     clearList();
@@ -58,17 +57,17 @@ void CreateScene::initialise()
 
 void CreateScene::store()
 {
-    clearLayouts(m_doc);
+    clearLayouts(doc());
     for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
         QTreeWidgetItem* row = m_list->topLevelItem(i);
         const SceneItem* item = itemOf(row);
-        addLayout(m_doc, {numberOf(row), item->roomGroup(), item->thumbnail()});
+        addLayout(doc(), {numberOf(row), item->roomGroup(), item->thumbnail()});
     }
 }
 
 void CreateScene::reset()
 {
-    clearLayouts(m_doc);
+    clearLayouts(doc());
     clearList();
     updateButtons();
 }
@@ -140,7 +139,7 @@ void CreateScene::createWidgets()
     m_focusedRow = new FocusedRow(m_list);
 }
 
-void CreateScene::layOut()
+void CreateScene::buildLayout()
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -167,7 +166,7 @@ void CreateScene::layOut()
 
 void CreateScene::loadRooms()
 {
-    for (const RoomInfo& room : drawnRooms(m_doc)) {
+    for (const RoomInfo& room : drawnRooms(doc())) {
         m_tessel->setRoom(room.number, room.positionList);
     }
     m_tessel->createLinkButtons();
@@ -176,9 +175,9 @@ void CreateScene::loadRooms()
 
 void CreateScene::loadLayouts()
 {
-    const int count = layoutCount(m_doc);
+    const int count = layoutCount(doc());
     for (int number = 1; number <= count; ++number) {
-        if (const auto layout = layoutAt(m_doc, number)) {
+        if (const auto layout = layoutAt(doc(), number)) {
             appendRow(*layout);
         }
     }

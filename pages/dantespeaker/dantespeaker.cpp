@@ -12,17 +12,16 @@
 #include <QVBoxLayout>
 
 DanteSpeaker::DanteSpeaker(IDocAccessor* doc, QWidget* parent)
-    : QWidget(parent)
-    , m_doc(doc)
+    : StepContent(doc, parent)
     , m_panelsView(new RoomGroupPanels(QStringLiteral("speakerPositionStack"), this))
     , m_groupList(m_panelsView->list())
     , m_stack(m_panelsView->stack())
 {
-    layOut();
+    buildLayout();
     connect(m_groupList, SIGNAL(itemSelectionChanged()), this, SLOT(deviceSetSelected()));
 }
 
-void DanteSpeaker::layOut()
+void DanteSpeaker::buildLayout()
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -34,7 +33,7 @@ void DanteSpeaker::layOut()
     layout->addWidget(m_panelsView, 1);
 }
 
-void DanteSpeaker::initialise()
+void DanteSpeaker::load()
 {
     m_panels.clear();
     m_panelsView->clear();
@@ -44,10 +43,10 @@ void DanteSpeaker::initialise()
 
 void DanteSpeaker::addPanels()
 {
-    const QList<RoomGroup> groups = roomGroups(*m_doc);
-    RoomDevices devices(*m_doc);
+    const QList<RoomGroup> groups = roomGroups(doc());
+    RoomDevices devices(doc());
     for (const RoomGroup& group : groups) {
-        auto* panel = new SpeakerPosition(group, m_doc, m_stack);
+        auto* panel = new SpeakerPosition(group, &doc(), m_stack);
         panel->fill(devices);
         m_stack->addWidget(panel);
         m_panels.append(panel);
@@ -55,7 +54,7 @@ void DanteSpeaker::addPanels()
     m_groupList->setGroups(groups);
 }
 
-void DanteSpeaker::store() const
+void DanteSpeaker::store()
 {
     for (const SpeakerPosition* panel : m_panels) {
         panel->store();

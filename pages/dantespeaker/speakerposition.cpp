@@ -52,7 +52,7 @@ void SpeakerPosition::buildList(QWidget* previous)
 {
     if (m_speakerTable == nullptr) {
         createWidgets();
-        layOut();
+        buildLayout();
         // The buttons and boxes in the rows chain themselves behind the list when the rows come.
         setTabOrder(previous, m_speakerTable);
         addRows();
@@ -74,7 +74,7 @@ void SpeakerPosition::createWidgets()
             SLOT(identifyButtonClicked(QString)));
 }
 
-void SpeakerPosition::layOut()
+void SpeakerPosition::buildLayout()
 {
     auto* thumbnail = new QLabel(this);
     thumbnail->setObjectName(QStringLiteral("thumbnailLabel"));

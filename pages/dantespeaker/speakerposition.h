@@ -51,7 +51,7 @@ private:
     };
 
     void createWidgets();
-    void layOut();
+    void buildLayout();
     void addRows();
     void addCombo(QTreeWidgetItem* row, qsizetype index);
 

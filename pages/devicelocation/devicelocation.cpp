@@ -44,9 +44,8 @@ void showCell(const QTreeWidgetItem& row, Column column)
 
 } // namespace
 
-DeviceLocation::DeviceLocation(IDocAccessor& doc, QWidget* parent)
-    : QWidget(parent)
-    , m_doc(doc)
+DeviceLocation::DeviceLocation(IDocAccessor* doc, QWidget* parent)
+    : StepContent(doc, parent)
     , m_picture(new RoomEditor(this, pictureGap, pictureCellSize, true))
     , m_summary(new RoomSummary(this))
     , m_hubTable(createTable(QStringLiteral("hubTable"), tr("PX-HB")))
@@ -56,19 +55,19 @@ DeviceLocation::DeviceLocation(IDocAccessor& doc, QWidget* parent)
     m_picture->setAccessibleName(tr("Room design"));
     m_summary->setObjectName(QStringLiteral("summaryTable"));
     m_summary->setAccessibleName(tr("Devices per room"));
-    layOut();
+    buildLayout();
 }
 
-void DeviceLocation::reload()
+void DeviceLocation::load()
 {
-    m_rooms = roomCount(m_doc);
+    m_rooms = roomCount(doc());
     drawPicture();
     QList<DeviceEntry> hubs;
     QList<DeviceEntry> peripherals;
     QHash<QString, int> roomOfAddress;
-    const int devices = deviceCount(m_doc);
+    const int devices = deviceCount(doc());
     for (int i = 0; i < devices; ++i) {
-        if (const auto device = deviceAt(m_doc, i)) {
+        if (const auto device = deviceAt(doc(), i)) {
             (isHub(device->modelName) ? hubs : peripherals).append(*device);
             // Addresses find the first device that has them, here as in the document.
             if (!roomOfAddress.contains(device->ipAddress)) {
@@ -84,10 +83,10 @@ void DeviceLocation::reload()
     updateSummary();
 }
 
-void DeviceLocation::save()
+void DeviceLocation::store()
 {
     for (const Row& row : std::as_const(m_rows)) {
-        setDeviceRoom(m_doc, row.ipAddress, row.room->room());
+        setDeviceRoom(doc(), row.ipAddress, row.room->room());
     }
 }
 
@@ -142,7 +141,7 @@ void DeviceLocation::devItemDoubleClicked(QTreeWidgetItem* item, int column)
 
 void DeviceLocation::identifyButtonClicked(const QString& ipAddress)
 {
-    identifyDevice(m_doc, ipAddress);
+    identifyDevice(doc(), ipAddress);
 }
 
 void DeviceLocation::deviceLabelIconClicked()
@@ -162,7 +161,7 @@ const DeviceLocation::Row* DeviceLocation::rowOfSender() const
     return found != m_rows.cend() ? &*found : nullptr;
 }
 
-/// A device that the document holds twice is in one room: save() goes row by row, and a second row
+/// A device that the document holds twice is in one room: store() goes row by row, and a second row
 /// must not take back what was chosen in the first.
 void DeviceLocation::chooseSameRoom(const Row& chosen)
 {
@@ -191,7 +190,7 @@ DeviceTable* DeviceLocation::createTable(const QString& name, const QString& acc
     return table;
 }
 
-void DeviceLocation::layOut()
+void DeviceLocation::buildLayout()
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -221,7 +220,7 @@ void DeviceLocation::addTable(QVBoxLayout* layout, const QString& title, DeviceT
 void DeviceLocation::drawPicture()
 {
     m_picture->clear();
-    for (const RoomInfo& room : drawnRooms(m_doc)) {
+    for (const RoomInfo& room : drawnRooms(doc())) {
         m_picture->setRoom(room.number, room.positionList);
     }
     m_picture->update();
@@ -303,7 +302,7 @@ void DeviceLocation::rename(const Row& row)
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }
-    setDeviceLabel(m_doc, row.ipAddress, dialog.name());
+    setDeviceLabel(doc(), row.ipAddress, dialog.name());
     static_cast<DeviceTable*>(row.item->treeWidget())->setLabel(row.item, dialog.name());
     nameWidgets(row);
     showCell(*row.item, LabelColumn);

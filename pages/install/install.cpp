@@ -25,18 +25,17 @@ constexpr int sendSucceeded = 1;
 } // namespace
 
 Install::Install(IDocAccessor* doc, QWidget* parent)
-    : QWidget(parent)
-    , m_doc(doc)
+    : StepContent(doc, parent)
 {
     createWidgets();
-    layOut();
+    buildLayout();
     connect(m_hubTable, SIGNAL(identifyClicked(QString)), this,
             SLOT(identifyButtonClicked(QString)));
 }
 
 void Install::identifyButtonClicked(const QString& ip)
 {
-    identifyDevice(*m_doc, ip);
+    identifyDevice(doc(), ip);
 }
 
 void Install::install()
@@ -61,7 +60,7 @@ void Install::startSender(const QString& ip, const QString& label)
 {
     PresetFileSender*& sender = m_senders[ip];
     if (sender == nullptr) {
-        sender = new PresetFileSender(ip, label, m_doc, this);
+        sender = new PresetFileSender(ip, label, &doc(), this);
         connect(sender, SIGNAL(finished(QString, int)), this,
                 SLOT(presetSendFinished(QString, int)));
         connect(sender, SIGNAL(completedLogin()), this, SLOT(senderLogin()));
@@ -99,7 +98,7 @@ void Install::createWidgets()
     m_hubTable->setSortingEnabled(true);
 }
 
-void Install::layOut()
+void Install::buildLayout()
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -111,12 +110,12 @@ void Install::layOut()
     layout->addWidget(m_hubTable, 1);
 }
 
-void Install::initialise()
+void Install::load()
 {
     QList<QStringList> rows;
-    const int devices = deviceCount(*m_doc);
+    const int devices = deviceCount(doc());
     for (int index = 0; index < devices; ++index) {
-        const std::optional<DeviceEntry> device = deviceAt(*m_doc, index);
+        const std::optional<DeviceEntry> device = deviceAt(doc(), index);
         if (device && isHub(device->modelName) && device->roomNumber != 0) {
             const bool running = isRunning(device->ipAddress);
             rows.append({device->label, QString(), device->ipAddress,
