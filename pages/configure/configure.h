@@ -2,12 +2,7 @@
 
 #include "stepcontent.h"
 
-#include <QList>
-
-class DeviceSet;
-class QStackedWidget;
 class QVBoxLayout;
-class RoomGroupList;
 class RoomGroupPanels;
 
 /// Content of the device set step: every combined room of every layout, with a panel for choosing
@@ -39,10 +34,6 @@ public Q_SLOTS:
 private:
     void buildLayout();
     void addTexts(QVBoxLayout* layout);
-    void addSets();
 
-    RoomGroupPanels* m_panelsView;
-    RoomGroupList* m_groupList;
-    QStackedWidget* m_stack;
-    QList<DeviceSet*> m_sets; ///< one per row, in list order; owned by the stack
+    RoomGroupPanels* m_panels;
 };

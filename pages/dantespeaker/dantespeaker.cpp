@@ -1,24 +1,19 @@
 #include "dantespeaker.h"
 
-#include "roomdevices.h"
-#include "roomgroup.h"
 #include "roomgrouplist.h"
 #include "roomgrouppanels.h"
 #include "speakerposition.h"
 #include "textlabel.h"
 
 #include <QLabel>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 DanteSpeaker::DanteSpeaker(IDocAccessor* doc, QWidget* parent)
     : StepContent(doc, parent)
-    , m_panelsView(new RoomGroupPanels(QStringLiteral("speakerPositionStack"), this))
-    , m_groupList(m_panelsView->list())
-    , m_stack(m_panelsView->stack())
+    , m_panels(new RoomGroupPanels(QStringLiteral("speakerPositionStack"), this))
 {
     buildLayout();
-    connect(m_groupList, SIGNAL(itemSelectionChanged()), this, SLOT(deviceSetSelected()));
+    connect(m_panels->list(), SIGNAL(itemSelectionChanged()), this, SLOT(deviceSetSelected()));
 }
 
 void DanteSpeaker::buildLayout()
@@ -30,49 +25,27 @@ void DanteSpeaker::buildLayout()
                                 this));
     layout->addWidget(
         textLabel(tr("NOTE: For mono use only, choose Left for all speakers."), this));
-    layout->addWidget(m_panelsView, 1);
+    layout->addWidget(m_panels, 1);
 }
 
 void DanteSpeaker::load()
 {
-    m_panels.clear();
-    m_panelsView->clear();
-    addPanels();
-    m_groupList->selectRow(0);
-}
-
-void DanteSpeaker::addPanels()
-{
-    const QList<RoomGroup> groups = roomGroups(doc());
-    RoomDevices devices(doc());
-    for (const RoomGroup& group : groups) {
-        auto* panel = new SpeakerPosition(group, &doc(), m_stack);
-        panel->fill(devices);
-        m_stack->addWidget(panel);
-        m_panels.append(panel);
-    }
-    m_groupList->setGroups(groups);
+    m_panels->load(doc(), [this](const RoomGroup& group, RoomDevices& devices, QWidget* parent) {
+        return new SpeakerPosition(group, devices, &doc(), parent);
+    });
 }
 
 void DanteSpeaker::store()
 {
-    for (const SpeakerPosition* panel : m_panels) {
-        panel->store();
-    }
+    m_panels->store();
 }
 
 void DanteSpeaker::reset()
 {
-    for (SpeakerPosition* panel : std::as_const(m_panels)) {
-        panel->reset();
-    }
+    m_panels->reset();
 }
 
 void DanteSpeaker::deviceSetSelected()
 {
-    const int row = m_groupList->currentRow();
-    if (row >= 0 && row < m_panels.size()) {
-        m_panels.at(row)->buildList(m_groupList);
-        m_stack->setCurrentWidget(m_panels.at(row));
-    }
+    m_panels->showCurrentPanel();
 }

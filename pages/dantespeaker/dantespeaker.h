@@ -2,12 +2,7 @@
 
 #include "stepcontent.h"
 
-#include <QList>
-
-class QStackedWidget;
-class RoomGroupList;
 class RoomGroupPanels;
-class SpeakerPosition;
 
 /// Content of the speaker position step: every combined room of every layout, with a panel that
 /// tells for each of its loudspeakers whether it stands on the left or on the right.
@@ -34,10 +29,6 @@ public Q_SLOTS:
 
 private:
     void buildLayout();
-    void addPanels();
 
-    RoomGroupPanels* m_panelsView;
-    RoomGroupList* m_groupList;
-    QStackedWidget* m_stack;
-    QList<SpeakerPosition*> m_panels; ///< one per row, in list order; owned by the stack
+    RoomGroupPanels* m_panels;
 };

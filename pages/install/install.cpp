@@ -46,7 +46,7 @@ void Install::install()
         const QTreeWidgetItem* item = m_hubTable->topLevelItem(row);
         const QString ip = item->text(addressColumn);
         if (!m_awaited.contains(ip)) {
-            hubs.append({ip, item->text(DeviceTable::labelColumn)});
+            hubs.append({ip, item->text(DeviceTable::LabelColumn)});
         }
         m_awaited.insert(ip); // a hub of two rows is known by its address
     }
@@ -93,8 +93,8 @@ void Install::createWidgets()
                                  addressColumn, this);
     m_hubTable->setObjectName(QStringLiteral("hubList"));
     m_hubTable->setAccessibleName(tr("PX-HB"));
-    m_hubTable->setColumnWidth(DeviceTable::labelColumn, hostNameWidth);
-    m_hubTable->setColumnWidth(DeviceTable::identifyColumn, identifyWidth);
+    m_hubTable->setColumnWidth(DeviceTable::LabelColumn, hostNameWidth);
+    m_hubTable->setColumnWidth(DeviceTable::IdentifyColumn, identifyWidth);
     m_hubTable->setSortingEnabled(true);
 }
 

@@ -40,7 +40,7 @@ DeviceTable::DeviceTable(const QStringList& headers, int addressColumn, QWidget*
     // each found by adding up those above it.
     setUniformRowHeights(true);
     setItemDelegate(new RowDelegate(this));
-    header()->setSortIndicator(labelColumn, Qt::AscendingOrder);
+    header()->setSortIndicator(LabelColumn, Qt::AscendingOrder);
     connect(model(), SIGNAL(modelAboutToBeReset()), this, SLOT(forgetRows()));
     connect(model(), SIGNAL(layoutChanged()), this, SLOT(chainTabOrder()));
 }
@@ -58,7 +58,7 @@ void DeviceTable::setRows(const QList<QStringList>& rows, const Decorate& decora
     clear();
     addRows(rows);
     if (sorted) {
-        sortItems(labelColumn, Qt::AscendingOrder);
+        sortItems(LabelColumn, Qt::AscendingOrder);
     }
     // Only now the widgets: each one added among rows still coming would lay all of them out.
     for (int i = 0; i < topLevelItemCount(); ++i) {
@@ -84,7 +84,7 @@ QList<QTreeWidgetItem*> DeviceTable::rowsOf(const QString& ipAddress) const
 
 void DeviceTable::setLabel(QTreeWidgetItem* row, const QString& label)
 {
-    row->setText(labelColumn, label);
+    row->setText(LabelColumn, label);
     nameIdentifyButton(row);
 }
 
@@ -138,12 +138,12 @@ void DeviceTable::addIdentifyButton(QTreeWidgetItem* row)
 {
     auto* button = new IdentifyButton(addressOf(row), this);
     connect(button, SIGNAL(clicked(QString)), this, SIGNAL(identifyClicked(QString)));
-    setItemWidget(row, identifyColumn, button);
+    setItemWidget(row, IdentifyColumn, button);
     nameIdentifyButton(row);
 }
 
 void DeviceTable::nameIdentifyButton(QTreeWidgetItem* row)
 {
-    itemWidget(row, identifyColumn)
-        ->setAccessibleName(tr("Identify %1").arg(row->text(labelColumn)));
+    itemWidget(row, IdentifyColumn)
+        ->setAccessibleName(tr("Identify %1").arg(row->text(LabelColumn)));
 }

@@ -44,8 +44,8 @@ QTreeWidgetItem* createRow(const RoomGroup& group)
 {
     auto* row = new QTreeWidgetItem(
         {QString::number(group.number), QString::number(group.sceneNumber), group.roomText()});
-    row->setBackground(RoomGroupList::roomColumn, roomColor(group.rooms.first(), Qt::white));
-    row->setForeground(RoomGroupList::roomColumn, QColor(Qt::white));
+    row->setBackground(RoomGroupList::RoomColumn, roomColor(group.rooms.first(), Qt::white));
+    row->setForeground(RoomGroupList::RoomColumn, QColor(Qt::white));
     return row;
 }
 
@@ -58,7 +58,7 @@ RoomGroupList::RoomGroupList(const QStringList& headers, const QList<int>& width
     setRootIsDecorated(false);
     setAccessibleName(tr("Room combinations"));
     setItemDelegate(new NumberDelegate(this));
-    setItemDelegateForColumn(roomColumn, new RoomDelegate(this));
+    setItemDelegateForColumn(RoomColumn, new RoomDelegate(this));
     for (int column = 0; column < widths.size(); ++column) {
         setColumnWidth(column, widths.at(column));
     }

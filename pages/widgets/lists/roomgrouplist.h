@@ -11,9 +11,12 @@ class RoomGroupList : public QTreeWidget
     Q_OBJECT
 
 public:
-    static constexpr int numberColumn = 0;
-    static constexpr int layoutColumn = 1;
-    static constexpr int roomColumn = 2;
+    enum Column
+    {
+        NumberColumn,
+        LayoutColumn,
+        RoomColumn
+    };
 
     /// One column per header; `widths` are those of the first columns, in pixels.
     RoomGroupList(const QStringList& headers, const QList<int>& widths, QWidget* parent = nullptr);

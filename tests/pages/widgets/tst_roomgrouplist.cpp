@@ -50,9 +50,9 @@ void TestRoomGroupList::listsNumberLayoutAndRooms()
 {
     const List list;
     QCOMPARE(list.topLevelItemCount(), 3);
-    QCOMPARE(list.topLevelItem(1)->text(RoomGroupList::numberColumn), QStringLiteral("2"));
-    QCOMPARE(list.topLevelItem(2)->text(RoomGroupList::layoutColumn), QStringLiteral("2"));
-    QCOMPARE(list.topLevelItem(0)->text(RoomGroupList::roomColumn), QStringLiteral("2,1"));
+    QCOMPARE(list.topLevelItem(1)->text(RoomGroupList::NumberColumn), QStringLiteral("2"));
+    QCOMPARE(list.topLevelItem(2)->text(RoomGroupList::LayoutColumn), QStringLiteral("2"));
+    QCOMPARE(list.topLevelItem(0)->text(RoomGroupList::RoomColumn), QStringLiteral("2,1"));
     QVERIFY(!list.rootIsDecorated());
     QVERIFY(!list.accessibleName().isEmpty());
 }
@@ -63,19 +63,19 @@ void TestRoomGroupList::theRoomCellIsWhiteOnTheColourOfTheFirstRoom()
     for (int row = 0; row < 3; ++row) {
         const QTreeWidgetItem* item = list.topLevelItem(row);
         const QColor color = roomColor(groups().at(row).rooms.first(), Qt::white);
-        QCOMPARE(item->background(RoomGroupList::roomColumn).color(), color);
-        QCOMPARE(item->foreground(RoomGroupList::roomColumn).color(), QColor(Qt::white));
-        QCOMPARE(list.pixelIn(row, RoomGroupList::roomColumn), color);
+        QCOMPARE(item->background(RoomGroupList::RoomColumn).color(), color);
+        QCOMPARE(item->foreground(RoomGroupList::RoomColumn).color(), QColor(Qt::white));
+        QCOMPARE(list.pixelIn(row, RoomGroupList::RoomColumn), color);
     }
 }
 
 void TestRoomGroupList::theRoomKeepsItsColourWhileSelected()
 {
     List list;
-    const QColor before = list.pixelIn(0, RoomGroupList::numberColumn);
+    const QColor before = list.pixelIn(0, RoomGroupList::NumberColumn);
     list.selectRow(0);
-    QCOMPARE(list.pixelIn(0, RoomGroupList::roomColumn), roomColor(2, Qt::white));
-    QVERIFY(list.pixelIn(0, RoomGroupList::numberColumn) != before);
+    QCOMPARE(list.pixelIn(0, RoomGroupList::RoomColumn), roomColor(2, Qt::white));
+    QVERIFY(list.pixelIn(0, RoomGroupList::NumberColumn) != before);
 }
 
 void TestRoomGroupList::takesHeadersAndWidths()
