@@ -10,10 +10,14 @@
 
 namespace {
 
-constexpr int nameColumn = 3;
 constexpr int numberWidth = 15;
 constexpr int layoutWidth = 25;
 constexpr int gapBelowTexts = 10;
+
+enum Column
+{
+    NameColumn = RoomGroupList::RoomColumn + 1
+};
 
 } // namespace
 
@@ -68,7 +72,7 @@ void CreatePreset::load()
     m_groups = roomGroups(doc());
     m_groupList->setGroups(m_groups);
     addNameFields();
-    m_groupList->selectRow(0);
+    m_groupList->selectGroup(0);
     deviceSetSelected();
 }
 
@@ -76,9 +80,9 @@ void CreatePreset::addNameFields()
 {
     m_nameFields.clear();
     QWidget* previous = m_groupList;
-    for (qsizetype row = 0; row < m_groups.size(); ++row) {
-        PresetNameEdit* field = nameField(m_groups.at(row));
-        m_groupList->setItemWidget(m_groupList->topLevelItem(int(row)), nameColumn, field);
+    for (qsizetype index = 0; index < m_groups.size(); ++index) {
+        PresetNameEdit* field = nameField(m_groups.at(index));
+        m_groupList->setItemWidget(m_groupList->topLevelItem(int(index)), NameColumn, field);
         // Fields made after the page's buttons would be reached after them.
         setTabOrder(previous, field);
         previous = field;
@@ -98,9 +102,9 @@ PresetNameEdit* CreatePreset::nameField(const RoomGroup& group)
 void CreatePreset::store()
 {
     clearPresets(doc());
-    for (qsizetype row = 0; row < m_groups.size(); ++row) {
-        const RoomGroup& group = m_groups.at(row);
-        addPreset(doc(), group.number, group.sceneNumber, m_nameFields.at(row)->text());
+    for (qsizetype index = 0; index < m_groups.size(); ++index) {
+        const RoomGroup& group = m_groups.at(index);
+        addPreset(doc(), group.number, group.sceneNumber, m_nameFields.at(index)->text());
     }
 }
 
@@ -114,5 +118,5 @@ void CreatePreset::reset()
 void CreatePreset::deviceSetSelected()
 {
     // Beyond the groups when none is current, or while the list is being replaced.
-    m_thumbnail->setPixmap(m_groups.value(m_groupList->currentRow()).thumbnail);
+    m_thumbnail->setPixmap(m_groups.value(m_groupList->currentGroup()).thumbnail);
 }

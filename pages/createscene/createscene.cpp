@@ -19,20 +19,24 @@ namespace {
 constexpr int gap = 1;
 constexpr int cellSize = 48;
 constexpr int maxLayouts = 10;
-constexpr int numberColumn = 0;
-constexpr int numberColumnWidth = 15;
-constexpr int layoutColumn = 1;
+constexpr int numberWidth = 15;
 constexpr QSize rowSize(66, 66);
 constexpr QSize thumbnailSize(64, 64);
 
+enum Column
+{
+    NumberColumn,
+    LayoutColumn
+};
+
 int numberOf(const QTreeWidgetItem* row)
 {
-    return row->text(numberColumn).toInt();
+    return row->text(NumberColumn).toInt();
 }
 
 void setNumber(QTreeWidgetItem* row, int number)
 {
-    row->setText(numberColumn, QString::number(number));
+    row->setText(NumberColumn, QString::number(number));
 }
 
 } // namespace
@@ -58,8 +62,8 @@ void CreateScene::load()
 void CreateScene::store()
 {
     clearLayouts(doc());
-    for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
-        QTreeWidgetItem* row = m_list->topLevelItem(i);
+    for (int index = 0; index < m_list->topLevelItemCount(); ++index) {
+        QTreeWidgetItem* row = m_list->topLevelItem(index);
         const SceneItem* item = itemOf(row);
         addLayout(doc(), {numberOf(row), item->roomGroup(), item->thumbnail()});
     }
@@ -91,7 +95,7 @@ void CreateScene::removeButtonClicked()
 {
     auto* item = qobject_cast<SceneItem*>(sender());
     const auto found = m_rows.constFind(item);
-    if (found == m_rows.constEnd()) {
+    if (found == m_rows.cend()) {
         return;
     }
     QTreeWidgetItem* removed = *found;
@@ -135,7 +139,7 @@ void CreateScene::createWidgets()
     m_list->setHeaderLabels({tr("No."), tr("Layout")});
     m_list->setRootIsDecorated(false);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_list->setColumnWidth(numberColumn, numberColumnWidth);
+    m_list->setColumnWidth(NumberColumn, numberWidth);
     m_focusedRow = new FocusedRow(m_list);
 }
 
@@ -194,10 +198,10 @@ void CreateScene::appendRow(const SceneInfo& layout)
     QWidget* above = lastTabStop();
     auto* row = new QTreeWidgetItem(m_list);
     setNumber(row, layout.number);
-    row->setSizeHint(layoutColumn, rowSize);
+    row->setSizeHint(LayoutColumn, rowSize);
     auto* item = new SceneItem(layout.thumbnail, layout.roomGroup);
     connect(item, SIGNAL(removeClicked()), this, SLOT(removeButtonClicked()));
-    m_list->setItemWidget(row, layoutColumn, item);
+    m_list->setItemWidget(row, LayoutColumn, item);
     setTabOrder(above, item->tabStop());
     m_focusedRow->watch(item->tabStop());
     m_rows.insert(item, row);
@@ -213,14 +217,14 @@ QWidget* CreateScene::lastTabStop() const
 
 SceneItem* CreateScene::itemOf(QTreeWidgetItem* row) const
 {
-    return static_cast<SceneItem*>(m_list->itemWidget(row, layoutColumn));
+    return static_cast<SceneItem*>(m_list->itemWidget(row, LayoutColumn));
 }
 
 QTreeWidgetItem* CreateScene::rowOf(const QString& roomGroup) const
 {
-    for (auto it = m_rows.begin(); it != m_rows.end(); ++it) {
-        if (it.key()->roomGroup() == roomGroup) {
-            return it.value();
+    for (auto row = m_rows.cbegin(); row != m_rows.cend(); ++row) {
+        if (row.key()->roomGroup() == roomGroup) {
+            return row.value();
         }
     }
     return nullptr;

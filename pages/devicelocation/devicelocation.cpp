@@ -23,20 +23,18 @@ namespace {
 
 constexpr int pictureGap = 1;
 constexpr int pictureCellSize = 13;
-constexpr int labelColumnWidth = 250;
-constexpr int identifyColumnWidth = 25;
+constexpr int labelWidth = 250;
+constexpr int identifyWidth = 25;
 
 enum Column
 {
-    LabelColumn,
-    IdentifyColumn,
-    ModelColumn,
+    ModelColumn = DeviceTable::IdentifyColumn + 1,
     AddressColumn,
     RoomColumn
 };
 
 /// A row that was changed may have moved to another place of a sorted table.
-void showCell(const QTreeWidgetItem& row, Column column)
+void showCell(const QTreeWidgetItem& row, int column)
 {
     QTreeWidget* table = row.treeWidget();
     table->scrollTo(table->indexFromItem(&row, column));
@@ -66,8 +64,8 @@ void DeviceLocation::load()
     QList<DeviceEntry> peripherals;
     QHash<QString, int> roomOfAddress;
     const int devices = deviceCount(doc());
-    for (int i = 0; i < devices; ++i) {
-        if (const auto device = deviceAt(doc(), i)) {
+    for (int index = 0; index < devices; ++index) {
+        if (const auto device = deviceAt(doc(), index)) {
             (isHub(device->modelName) ? hubs : peripherals).append(*device);
             // Addresses find the first device that has them, here as in the document.
             if (!roomOfAddress.contains(device->ipAddress)) {
@@ -128,7 +126,7 @@ void DeviceLocation::comboBoxRoomChanged(int /*index*/)
 
 void DeviceLocation::devItemDoubleClicked(QTreeWidgetItem* item, int column)
 {
-    if (column != LabelColumn) {
+    if (column != DeviceTable::LabelColumn) {
         return;
     }
     for (const Row& row : std::as_const(m_rows)) {
@@ -181,9 +179,9 @@ DeviceTable* DeviceLocation::createTable(const QString& name, const QString& acc
     table->setObjectName(name);
     table->setAccessibleName(accessibleName);
     table->setSortingEnabled(true);
-    table->setItemDelegateForColumn(LabelColumn, new DeviceLabelDelegate(table));
-    table->setColumnWidth(LabelColumn, labelColumnWidth);
-    table->setColumnWidth(IdentifyColumn, identifyColumnWidth);
+    table->setItemDelegateForColumn(DeviceTable::LabelColumn, new DeviceLabelDelegate(table));
+    table->setColumnWidth(DeviceTable::LabelColumn, labelWidth);
+    table->setColumnWidth(DeviceTable::IdentifyColumn, identifyWidth);
     connect(table, SIGNAL(identifyClicked(QString)), this, SLOT(identifyButtonClicked(QString)));
     connect(table, SIGNAL(itemDoubleClicked(QTreeWidgetItem*, int)), this,
             SLOT(devItemDoubleClicked(QTreeWidgetItem*, int)));
@@ -250,7 +248,7 @@ DeviceLocation::Row DeviceLocation::decorate(DeviceTable* table, QTreeWidgetItem
     connect(row.icon, SIGNAL(iconClicked()), this, SLOT(deviceLabelIconClicked()));
     nameWidgets(row);
     updateRow(row);
-    table->setItemWidget(item, LabelColumn, row.icon);
+    table->setItemWidget(item, DeviceTable::LabelColumn, row.icon);
     table->setItemWidget(item, RoomColumn, combo);
     return row;
 }
@@ -267,7 +265,7 @@ void DeviceLocation::markRepeatedRows()
 
 void DeviceLocation::nameWidgets(const Row& row)
 {
-    const QString label = row.item->text(LabelColumn);
+    const QString label = row.item->text(DeviceTable::LabelColumn);
     row.icon->setDeviceLabel(label);
     row.room->setAccessibleName(tr("Room of %1").arg(label));
 }
@@ -298,12 +296,12 @@ void DeviceLocation::rename(const Row& row)
     if (row.room->room() == 0) {
         return;
     }
-    DeviceNameDialog dialog(row.item->text(LabelColumn), this);
+    DeviceNameDialog dialog(row.item->text(DeviceTable::LabelColumn), this);
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }
     setDeviceLabel(doc(), row.ipAddress, dialog.name());
     static_cast<DeviceTable*>(row.item->treeWidget())->setLabel(row.item, dialog.name());
     nameWidgets(row);
-    showCell(*row.item, LabelColumn);
+    showCell(*row.item, DeviceTable::LabelColumn);
 }

@@ -45,19 +45,19 @@ Q_SIGNALS:
 
 public Q_SLOTS:
     /// Makes a device show itself.
-    void identifyButtonClicked(const QString& ip);
-    /// Shows how the installation of the hub at `ip` ended: 1 for success.
-    void presetSendFinished(const QString& ip, int status);
+    void identifyButtonClicked(const QString& ipAddress);
+    /// Shows how the installation of the hub at `ipAddress` ended: 1 for success.
+    void presetSendFinished(const QString& ipAddress, int status);
     /// Starts the transfers once every hub's log-in is answered.
     void senderLogin();
 
 private:
     void createWidgets();
     void buildLayout();
-    void startSender(const QString& ip, const QString& label);
-    bool isRunning(const QString& ip) const;
-    QString status(int row) const;
-    void setStatus(const QString& ip, const QString& text);
+    void startSender(const QString& ipAddress, const QString& label);
+    bool isRunning(const QString& ipAddress) const;
+    QString status(int index) const;
+    void setStatus(const QString& ipAddress, const QString& text);
 
     DeviceTable* m_hubTable = nullptr;
     QHash<QString, PresetFileSender*> m_senders; ///< by address; children of this widget

@@ -61,10 +61,10 @@ void DeviceTable::setRows(const QList<QStringList>& rows, const Decorate& decora
         sortItems(LabelColumn, Qt::AscendingOrder);
     }
     // Only now the widgets: each one added among rows still coming would lay all of them out.
-    for (int i = 0; i < topLevelItemCount(); ++i) {
-        addIdentifyButton(topLevelItem(i));
+    for (int index = 0; index < topLevelItemCount(); ++index) {
+        addIdentifyButton(topLevelItem(index));
         if (decorate) {
-            decorate(topLevelItem(i));
+            decorate(topLevelItem(index));
         }
     }
     setSortingEnabled(sorted);
@@ -106,9 +106,9 @@ void DeviceTable::chainTabOrder()
     // Widgets made late would come after everything else in the window, and stay in the order of
     // their making when the rows are sorted anew.
     QList<QWidget*> stops;
-    for (int i = 0; i < topLevelItemCount(); ++i) {
+    for (int index = 0; index < topLevelItemCount(); ++index) {
         for (int column = 0; column < columnCount(); ++column) {
-            stops.append(tabStops(itemWidget(topLevelItem(i), column)));
+            stops.append(tabStops(itemWidget(topLevelItem(index), column)));
         }
     }
     // From the last one on, each right behind the table: what Qt looks at for a move is what stands

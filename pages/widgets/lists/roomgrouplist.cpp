@@ -32,9 +32,9 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
         RowDelegate::initStyleOption(option, index);
-        const QColor colour = option->palette.color(QPalette::Text);
-        if (index.data(Qt::ForegroundRole).isValid() && colour != QColor(Qt::black)) {
-            option->palette.setColor(QPalette::Highlight, colour);
+        const QColor color = option->palette.color(QPalette::Text);
+        if (index.data(Qt::ForegroundRole).isValid() && color != QColor(Qt::black)) {
+            option->palette.setColor(QPalette::Highlight, color);
             option->palette.setColor(QPalette::HighlightedText, Qt::white);
         }
     }
@@ -76,14 +76,14 @@ void RoomGroupList::setGroups(const QList<RoomGroup>& groups)
     addTopLevelItems(rows);
 }
 
-int RoomGroupList::currentRow() const
+int RoomGroupList::currentGroup() const
 {
     return indexOfTopLevelItem(currentItem());
 }
 
-void RoomGroupList::selectRow(int row)
+void RoomGroupList::selectGroup(int index)
 {
-    if (QTreeWidgetItem* item = topLevelItem(row)) {
-        setCurrentItem(item);
+    if (QTreeWidgetItem* row = topLevelItem(index)) {
+        setCurrentItem(row);
     }
 }

@@ -64,7 +64,7 @@ QStringList RoomGroupPanel::rowTexts(const DeviceEntry& device)
             QString::number(device.roomNumber)};
 }
 
-void RoomGroupPanel::identifyButtonClicked(const QString& ip)
+void RoomGroupPanel::identifyButtonClicked(const QString& ipAddress)
 {
-    identifyDevice(*m_doc, ip);
+    identifyDevice(*m_doc, ipAddress);
 }

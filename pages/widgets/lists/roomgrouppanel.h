@@ -32,7 +32,7 @@ public:
     virtual void reset() = 0;
 
 public Q_SLOTS:
-    void identifyButtonClicked(const QString& ip);
+    void identifyButtonClicked(const QString& ipAddress);
 
 protected:
     /// The columns of a table of devices. In one of them stands what the panel lets choose.

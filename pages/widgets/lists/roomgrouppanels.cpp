@@ -48,14 +48,14 @@ void RoomGroupPanels::load(IDocAccessor& doc, const MakePanel& makePanel)
 {
     clear();
     const QList<RoomGroup> groups = roomGroups(doc);
-    RoomDevices devices(doc);
+    RoomDevices devices(&doc);
     for (const RoomGroup& group : groups) {
         RoomGroupPanel* panel = makePanel(group, devices, m_stack);
         m_stack->addWidget(panel);
         m_panels.append(panel);
     }
     m_list->setGroups(groups);
-    m_list->selectRow(0);
+    m_list->selectGroup(0);
 }
 
 void RoomGroupPanels::clear()
@@ -84,13 +84,13 @@ void RoomGroupPanels::reset()
 bool RoomGroupPanels::showValidity()
 {
     bool allValid = true;
-    for (qsizetype row = 0; row < m_panels.size(); ++row) {
-        const bool valid = m_panels.at(row)->isValid();
-        QTreeWidgetItem* item = m_list->topLevelItem(int(row));
+    for (qsizetype index = 0; index < m_panels.size(); ++index) {
+        const bool valid = m_panels.at(index)->isValid();
+        QTreeWidgetItem* row = m_list->topLevelItem(int(index));
         for (const int column : {RoomGroupList::NumberColumn, RoomGroupList::LayoutColumn}) {
-            item->setForeground(column, valid ? Qt::black : Qt::red);
-            item->setData(column, Qt::AccessibleDescriptionRole,
-                          valid ? QString() : tr("more devices than supported"));
+            row->setForeground(column, valid ? Qt::black : Qt::red);
+            row->setData(column, Qt::AccessibleDescriptionRole,
+                         valid ? QString() : tr("more devices than supported"));
         }
         allValid = allValid && valid;
     }
@@ -99,9 +99,9 @@ bool RoomGroupPanels::showValidity()
 
 void RoomGroupPanels::showCurrentPanel()
 {
-    const int row = m_list->currentRow();
-    if (row >= 0 && row < m_panels.size()) {
-        m_panels.at(row)->buildLists(m_list);
-        m_stack->setCurrentWidget(m_panels.at(row));
+    const int index = m_list->currentGroup();
+    if (index >= 0 && index < m_panels.size()) {
+        m_panels.at(index)->buildLists(m_list);
+        m_stack->setCurrentWidget(m_panels.at(index));
     }
 }
