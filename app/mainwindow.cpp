@@ -25,8 +25,8 @@
 
 namespace {
 
-constexpr QSize minimumWindowSize(800, 600);
-constexpr QSize maximumWindowSize(1200, 1200);
+constexpr QSize minWindowSize(800, 600);
+constexpr QSize maxWindowSize(1200, 1200);
 constexpr qreal titlePointSize = 14.0;
 // Time for discovery to find the devices that the saved configuration names.
 constexpr int resumeDelayMs = 5000;
@@ -53,8 +53,8 @@ MainWindow::MainWindow(QWidget* parent, IDocAccessor* doc)
 {
     setWindowTitle(tr("Divide / Combine Room Wizard"));
     setWindowIcon(QIcon(QStringLiteral(":/image/tessel.svg")));
-    setMinimumSize(minimumWindowSize);
-    setMaximumSize(maximumWindowSize);
+    setMinimumSize(minWindowSize);
+    setMaximumSize(maxWindowSize);
     buildLayout();
     appendPage(0);
     showCurrentPage();
@@ -81,7 +81,7 @@ void MainWindow::buildLayout()
 void MainWindow::next()
 {
     const BasePage* previous = pageAt(m_currentIndex);
-    if (m_currentIndex < pageTotal - 1) {
+    if (m_currentIndex < pageCount - 1) {
         ++m_currentIndex;
     }
     if (m_currentIndex >= m_pageStack->count()) {

@@ -34,13 +34,13 @@ constexpr auto makers = std::to_array<Maker>({
     make<PageInstall>,
     make<PageFinish>,
 });
-static_assert(makers.size() == pageTotal);
+static_assert(makers.size() == pageCount);
 
 } // namespace
 
 BasePage* makePage(int index, IPageController* controller, IDocAccessor* doc, QWidget* parent)
 {
-    if (index < 0 || index >= pageTotal) {
+    if (index < 0 || index >= pageCount) {
         return nullptr;
     }
     return makers.at(std::size_t(index))(controller, doc, parent);

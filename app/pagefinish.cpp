@@ -1,6 +1,7 @@
 #include "pagefinish.h"
 
 #include "ipagecontroller.h"
+#include "wizardpage.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -22,7 +23,7 @@ WellDone::WellDone(QWidget* parent)
 
 // The title has no blank after the point, unlike the other eight; it is kept that way.
 PageFinish::PageFinish(IPageController* controller, IDocAccessor* doc, QWidget* parent)
-    : BasePage(tr("9.Ready to use"), 9, controller, doc, parent)
+    : BasePage(tr("9.Ready to use"), stepNumber(WizardPage::Finish), controller, doc, parent)
 {
     auto* closeButton = new QPushButton(tr("Close"), this);
     closeButton->setObjectName(QStringLiteral("closeButton"));

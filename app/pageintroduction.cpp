@@ -1,6 +1,7 @@
 #include "pageintroduction.h"
 
 #include "ipagecontroller.h"
+#include "wizardpage.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -23,7 +24,7 @@ Introduction::Introduction(QWidget* parent)
 }
 
 PageIntroduction::PageIntroduction(IPageController* controller, IDocAccessor* doc, QWidget* parent)
-    : BasePage(tr("1. Introduction"), 1, controller, doc, parent)
+    : BasePage(tr("1. Introduction"), stepNumber(WizardPage::Introduction), controller, doc, parent)
 {
     auto* closeButton = new QPushButton(tr("Close"), this);
     closeButton->setObjectName(QStringLiteral("closeButton"));

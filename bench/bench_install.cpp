@@ -66,8 +66,8 @@ void installOn(int hubs, const QString& series, Heartbeat& heartbeat)
     TesselDoc doc(nullptr);
     placeDevices(doc, hubs);
     addLayouts(doc);
-    Install page(&doc, nullptr);
-    page.initialise();
+    Install page(&doc);
+    page.load();
     page.show();
     QApplication::processEvents();
     InstallDesk desk;

@@ -29,7 +29,7 @@ struct Step
     Step()
     {
         fillDocument(doc, size);
-        page.reload();
+        page.load();
         page.resize(780, 540);
         page.show();
         QApplication::processEvents();
@@ -47,7 +47,7 @@ struct Step
     }
 
     TesselDoc doc{nullptr};
-    DeviceLocation page{doc, nullptr};
+    DeviceLocation page{&doc};
     QComboBox* combo = nullptr;
 };
 

@@ -25,7 +25,7 @@
 
 namespace {
 
-constexpr int mostDevices = 1000;
+constexpr int maxDevices = 1000;
 constexpr quint16 webPort = 80;
 constexpr HallSize hall{4, 64, 10}; // 16 peripherals per hub
 
@@ -193,7 +193,7 @@ void registerTransfers(const CannedPeer& peer)
 
 int main(int argc, char** argv)
 {
-    const CannedPeer peer(addresses(mostDevices), addresses(hall.hubs));
+    const CannedPeer peer(addresses(maxDevices), addresses(hall.hubs));
     if (!peer.isOpen()) {
         qCritical("bench_sockets: port 80 or 49280 of 127.90.0.0/16 cannot be opened");
         return 1;
@@ -203,7 +203,7 @@ int main(int argc, char** argv)
     benchmark::Initialize(&argc, argv);
     registerTransfers(peer);
     registerIdentity(250, 25);
-    registerIdentity(mostDevices, 11);
+    registerIdentity(maxDevices, 11);
     benchmark::RunSpecifiedBenchmarks();
     // What they hold, widgets and pictures, must not outlive the application.
     benchmark::ClearRegisteredBenchmarks();

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int secondAddressWait = 1000; // milliseconds
+constexpr int secondAddressWaitMs = 1000;
 
 // A large hall answers at once; the usual buffer holds about 250 replies.
 constexpr int receiveBufferSize = 1 << 20;
@@ -159,7 +159,7 @@ void DeviceDetector::groupHub(const DetectedDevice& device)
     HubGroup& group = m_hubs[device.serialNumber];
     group.addresses.append(device);
     if (group.addresses.size() == 1) {
-        const int timer = startTimer(secondAddressWait, Qt::PreciseTimer);
+        const int timer = startTimer(secondAddressWaitMs, Qt::PreciseTimer);
         m_timers.insert(timer, device.serialNumber);
     } else if (group.addresses.size() > 2) {
         qDebug().noquote() << QStringLiteral("[???]PX-HB:Serial No.=%1").arg(device.serialNumber);

@@ -7,7 +7,7 @@
 namespace {
 
 constexpr int fourth = 3;
-constexpr int leastPresetWords = 3;
+constexpr int minPresetWords = 3;
 
 bool endsLine(QChar character)
 {
@@ -42,7 +42,7 @@ int ScpAnswer::fourthWordNumber(const QString& answer)
 QString ScpAnswer::currentPreset(const QString& answer)
 {
     const QStringList words = firstLineWords(answer);
-    if (words.size() < leastPresetWords || words.first() != u"OK") {
+    if (words.size() < minPresetWords || words.first() != u"OK") {
         return {};
     }
     return words.value(fourth);

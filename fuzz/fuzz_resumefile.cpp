@@ -17,8 +17,8 @@
 
 namespace {
 
-constexpr qsizetype mostScenes = 100;
-constexpr int largestSide = 256;
+constexpr qsizetype maxScenes = 100;
+constexpr int maxSide = 256;
 constexpr qsizetype numberSize = 4;
 
 quint32 crc(const QByteArray& bytes)
@@ -78,9 +78,9 @@ void examineFile(const QByteArray& bytes)
     if (!content) {
         return;
     }
-    require(content->scenes.size() <= mostScenes, "no more layouts than a wizard could save");
+    require(content->scenes.size() <= maxScenes, "no more layouts than a wizard could save");
     for (const SceneInfo& scene : content->scenes) {
-        require(scene.thumbnail.width() <= largestSide && scene.thumbnail.height() <= largestSide,
+        require(scene.thumbnail.width() <= maxSide && scene.thumbnail.height() <= maxSide,
                 "no larger pictures than a wizard could save");
     }
     const std::optional<ResumeFile> again = unpackResumeFile(packResumeFile(*content));

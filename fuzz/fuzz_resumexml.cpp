@@ -88,7 +88,7 @@ bool isOnGrid(const RoomInfo& room)
 
 void examineLimits(const SavedWork& work)
 {
-    require(work.pageIndex >= 0 && work.pageIndex < pageTotal, "the page exists");
+    require(work.pageIndex >= 0 && work.pageIndex < pageCount, "the page exists");
     for (const SavedSection& section : work.sections) {
         if (const auto* rooms = std::get_if<QList<RoomInfo>>(&section)) {
             for (const RoomInfo& room : *rooms) {

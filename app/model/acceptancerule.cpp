@@ -42,7 +42,7 @@ bool isDeviceAccepted(QStringView version, QStringView model)
     if (known == nullptr) {
         return false;
     }
-    const qsizetype parts = known->leastFirmware.count(u'.') + 1;
+    const qsizetype parts = known->minFirmware.count(u'.') + 1;
     // What is no version comes before every version.
-    return firstNumbers(version, parts) >= firstNumbers(known->leastFirmware, parts);
+    return firstNumbers(version, parts) >= firstNumbers(known->minFirmware, parts);
 }

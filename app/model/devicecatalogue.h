@@ -30,7 +30,7 @@ struct DeviceModel
     DeviceClass deviceClass = DeviceClass::Other; ///< what they count as
     /// The oldest firmware that is accepted. A version has to have as many parts as are given here;
     /// those behind are not looked at.
-    QStringView leastFirmware;
+    QStringView minFirmware;
     int nameMode = 0; ///< goes with a name into the preset file of such a device
     /// Which of them get no preset file of their own through the hub that they are placed with.
     ModelTest withoutFile = ModelTest::Never;

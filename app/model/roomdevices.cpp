@@ -2,8 +2,8 @@
 
 #include <QSet>
 
-RoomDevices::RoomDevices(IDocAccessor& doc)
-    : m_doc(&doc)
+RoomDevices::RoomDevices(IDocAccessor* doc)
+    : m_doc(doc)
 {
 }
 

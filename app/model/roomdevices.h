@@ -11,7 +11,7 @@ class RoomDevices
 {
 public:
     /// `doc` is not owned; devices moved after their room was first asked for are not noticed.
-    explicit RoomDevices(IDocAccessor& doc);
+    explicit RoomDevices(IDocAccessor* doc);
 
     /// The devices that stand in these rooms: room by room, in document order within a room. A
     /// device is known by its address and comes once, however often it was handed over.

@@ -15,4 +15,10 @@ enum class WizardPage
 };
 
 /// The number of pages.
-inline constexpr int pageTotal = int(WizardPage::Finish) + 1;
+inline constexpr int pageCount = int(WizardPage::Finish) + 1;
+
+/// The number that the user knows a page by, from 1; its title begins with it.
+constexpr int stepNumber(WizardPage page)
+{
+    return int(page) + 1;
+}

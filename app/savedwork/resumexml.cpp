@@ -216,7 +216,7 @@ std::optional<int> readPageIndex(const BoundedXml& xml)
 {
     bool ok = false;
     const int index = xml.attributes().value(literal(ResumeRoot::page)).toInt(&ok);
-    return ok && index >= 0 && index < pageTotal ? std::optional(index) : std::nullopt;
+    return ok && index >= 0 && index < pageCount ? std::optional(index) : std::nullopt;
 }
 
 } // namespace

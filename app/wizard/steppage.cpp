@@ -1,26 +1,36 @@
 #include "steppage.h"
 
 #include "ipagecontroller.h"
+#include "stepcontent.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+StepPage::StepPage(const QString& title, int pageNumber, StepContent* content, LeftButton left,
+                   IPageController* controller, IDocAccessor* doc, QWidget* parent)
+    : BasePage(title, pageNumber, controller, doc, parent)
+    , m_content(content)
+{
+    buildLayout(left);
+    connect(m_content, SIGNAL(nextButtonEnabled(bool)), this, SLOT(setNextButtonEnabled(bool)));
+}
+
 void StepPage::enterFrom(int previousPageNumber)
 {
     if (previousPageNumber < pageNumber()) {
-        load();
+        m_content->load();
     }
 }
 
 void StepPage::restoreFromDocument()
 {
-    load();
+    m_content->load();
 }
 
 void StepPage::storeToDocument()
 {
-    store();
+    m_content->store();
 }
 
 void StepPage::setNextButtonEnabled(bool enable)
@@ -35,12 +45,12 @@ void StepPage::backButtonClicked()
 
 void StepPage::resetButtonClicked()
 {
-    reset();
+    m_content->reset();
 }
 
 void StepPage::nextButtonClicked()
 {
-    store();
+    m_content->store();
     controller().next();
 }
 
@@ -49,11 +59,11 @@ void StepPage::closeButtonClicked()
     controller().quit();
 }
 
-void StepPage::buildFrame(QWidget* content, LeftButton left)
+void StepPage::buildLayout(LeftButton left)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(content, 1);
+    layout->addWidget(m_content, 1);
     auto* row = new QHBoxLayout;
     layout->addLayout(row);
     if (left == LeftButton::Close) {

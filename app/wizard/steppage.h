@@ -4,12 +4,14 @@
 
 class QHBoxLayout;
 class QPushButton;
+class StepContent;
 
-/// The frame that the working steps share: a content widget above a row of buttons.
+/// The frame that the working steps share: the content of the step above a row of buttons.
 ///
 /// The frame decides when the content is loaded (arriving forward from an earlier step, or after
-/// saved work was loaded) and when it is stored (Next, or before saving); coming back from a later
-/// step keeps the widgets as they are. A step says what loading, storing and resetting mean.
+/// saved work was loaded), when it is stored (Next, or before saving) and when it is reset; coming
+/// back from a later step keeps the widgets as they are. Next follows the content's
+/// nextButtonEnabled(bool) and is enabled until then.
 class StepPage : public BasePage
 {
     Q_OBJECT
@@ -20,18 +22,15 @@ public:
     void storeToDocument() override;
 
 public Q_SLOTS:
-    /// Connected to the content's nextButtonEnabled(bool).
     void setNextButtonEnabled(bool enable);
 
 protected Q_SLOTS:
-    virtual void backButtonClicked();  ///< goes back; nothing is stored
-    virtual void resetButtonClicked(); ///< resets the content
-    virtual void nextButtonClicked();  ///< stores, then goes on
-    virtual void closeButtonClicked(); ///< leaves the wizard as closing the window does
+    virtual void backButtonClicked(); ///< goes back; nothing is stored
+    void resetButtonClicked();        ///< resets the content
+    void nextButtonClicked();         ///< stores, then goes on
+    void closeButtonClicked();        ///< leaves the wizard as closing the window does
 
 protected:
-    using BasePage::BasePage;
-
     /// Which button stands on the left: the first working step closes, the others go back.
     enum class LeftButton
     {
@@ -39,20 +38,15 @@ protected:
         Back
     };
 
-    /// Lays out `content` above the row left button, Reset, space, Next, and connects the
-    /// buttons. Called once, by the constructor of the step; the frame takes `content` over.
-    void buildFrame(QWidget* content, LeftButton left);
-
-    /// Fills the content from the document. Called while the page is not visible yet.
-    virtual void load() = 0;
-    /// Writes the content to the document.
-    virtual void store() = 0;
-    /// Puts the content back to its start.
-    virtual void reset() = 0;
+    /// Takes `content` over. Neither `controller` nor `doc` is owned; both outlive the page.
+    StepPage(const QString& title, int pageNumber, StepContent* content, LeftButton left,
+             IPageController* controller, IDocAccessor* doc, QWidget* parent);
 
 private:
+    void buildLayout(LeftButton left);
     QPushButton* addButton(QHBoxLayout* row, const QString& text, const QString& name,
                            const char* slot);
 
+    StepContent* m_content;
     QPushButton* m_nextButton = nullptr;
 };

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qsizetype longestStatusText = 80;
+constexpr qsizetype maxStatusTextLength = 80;
 constexpr QStringView lineEnd = u"\r\n";
 
 QString emptyLine()
@@ -51,7 +51,7 @@ QString HttpReply::statusText(const QString& reply)
             character = u' ';
         }
     }
-    return text.simplified().left(longestStatusText);
+    return text.simplified().left(maxStatusTextLength);
 }
 
 bool HttpReply::isOk(const QString& reply)

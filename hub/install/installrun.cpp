@@ -47,7 +47,7 @@ const InstallRun::Row& InstallRun::rowOf(InstallStep step)
     using Step = InstallStep;
     using Move = InstallMove;
     // clang-format off
-    static constexpr std::array<Row, installStepTotal> rows = {{
+    static constexpr std::array<Row, installStepCount> rows = {{
         // step                the request                  what a "200" means         what every other status means
         {Step::Status,         &Run::statusRequest,         &Run::afterStatus,         Move::EndByStatus},
         {Step::Token,          &Run::tokenRequest,          &Run::afterToken,          Move::EndByStatus},

@@ -18,7 +18,7 @@ enum class InstallStep
 };
 
 /// The number of steps.
-inline constexpr int installStepTotal = int(InstallStep::Invalidate) + 1;
+inline constexpr int installStepCount = int(InstallStep::Invalidate) + 1;
 
 /// What is to be done after a reply.
 enum class InstallMove

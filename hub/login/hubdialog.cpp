@@ -47,7 +47,7 @@ void HubDialog::layOut(const QList<QWidget*>& fields)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_titleLabel, 0, Qt::AlignHCenter);
     layout->addWidget(m_hubList, 1);
-    QWidget* last = m_hubList->itemWidget(m_hubList->topLevelItem(0), DeviceTable::identifyColumn);
+    QWidget* last = m_hubList->itemWidget(m_hubList->topLevelItem(0), DeviceTable::IdentifyColumn);
     for (QWidget* field : fields) {
         layout->addWidget(field);
         if (field->focusPolicy() != Qt::NoFocus) {
@@ -101,8 +101,8 @@ void HubDialog::buildHubList(const QString& ipAddress, const QString& hostName)
     m_hubList = new DeviceTable({tr("Hostname"), QString(), tr("IP Address")}, addressColumn, this);
     m_hubList->setObjectName(QStringLiteral("hubList"));
     m_hubList->setAccessibleName(tr("Hub"));
-    m_hubList->setColumnWidth(DeviceTable::labelColumn, nameWidth);
-    m_hubList->setColumnWidth(DeviceTable::identifyColumn, identifyWidth);
+    m_hubList->setColumnWidth(DeviceTable::LabelColumn, nameWidth);
+    m_hubList->setColumnWidth(DeviceTable::IdentifyColumn, identifyWidth);
     m_hubList->setRows({{hostName, QString(), ipAddress}});
     // The height of the dialog is fixed: the list must not claim more than its one row.
     m_hubList->setMinimumHeight(m_hubList->header()->sizeHint().height() +

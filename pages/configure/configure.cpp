@@ -1,34 +1,28 @@
 #include "configure.h"
 
 #include "deviceset.h"
-#include "roomdevices.h"
-#include "roomgroup.h"
 #include "roomgrouplist.h"
 #include "roomgrouppanels.h"
 #include "setqueries.h"
 #include "textlabel.h"
 
 #include <QLabel>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 Configure::Configure(IDocAccessor* doc, QWidget* parent)
-    : QWidget(parent)
-    , m_doc(doc)
-    , m_panelsView(new RoomGroupPanels(QStringLiteral("deviceSetStack"), this))
-    , m_groupList(m_panelsView->list())
-    , m_stack(m_panelsView->stack())
+    : StepContent(doc, parent)
+    , m_panels(new RoomGroupPanels(QStringLiteral("deviceSetStack"), this))
 {
-    layOut();
-    connect(m_groupList, SIGNAL(itemSelectionChanged()), this, SLOT(deviceSetSelected()));
+    buildLayout();
+    connect(m_panels->list(), SIGNAL(itemSelectionChanged()), this, SLOT(deviceSetSelected()));
 }
 
-void Configure::layOut()
+void Configure::buildLayout()
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     addTexts(layout);
-    layout->addWidget(m_panelsView, 1);
+    layout->addWidget(m_panels, 1);
 }
 
 void Configure::addTexts(QVBoxLayout* layout)
@@ -44,66 +38,34 @@ void Configure::addTexts(QVBoxLayout* layout)
     }
 }
 
-void Configure::initialise()
+void Configure::load()
 {
-    m_sets.clear();
-    m_panelsView->clear();
-    addSets();
-    deviceRemoveStatusChanged();
-    m_groupList->selectRow(0);
-}
-
-void Configure::addSets()
-{
-    const QList<RoomGroup> groups = roomGroups(*m_doc);
-    RoomDevices devices(*m_doc);
-    for (const RoomGroup& group : groups) {
-        auto* set = new DeviceSet(group, m_doc, m_stack);
-        set->fill(devices);
+    m_panels->load(doc(), [this](const RoomGroup& group, RoomDevices& devices, QWidget* parent) {
+        auto* set = new DeviceSet(group, devices, &doc(), parent);
         connect(set, SIGNAL(deviceRemoveStatusChanged()), this, SLOT(deviceRemoveStatusChanged()));
-        m_stack->addWidget(set);
-        m_sets.append(set);
-    }
-    m_groupList->setGroups(groups);
+        return set;
+    });
+    deviceRemoveStatusChanged();
 }
 
-void Configure::store() const
+void Configure::store()
 {
-    clearDeviceSets(*m_doc);
-    for (const DeviceSet* set : m_sets) {
-        set->store();
-    }
+    clearDeviceSets(doc());
+    m_panels->store();
 }
 
 void Configure::reset()
 {
-    for (DeviceSet* set : std::as_const(m_sets)) {
-        set->reset();
-    }
+    m_panels->reset();
     deviceRemoveStatusChanged();
 }
 
 void Configure::deviceSetSelected()
 {
-    const int row = m_groupList->currentRow();
-    if (row >= 0 && row < m_sets.size()) {
-        m_sets.at(row)->buildLists(m_groupList);
-        m_stack->setCurrentWidget(m_sets.at(row));
-    }
+    m_panels->showCurrentPanel();
 }
 
 void Configure::deviceRemoveStatusChanged()
 {
-    bool allValid = true;
-    for (qsizetype row = 0; row < m_sets.size(); ++row) {
-        const bool valid = m_sets.at(row)->isValid();
-        QTreeWidgetItem* item = m_groupList->topLevelItem(int(row));
-        for (const int column : {RoomGroupList::numberColumn, RoomGroupList::layoutColumn}) {
-            item->setForeground(column, valid ? Qt::black : Qt::red);
-            item->setData(column, Qt::AccessibleDescriptionRole,
-                          valid ? QString() : tr("more devices than supported"));
-        }
-        allValid = allValid && valid;
-    }
-    Q_EMIT nextButtonEnabled(allValid);
+    Q_EMIT nextButtonEnabled(m_panels->showValidity());
 }

@@ -1,38 +1,29 @@
 #pragma once
 
-#include <QList>
-#include <QWidget>
+#include "stepcontent.h"
 
-class DeviceSet;
-class IDocAccessor;
-class QStackedWidget;
 class QVBoxLayout;
-class RoomGroupList;
 class RoomGroupPanels;
 
 /// Content of the device set step: every combined room of every layout, with a panel for choosing
 /// its devices. Combined rooms with more devices than a conference system supports are listed in
 /// red, and the step cannot be left forward while there is one.
-class Configure : public QWidget
+class Configure : public StepContent
 {
     Q_OBJECT
 
 public:
-    /// `doc` is not owned and outlives the widget.
-    Configure(IDocAccessor* doc, QWidget* parent);
+    /// `doc` is not owned and outlives the content.
+    explicit Configure(IDocAccessor* doc, QWidget* parent = nullptr);
 
     /// Builds list and panels anew from the document; earlier removals are taken over.
-    void initialise();
+    void load() override;
 
     /// Replaces the stored device sets by the ones shown.
-    void store() const;
+    void store() override;
 
     /// Takes every removed device back into its set; the document stays as it is.
-    void reset();
-
-Q_SIGNALS:
-    /// True when every set is supported.
-    void nextButtonEnabled(bool enable);
+    void reset() override;
 
 public Q_SLOTS:
     /// Shows the panel of the current row.
@@ -41,13 +32,8 @@ public Q_SLOTS:
     void deviceRemoveStatusChanged();
 
 private:
-    void layOut();
+    void buildLayout();
     void addTexts(QVBoxLayout* layout);
-    void addSets();
 
-    IDocAccessor* m_doc;
-    RoomGroupPanels* m_panelsView;
-    RoomGroupList* m_groupList;
-    QStackedWidget* m_stack;
-    QList<DeviceSet*> m_sets; ///< one per row, in list order; owned by the stack
+    RoomGroupPanels* m_panels;
 };

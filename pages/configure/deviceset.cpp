@@ -14,18 +14,10 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include <array>
-
 namespace {
 
-constexpr int addressColumn = 3;
-constexpr int removeColumn = 5;
-constexpr std::array textColumns = {0, 2, 3, 4};
 constexpr int hubStretch = 1;
 constexpr int peripheralStretch = 3;
-
-constexpr std::array<std::pair<int, int>, 6> columnWidths = {
-    {{0, 200}, {1, 25}, {2, 70}, {4, 50}, {5, 60}, {6, 20}}};
 
 bool isSupported(const DeviceCounts& counts)
 {
@@ -34,50 +26,28 @@ bool isSupported(const DeviceCounts& counts)
            counts.controllers <= DeviceCounts::maxControllers;
 }
 
-void paintRow(QTreeWidgetItem* row, bool removed)
-{
-    for (const int column : textColumns) {
-        row->setForeground(column, removed ? RemovedTextDelegate::textColor : QColor(Qt::black));
-    }
-}
-
-void drawRemovedRowsReadably(DeviceTable* table)
-{
-    auto* delegate = new RemovedTextDelegate(table);
-    for (const int column : textColumns) {
-        table->setItemDelegateForColumn(column, delegate);
-    }
-}
-
 } // namespace
 
-DeviceSet::DeviceSet(RoomGroup group, IDocAccessor* doc, QWidget* parent)
-    : QWidget(parent)
-    , m_group(std::move(group))
-    , m_doc(doc)
+DeviceSet::DeviceSet(const RoomGroup& group, RoomDevices& devices, IDocAccessor* doc,
+                     QWidget* parent)
+    : RoomGroupPanel(group, doc, parent)
+    , m_devices(devices.in(group.rooms))
 {
-}
-
-void DeviceSet::fill(RoomDevices& devices)
-{
-    m_devices = devices.in(m_group.rooms);
     QStringList addresses;
     for (const DeviceEntry& device : std::as_const(m_devices)) {
         addresses.append(device.ipAddress);
     }
-    m_removed = removedDevices(*m_doc, m_group.number, m_group.sceneNumber, addresses);
+    m_removed = removedDevices(*doc, group.number, group.sceneNumber, addresses);
     count();
 }
 
-void DeviceSet::buildLists(QWidget* previous)
+void DeviceSet::createLists(QWidget* previous)
 {
-    if (m_summaryTable == nullptr) {
-        createWidgets();
-        layOut();
-        chainTabOrder(previous);
-        addRows();
-        count();
-    }
+    createWidgets();
+    buildLayout();
+    chainTabOrder(previous);
+    addRows();
+    count();
 }
 
 void DeviceSet::createWidgets()
@@ -93,34 +63,24 @@ void DeviceSet::createWidgets()
     m_summaryTable->setFixedHeight(m_summaryTable->header()->sizeHint().height() +
                                    m_summaryTable->sizeHintForRow(0) +
                                    2 * m_summaryTable->frameWidth());
-    m_hubTable = createTable(QStringLiteral("hubTable"), tr("PX-HB"));
-    m_peripheralTable = createTable(QStringLiteral("peripheralTable"), tr("Peripheral"));
+    m_hubTable = createDeviceTable(QStringLiteral("hubTable"), tr("PX-HB"));
+    m_peripheralTable = createDeviceTable(QStringLiteral("peripheralTable"), tr("Peripheral"));
 }
 
-DeviceTable* DeviceSet::createTable(const QString& name, const QString& accessibleName)
+DeviceTable* DeviceSet::createDeviceTable(const QString& name, const QString& title)
 {
-    auto* table = new DeviceTable({tr("Hostname"), QString(), tr("Model"), tr("IP Address"),
-                                   tr("Room"), QString(), QString()},
-                                  addressColumn, this);
-    table->setObjectName(name);
-    table->setAccessibleName(accessibleName);
-    for (const auto& [column, width] : columnWidths) {
-        table->setColumnWidth(column, width);
+    DeviceTable* table = createTable(name, title, QString());
+    auto* delegate = new RemovedTextDelegate(table);
+    for (const int column : textColumns) {
+        table->setItemDelegateForColumn(column, delegate);
     }
-    drawRemovedRowsReadably(table);
-    table->setSortingEnabled(true);
-    connect(table, SIGNAL(identifyClicked(QString)), this, SLOT(identifyButtonClicked(QString)));
     return table;
 }
 
-void DeviceSet::layOut()
+void DeviceSet::buildLayout()
 {
-    auto* thumbnail = new QLabel(this);
-    thumbnail->setObjectName(QStringLiteral("thumbnailLabel"));
-    thumbnail->setAccessibleName(tr("Layout %1").arg(m_group.sceneNumber));
-    thumbnail->setPixmap(m_group.thumbnail);
     auto* top = new QHBoxLayout;
-    top->addWidget(thumbnail, 0, Qt::AlignTop);
+    top->addWidget(createThumbnail(), 0, Qt::AlignTop);
     top->addWidget(m_summaryTable, 1, Qt::AlignTop);
 
     auto* layout = new QVBoxLayout(this);
@@ -146,21 +106,27 @@ void DeviceSet::addRows()
     QList<QStringList> peripherals;
     for (const DeviceEntry& device : std::as_const(m_devices)) {
         auto& rows = isHub(device.modelName) ? hubs : peripherals;
-        rows.append({device.label, QString(), device.modelName, device.ipAddress,
-                     QString::number(device.roomNumber)});
+        rows.append(rowTexts(device));
     }
     m_hubTable->setRows(hubs, [this](QTreeWidgetItem* row) { addRemoveButton(m_hubTable, row); });
     m_peripheralTable->setRows(
         peripherals, [this](QTreeWidgetItem* row) { addRemoveButton(m_peripheralTable, row); });
 }
 
+void DeviceSet::paintRow(QTreeWidgetItem* row, bool removed)
+{
+    for (const int column : textColumns) {
+        row->setForeground(column, removed ? RemovedTextDelegate::textColor : QColor(Qt::black));
+    }
+}
+
 void DeviceSet::addRemoveButton(DeviceTable* table, QTreeWidgetItem* row)
 {
     const bool removed = m_removed.contains(table->addressOf(row));
     auto* button = new RemoveButton(table);
-    button->setDevice(row->text(DeviceTable::labelColumn));
+    button->setDevice(row->text(DeviceTable::LabelColumn));
     button->setRemoved(removed);
-    table->setItemWidget(row, removeColumn, button);
+    table->setItemWidget(row, ChoiceColumn, button);
     if (removed) {
         paintRow(row, removed);
     }
@@ -211,17 +177,12 @@ void DeviceSet::reset()
     count();
 }
 
-void DeviceSet::store() const
+void DeviceSet::store()
 {
-    for (const DeviceEntry& device : m_devices) {
-        addToDeviceSet(*m_doc, m_group.number, m_group.sceneNumber, device.ipAddress,
+    for (const DeviceEntry& device : std::as_const(m_devices)) {
+        addToDeviceSet(doc(), group().number, group().sceneNumber, device.ipAddress,
                        m_removed.contains(device.ipAddress));
     }
-}
-
-void DeviceSet::identifyButtonClicked(const QString& ip)
-{
-    identifyDevice(*m_doc, ip);
 }
 
 void DeviceSet::removeButtonClicked(bool on)
@@ -229,7 +190,7 @@ void DeviceSet::removeButtonClicked(bool on)
     QTreeWidgetItem* row = m_rows.value(qobject_cast<RemoveButton*>(sender()));
     if (row != nullptr) {
         paintRow(row, on);
-        const QString address = row->text(addressColumn);
+        const QString address = row->text(AddressColumn);
         if (on) {
             m_removed.insert(address);
         } else {

@@ -1,15 +1,14 @@
 #pragma once
 
 #include "devicequeries.h"
-#include "roomgroup.h"
+#include "roomgrouppanel.h"
 
 #include <QHash>
 #include <QList>
 #include <QSet>
-#include <QWidget>
 
-class DeviceTable;
-class IDocAccessor;
+#include <array>
+
 class QTreeWidget;
 class QTreeWidgetItem;
 class RemoveButton;
@@ -18,54 +17,49 @@ struct DeviceCounts;
 
 /// The panel of one combined room of one layout: the devices that stand in its rooms, each with a
 /// button that takes it out of this set or back into it, and their counts.
-///
-/// What is in the set is kept apart from the lists. They are built when the panel is first shown,
-/// so that a page with many layouts opens at once; validity and storing need no list.
-class DeviceSet : public QWidget
+class DeviceSet : public RoomGroupPanel
 {
     Q_OBJECT
 
 public:
-    /// `doc` is not owned and outlives the panel.
-    DeviceSet(RoomGroup group, IDocAccessor* doc, QWidget* parent);
-
     /// Takes in the devices of the rooms; those removed according to the document stay removed.
-    /// Called once, before anything else.
-    void fill(RoomDevices& devices);
-
-    /// Builds the lists unless they are there; the Tab key reaches them after `previous`. Called
-    /// before the panel is shown: rows are added to lists that are not visible yet.
-    void buildLists(QWidget* previous);
+    /// `doc` is not owned and outlives the panel.
+    DeviceSet(const RoomGroup& group, RoomDevices& devices, IDocAccessor* doc, QWidget* parent);
 
     /// True while the devices in the set are not more than a conference system supports.
-    bool isValid() const;
+    bool isValid() const override;
 
     /// Takes every removed device back.
-    void reset();
+    void reset() override;
 
-    /// Adds a record for every device, removed or not, in the order in which they were filled in.
-    void store() const;
+    /// Adds a record for every device, removed or not, in the order in which they were taken in.
+    void store() override;
 
 Q_SIGNALS:
     /// The set has become valid or stopped being so.
     void deviceRemoveStatusChanged();
 
 public Q_SLOTS:
-    void identifyButtonClicked(const QString& ip);
     void removeButtonClicked(bool on);
 
+protected:
+    void createLists(QWidget* previous) override;
+
 private:
+    /// What tells a removed device by its colour.
+    static constexpr std::array<int, 4> textColumns{DeviceTable::LabelColumn, ModelColumn,
+                                                    AddressColumn, RoomColumn};
+
     void createWidgets();
-    DeviceTable* createTable(const QString& name, const QString& accessibleName);
-    void layOut();
+    DeviceTable* createDeviceTable(const QString& name, const QString& title);
+    void buildLayout();
     void chainTabOrder(QWidget* previous);
     void addRows();
+    static void paintRow(QTreeWidgetItem* row, bool removed);
     void addRemoveButton(DeviceTable* table, QTreeWidgetItem* row);
     void count();
     void showCounts(const DeviceCounts& counts);
 
-    RoomGroup m_group;
-    IDocAccessor* m_doc;
     QList<DeviceEntry> m_devices; ///< room by room, in document order within a room
     QSet<QString> m_removed;      ///< by address
     bool m_valid = true;

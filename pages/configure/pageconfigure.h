@@ -2,8 +2,6 @@
 
 #include "steppage.h"
 
-class Configure;
-
 /// Frame of the device set step.
 class PageConfigure : public StepPage
 {
@@ -11,12 +9,4 @@ class PageConfigure : public StepPage
 
 public:
     PageConfigure(IPageController* controller, IDocAccessor* doc, QWidget* parent);
-
-protected:
-    void load() override;
-    void store() override;
-    void reset() override;
-
-private:
-    Configure* m_content;
 };

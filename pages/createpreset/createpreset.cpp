@@ -10,10 +10,14 @@
 
 namespace {
 
-constexpr int nameColumn = 3;
 constexpr int numberWidth = 15;
 constexpr int layoutWidth = 25;
 constexpr int gapBelowTexts = 10;
+
+enum Column
+{
+    NameColumn = RoomGroupList::RoomColumn + 1
+};
 
 } // namespace
 
@@ -27,11 +31,10 @@ PresetNameEdit::PresetNameEdit(const QString& name, QWidget* parent)
 }
 
 CreatePreset::CreatePreset(IDocAccessor* doc, QWidget* parent)
-    : QWidget(parent)
-    , m_doc(doc)
+    : StepContent(doc, parent)
 {
     createWidgets();
-    layOut();
+    buildLayout();
     connect(m_groupList, SIGNAL(itemSelectionChanged()), this, SLOT(deviceSetSelected()));
 }
 
@@ -45,7 +48,7 @@ void CreatePreset::createWidgets()
     m_thumbnail->setAccessibleName(tr("Selected layout"));
 }
 
-void CreatePreset::layOut()
+void CreatePreset::buildLayout()
 {
     auto* listColumn = new QVBoxLayout;
     listColumn->addWidget(titleLabel(tr("Select a room combination"), m_groupList));
@@ -64,12 +67,12 @@ void CreatePreset::layOut()
     layout->addLayout(row, 1);
 }
 
-void CreatePreset::initialise()
+void CreatePreset::load()
 {
-    m_groups = roomGroups(*m_doc);
+    m_groups = roomGroups(doc());
     m_groupList->setGroups(m_groups);
     addNameFields();
-    m_groupList->selectRow(0);
+    m_groupList->selectGroup(0);
     deviceSetSelected();
 }
 
@@ -77,9 +80,9 @@ void CreatePreset::addNameFields()
 {
     m_nameFields.clear();
     QWidget* previous = m_groupList;
-    for (qsizetype row = 0; row < m_groups.size(); ++row) {
-        PresetNameEdit* field = nameField(m_groups.at(row));
-        m_groupList->setItemWidget(m_groupList->topLevelItem(int(row)), nameColumn, field);
+    for (qsizetype index = 0; index < m_groups.size(); ++index) {
+        PresetNameEdit* field = nameField(m_groups.at(index));
+        m_groupList->setItemWidget(m_groupList->topLevelItem(int(index)), NameColumn, field);
         // Fields made after the page's buttons would be reached after them.
         setTabOrder(previous, field);
         previous = field;
@@ -89,19 +92,19 @@ void CreatePreset::addNameFields()
 
 PresetNameEdit* CreatePreset::nameField(const RoomGroup& group)
 {
-    const auto name = presetName(*m_doc, group.number, group.sceneNumber);
+    const auto name = presetName(doc(), group.number, group.sceneNumber);
     auto* field = new PresetNameEdit(name.value_or(QString()), m_groupList);
     field->setAccessibleName(tr("Preset name of rooms %1 in layout %2")
                                  .arg(group.roomText(), QString::number(group.sceneNumber)));
     return field;
 }
 
-void CreatePreset::store() const
+void CreatePreset::store()
 {
-    clearPresets(*m_doc);
-    for (qsizetype row = 0; row < m_groups.size(); ++row) {
-        const RoomGroup& group = m_groups.at(row);
-        addPreset(*m_doc, group.number, group.sceneNumber, m_nameFields.at(row)->text());
+    clearPresets(doc());
+    for (qsizetype index = 0; index < m_groups.size(); ++index) {
+        const RoomGroup& group = m_groups.at(index);
+        addPreset(doc(), group.number, group.sceneNumber, m_nameFields.at(index)->text());
     }
 }
 
@@ -115,5 +118,5 @@ void CreatePreset::reset()
 void CreatePreset::deviceSetSelected()
 {
     // Beyond the groups when none is current, or while the list is being replaced.
-    m_thumbnail->setPixmap(m_groups.value(m_groupList->currentRow()).thumbnail);
+    m_thumbnail->setPixmap(m_groups.value(m_groupList->currentGroup()).thumbnail);
 }

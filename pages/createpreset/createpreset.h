@@ -1,12 +1,11 @@
 #pragma once
 
 #include "roomgroup.h"
+#include "stepcontent.h"
 
 #include <QLineEdit>
 #include <QList>
-#include <QWidget>
 
-class IDocAccessor;
 class QLabel;
 class RoomGroupList;
 
@@ -23,22 +22,22 @@ public:
 
 /// Content of the preset naming step: every combined room of every layout with a field for the
 /// name of its preset, beside the picture of the selected room's layout.
-class CreatePreset : public QWidget
+class CreatePreset : public StepContent
 {
     Q_OBJECT
 
 public:
-    /// `doc` is not owned and outlives the widget.
-    CreatePreset(IDocAccessor* doc, QWidget* parent);
+    /// `doc` is not owned and outlives the content.
+    explicit CreatePreset(IDocAccessor* doc, QWidget* parent = nullptr);
 
     /// Lists the combined rooms anew, with the names stored for them.
-    void initialise();
+    void load() override;
 
     /// Replaces the stored presets by the listed ones; empty names are stored as they are.
-    void store() const;
+    void store() override;
 
     /// Empties every name field.
-    void reset();
+    void reset() override;
 
 public Q_SLOTS:
     /// Shows the layout that the current row belongs to.
@@ -46,11 +45,10 @@ public Q_SLOTS:
 
 private:
     void createWidgets();
-    void layOut();
+    void buildLayout();
     void addNameFields();
     PresetNameEdit* nameField(const RoomGroup& group);
 
-    IDocAccessor* m_doc;
     RoomGroupList* m_groupList = nullptr;
     QLabel* m_thumbnail = nullptr;
     QList<RoomGroup> m_groups;

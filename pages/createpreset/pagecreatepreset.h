@@ -2,8 +2,6 @@
 
 #include "steppage.h"
 
-class CreatePreset;
-
 /// Frame of the preset naming step.
 class PageCreatePreset : public StepPage
 {
@@ -11,12 +9,4 @@ class PageCreatePreset : public StepPage
 
 public:
     PageCreatePreset(IPageController* controller, IDocAccessor* doc, QWidget* parent);
-
-protected:
-    void load() override;
-    void store() override;
-    void reset() override;
-
-private:
-    CreatePreset* m_content;
 };

@@ -19,35 +19,38 @@ namespace {
 constexpr int gap = 1;
 constexpr int cellSize = 48;
 constexpr int maxLayouts = 10;
-constexpr int numberColumn = 0;
-constexpr int numberColumnWidth = 15;
-constexpr int layoutColumn = 1;
+constexpr int numberWidth = 15;
 constexpr QSize rowSize(66, 66);
 constexpr QSize thumbnailSize(64, 64);
 
+enum Column
+{
+    NumberColumn,
+    LayoutColumn
+};
+
 int numberOf(const QTreeWidgetItem* row)
 {
-    return row->text(numberColumn).toInt();
+    return row->text(NumberColumn).toInt();
 }
 
 void setNumber(QTreeWidgetItem* row, int number)
 {
-    row->setText(numberColumn, QString::number(number));
+    row->setText(NumberColumn, QString::number(number));
 }
 
 } // namespace
 
-CreateScene::CreateScene(IDocAccessor& doc, QWidget* parent)
-    : QWidget(parent)
-    , m_doc(doc)
+CreateScene::CreateScene(IDocAccessor* doc, QWidget* parent)
+    : StepContent(doc, parent)
     , m_tessel(new Tessel(this, gap, cellSize, false))
 {
     createWidgets();
-    layOut();
+    buildLayout();
     connect(m_addButton, SIGNAL(clicked()), this, SLOT(addButtonClicked()));
 }
 
-void CreateScene::initialise()
+void CreateScene::load()
 {
     m_tessel->clearAll();
     clearList();
@@ -58,17 +61,17 @@ void CreateScene::initialise()
 
 void CreateScene::store()
 {
-    clearLayouts(m_doc);
-    for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
-        QTreeWidgetItem* row = m_list->topLevelItem(i);
+    clearLayouts(doc());
+    for (int index = 0; index < m_list->topLevelItemCount(); ++index) {
+        QTreeWidgetItem* row = m_list->topLevelItem(index);
         const SceneItem* item = itemOf(row);
-        addLayout(m_doc, {numberOf(row), item->roomGroup(), item->thumbnail()});
+        addLayout(doc(), {numberOf(row), item->roomGroup(), item->thumbnail()});
     }
 }
 
 void CreateScene::reset()
 {
-    clearLayouts(m_doc);
+    clearLayouts(doc());
     clearList();
     updateButtons();
 }
@@ -92,7 +95,7 @@ void CreateScene::removeButtonClicked()
 {
     auto* item = qobject_cast<SceneItem*>(sender());
     const auto found = m_rows.constFind(item);
-    if (found == m_rows.constEnd()) {
+    if (found == m_rows.cend()) {
         return;
     }
     QTreeWidgetItem* removed = *found;
@@ -136,11 +139,11 @@ void CreateScene::createWidgets()
     m_list->setHeaderLabels({tr("No."), tr("Layout")});
     m_list->setRootIsDecorated(false);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_list->setColumnWidth(numberColumn, numberColumnWidth);
+    m_list->setColumnWidth(NumberColumn, numberWidth);
     m_focusedRow = new FocusedRow(m_list);
 }
 
-void CreateScene::layOut()
+void CreateScene::buildLayout()
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -167,7 +170,7 @@ void CreateScene::layOut()
 
 void CreateScene::loadRooms()
 {
-    for (const RoomInfo& room : drawnRooms(m_doc)) {
+    for (const RoomInfo& room : drawnRooms(doc())) {
         m_tessel->setRoom(room.number, room.positionList);
     }
     m_tessel->createLinkButtons();
@@ -176,9 +179,9 @@ void CreateScene::loadRooms()
 
 void CreateScene::loadLayouts()
 {
-    const int count = layoutCount(m_doc);
+    const int count = layoutCount(doc());
     for (int number = 1; number <= count; ++number) {
-        if (const auto layout = layoutAt(m_doc, number)) {
+        if (const auto layout = layoutAt(doc(), number)) {
             appendRow(*layout);
         }
     }
@@ -195,10 +198,10 @@ void CreateScene::appendRow(const SceneInfo& layout)
     QWidget* above = lastTabStop();
     auto* row = new QTreeWidgetItem(m_list);
     setNumber(row, layout.number);
-    row->setSizeHint(layoutColumn, rowSize);
+    row->setSizeHint(LayoutColumn, rowSize);
     auto* item = new SceneItem(layout.thumbnail, layout.roomGroup);
     connect(item, SIGNAL(removeClicked()), this, SLOT(removeButtonClicked()));
-    m_list->setItemWidget(row, layoutColumn, item);
+    m_list->setItemWidget(row, LayoutColumn, item);
     setTabOrder(above, item->tabStop());
     m_focusedRow->watch(item->tabStop());
     m_rows.insert(item, row);
@@ -214,14 +217,14 @@ QWidget* CreateScene::lastTabStop() const
 
 SceneItem* CreateScene::itemOf(QTreeWidgetItem* row) const
 {
-    return static_cast<SceneItem*>(m_list->itemWidget(row, layoutColumn));
+    return static_cast<SceneItem*>(m_list->itemWidget(row, LayoutColumn));
 }
 
 QTreeWidgetItem* CreateScene::rowOf(const QString& roomGroup) const
 {
-    for (auto it = m_rows.begin(); it != m_rows.end(); ++it) {
-        if (it.key()->roomGroup() == roomGroup) {
-            return it.value();
+    for (auto row = m_rows.cbegin(); row != m_rows.cend(); ++row) {
+        if (row.key()->roomGroup() == roomGroup) {
+            return row.value();
         }
     }
     return nullptr;

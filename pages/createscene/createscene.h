@@ -1,10 +1,10 @@
 #pragma once
 
+#include "stepcontent.h"
+
 #include <QMap>
-#include <QWidget>
 
 class FocusedRow;
-class IDocAccessor;
 class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -13,25 +13,21 @@ class Tessel;
 struct SceneInfo;
 
 /// Step 4: the room layouts. The picker on the left combines rooms; "Add Layout" puts what it
-/// shows into the numbered list, up to ten different layouts.
-class CreateScene : public QWidget
+/// shows into the numbered list, up to ten different layouts. The wizard goes on with one or more.
+class CreateScene : public StepContent
 {
     Q_OBJECT
 
 public:
-    /// `doc` is not owned and outlives the page.
-    CreateScene(IDocAccessor& doc, QWidget* parent);
+    /// `doc` is not owned and outlives the content.
+    explicit CreateScene(IDocAccessor* doc, QWidget* parent = nullptr);
 
     /// Shows the drawn rooms, unlinked, and the stored layouts.
-    void initialise();
+    void load() override;
     /// Replaces the stored layouts by those listed.
-    void store();
+    void store() override;
     /// Removes all layouts, the stored ones at once. The picker keeps its links.
-    void reset();
-
-Q_SIGNALS:
-    /// Whether the wizard may go on: there is a layout.
-    void nextButtonEnabled(bool enable);
+    void reset() override;
 
 private Q_SLOTS:
     void addButtonClicked();
@@ -39,7 +35,7 @@ private Q_SLOTS:
 
 private:
     void createWidgets();
-    void layOut();
+    void buildLayout();
     void loadRooms();
     void loadLayouts();
     void clearList();
@@ -50,7 +46,6 @@ private:
     QTreeWidgetItem* rowOf(const QString& roomGroup) const;
     void updateButtons();
 
-    IDocAccessor& m_doc;
     Tessel* m_tessel;
     QPushButton* m_addButton = nullptr;
     QTreeWidget* m_list = nullptr;

@@ -2,8 +2,6 @@
 
 #include "steppage.h"
 
-class CreateScene;
-
 /// The frame of step 4. Going back stores nothing: layouts live in the list until Next.
 class PageCreateScene : public StepPage
 {
@@ -11,12 +9,4 @@ class PageCreateScene : public StepPage
 
 public:
     PageCreateScene(IPageController* controller, IDocAccessor* doc, QWidget* parent);
-
-protected:
-    void load() override;
-    void store() override;
-    void reset() override;
-
-private:
-    CreateScene* m_content;
 };

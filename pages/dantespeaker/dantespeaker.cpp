@@ -1,28 +1,22 @@
 #include "dantespeaker.h"
 
-#include "roomdevices.h"
-#include "roomgroup.h"
 #include "roomgrouplist.h"
 #include "roomgrouppanels.h"
 #include "speakerposition.h"
 #include "textlabel.h"
 
 #include <QLabel>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 DanteSpeaker::DanteSpeaker(IDocAccessor* doc, QWidget* parent)
-    : QWidget(parent)
-    , m_doc(doc)
-    , m_panelsView(new RoomGroupPanels(QStringLiteral("speakerPositionStack"), this))
-    , m_groupList(m_panelsView->list())
-    , m_stack(m_panelsView->stack())
+    : StepContent(doc, parent)
+    , m_panels(new RoomGroupPanels(QStringLiteral("speakerPositionStack"), this))
 {
-    layOut();
-    connect(m_groupList, SIGNAL(itemSelectionChanged()), this, SLOT(deviceSetSelected()));
+    buildLayout();
+    connect(m_panels->list(), SIGNAL(itemSelectionChanged()), this, SLOT(deviceSetSelected()));
 }
 
-void DanteSpeaker::layOut()
+void DanteSpeaker::buildLayout()
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -31,49 +25,27 @@ void DanteSpeaker::layOut()
                                 this));
     layout->addWidget(
         textLabel(tr("NOTE: For mono use only, choose Left for all speakers."), this));
-    layout->addWidget(m_panelsView, 1);
+    layout->addWidget(m_panels, 1);
 }
 
-void DanteSpeaker::initialise()
+void DanteSpeaker::load()
 {
-    m_panels.clear();
-    m_panelsView->clear();
-    addPanels();
-    m_groupList->selectRow(0);
+    m_panels->load(doc(), [this](const RoomGroup& group, RoomDevices& devices, QWidget* parent) {
+        return new SpeakerPosition(group, devices, &doc(), parent);
+    });
 }
 
-void DanteSpeaker::addPanels()
+void DanteSpeaker::store()
 {
-    const QList<RoomGroup> groups = roomGroups(*m_doc);
-    RoomDevices devices(*m_doc);
-    for (const RoomGroup& group : groups) {
-        auto* panel = new SpeakerPosition(group, m_doc, m_stack);
-        panel->fill(devices);
-        m_stack->addWidget(panel);
-        m_panels.append(panel);
-    }
-    m_groupList->setGroups(groups);
-}
-
-void DanteSpeaker::store() const
-{
-    for (const SpeakerPosition* panel : m_panels) {
-        panel->store();
-    }
+    m_panels->store();
 }
 
 void DanteSpeaker::reset()
 {
-    for (SpeakerPosition* panel : std::as_const(m_panels)) {
-        panel->reset();
-    }
+    m_panels->reset();
 }
 
 void DanteSpeaker::deviceSetSelected()
 {
-    const int row = m_groupList->currentRow();
-    if (row >= 0 && row < m_panels.size()) {
-        m_panels.at(row)->buildList(m_groupList);
-        m_stack->setCurrentWidget(m_panels.at(row));
-    }
+    m_panels->showCurrentPanel();
 }

@@ -1,44 +1,34 @@
 #pragma once
 
-#include <QList>
-#include <QWidget>
+#include "stepcontent.h"
 
-class IDocAccessor;
-class QStackedWidget;
-class RoomGroupList;
 class RoomGroupPanels;
-class SpeakerPosition;
 
 /// Content of the speaker position step: every combined room of every layout, with a panel that
 /// tells for each of its loudspeakers whether it stands on the left or on the right.
-class DanteSpeaker : public QWidget
+class DanteSpeaker : public StepContent
 {
     Q_OBJECT
 
 public:
-    /// `doc` is not owned and outlives the widget.
-    DanteSpeaker(IDocAccessor* doc, QWidget* parent);
+    /// `doc` is not owned and outlives the content.
+    explicit DanteSpeaker(IDocAccessor* doc, QWidget* parent = nullptr);
 
     /// Builds list and panels anew from the document; stored positions are taken over.
-    void initialise();
+    void load() override;
 
     /// Writes every position into its device set record.
-    void store() const;
+    void store() override;
 
     /// Puts every speaker of every panel to the left.
-    void reset();
+    void reset() override;
 
 public Q_SLOTS:
     /// Shows the panel of the current row.
     void deviceSetSelected();
 
 private:
-    void layOut();
-    void addPanels();
+    void buildLayout();
 
-    IDocAccessor* m_doc;
-    RoomGroupPanels* m_panelsView;
-    RoomGroupList* m_groupList;
-    QStackedWidget* m_stack;
-    QList<SpeakerPosition*> m_panels; ///< one per row, in list order; owned by the stack
+    RoomGroupPanels* m_panels;
 };

@@ -2,8 +2,6 @@
 
 #include "steppage.h"
 
-class DanteSpeaker;
-
 /// Frame of the speaker position step.
 class PageDanteSpeaker : public StepPage
 {
@@ -11,12 +9,4 @@ class PageDanteSpeaker : public StepPage
 
 public:
     PageDanteSpeaker(IPageController* controller, IDocAccessor* doc, QWidget* parent);
-
-protected:
-    void load() override;
-    void store() override;
-    void reset() override;
-
-private:
-    DanteSpeaker* m_content;
 };

@@ -10,80 +10,50 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include <array>
-
 namespace {
-
-constexpr int addressColumn = 3;
-constexpr int positionColumn = 5;
-
-constexpr std::array<std::pair<int, int>, 6> columnWidths = {
-    {{0, 200}, {1, 25}, {2, 70}, {4, 50}, {5, 60}, {6, 20}}};
 
 constexpr QLatin1String left("L");
 constexpr QLatin1String right("R");
 
 } // namespace
 
-SpeakerPosition::SpeakerPosition(RoomGroup group, IDocAccessor* doc, QWidget* parent)
-    : QWidget(parent)
-    , m_group(std::move(group))
-    , m_doc(doc)
+SpeakerPosition::SpeakerPosition(const RoomGroup& group, RoomDevices& devices, IDocAccessor* doc,
+                                 QWidget* parent)
+    : RoomGroupPanel(group, doc, parent)
 {
-}
-
-void SpeakerPosition::fill(RoomDevices& devices)
-{
-    for (const DeviceEntry& device : devices.in(m_group.rooms)) {
-        if (deviceClass(device.modelName) != DeviceClass::Speaker) {
-            continue;
-        }
-        const DeviceSetInfo record =
-            deviceSetRecord(*m_doc, m_group.number, m_group.sceneNumber, device.ipAddress)
-                .value_or(DeviceSetInfo());
-        if (!record.remove) {
-            const bool isRight = record.speakerPosition == right;
-            m_speakers.append({device, isRight ? right : left});
+    for (const DeviceEntry& device : devices.in(group.rooms)) {
+        if (deviceClass(device.modelName) == DeviceClass::Speaker) {
+            addSpeaker(device);
         }
     }
 }
 
-void SpeakerPosition::buildList(QWidget* previous)
+void SpeakerPosition::addSpeaker(const DeviceEntry& device)
 {
-    if (m_speakerTable == nullptr) {
-        createWidgets();
-        layOut();
-        // The buttons and boxes in the rows chain themselves behind the list when the rows come.
-        setTabOrder(previous, m_speakerTable);
-        addRows();
+    const DeviceSetInfo record =
+        deviceSetRecord(doc(), group().number, group().sceneNumber, device.ipAddress)
+            .value_or(DeviceSetInfo());
+    if (!record.remove) {
+        const bool isRight = record.speakerPosition == right;
+        m_speakers.append({device, isRight ? right : left});
     }
 }
 
-void SpeakerPosition::createWidgets()
+void SpeakerPosition::createLists(QWidget* previous)
 {
-    m_speakerTable = new DeviceTable({tr("Hostname"), QString(), tr("Model"), tr("IP Address"),
-                                      tr("Room"), tr("Position"), QString()},
-                                     addressColumn, this);
-    m_speakerTable->setObjectName(QStringLiteral("speakerTable"));
-    m_speakerTable->setAccessibleName(tr("Speaker Position"));
-    for (const auto& [column, width] : columnWidths) {
-        m_speakerTable->setColumnWidth(column, width);
-    }
-    m_speakerTable->setSortingEnabled(true);
-    connect(m_speakerTable, SIGNAL(identifyClicked(QString)), this,
-            SLOT(identifyButtonClicked(QString)));
+    m_speakerTable =
+        createTable(QStringLiteral("speakerTable"), tr("Speaker Position"), tr("Position"));
+    buildLayout();
+    // The buttons and boxes in the rows chain themselves behind the list when the rows come.
+    setTabOrder(previous, m_speakerTable);
+    addRows();
 }
 
-void SpeakerPosition::layOut()
+void SpeakerPosition::buildLayout()
 {
-    auto* thumbnail = new QLabel(this);
-    thumbnail->setObjectName(QStringLiteral("thumbnailLabel"));
-    thumbnail->setAccessibleName(tr("Layout %1").arg(m_group.sceneNumber));
-    thumbnail->setPixmap(m_group.thumbnail);
-
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(thumbnail);
+    layout->addWidget(createThumbnail());
     layout->addWidget(titleLabel(tr("Speaker Position"), m_speakerTable));
     layout->addWidget(m_speakerTable, 1);
 }
@@ -94,8 +64,7 @@ void SpeakerPosition::addRows()
     QHash<QString, qsizetype> indexes;
     for (qsizetype index = 0; index < m_speakers.size(); ++index) {
         const DeviceEntry& device = m_speakers.at(index).device;
-        rows.append({device.label, QString(), device.modelName, device.ipAddress,
-                     QString::number(device.roomNumber)});
+        rows.append(rowTexts(device));
         indexes.insert(device.ipAddress, index);
     }
     m_speakerTable->setRows(rows, [this, &indexes](QTreeWidgetItem* row) {
@@ -111,7 +80,7 @@ void SpeakerPosition::addCombo(QTreeWidgetItem* row, qsizetype index)
     combo->setAccessibleName(tr("Position of %1").arg(speaker.device.label));
     combo->addItems({left, right});
     combo->setCurrentText(speaker.position);
-    m_speakerTable->setItemWidget(row, positionColumn, combo);
+    m_speakerTable->setItemWidget(row, ChoiceColumn, combo);
     m_combos.insert(combo, index);
     connect(combo, SIGNAL(currentTextChanged(QString)), this, SLOT(positionChosen(QString)));
 }
@@ -134,14 +103,9 @@ void SpeakerPosition::reset()
     }
 }
 
-void SpeakerPosition::store() const
+void SpeakerPosition::store()
 {
-    for (const auto& [device, position] : m_speakers) {
-        setSpeakerPosition(*m_doc, m_group.number, m_group.sceneNumber, device.ipAddress, position);
+    for (const auto& [device, position] : std::as_const(m_speakers)) {
+        setSpeakerPosition(doc(), group().number, group().sceneNumber, device.ipAddress, position);
     }
-}
-
-void SpeakerPosition::identifyButtonClicked(const QString& ip)
-{
-    identifyDevice(*m_doc, ip);
 }

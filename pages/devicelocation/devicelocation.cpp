@@ -23,20 +23,18 @@ namespace {
 
 constexpr int pictureGap = 1;
 constexpr int pictureCellSize = 13;
-constexpr int labelColumnWidth = 250;
-constexpr int identifyColumnWidth = 25;
+constexpr int labelWidth = 250;
+constexpr int identifyWidth = 25;
 
 enum Column
 {
-    LabelColumn,
-    IdentifyColumn,
-    ModelColumn,
+    ModelColumn = DeviceTable::IdentifyColumn + 1,
     AddressColumn,
     RoomColumn
 };
 
 /// A row that was changed may have moved to another place of a sorted table.
-void showCell(const QTreeWidgetItem& row, Column column)
+void showCell(const QTreeWidgetItem& row, int column)
 {
     QTreeWidget* table = row.treeWidget();
     table->scrollTo(table->indexFromItem(&row, column));
@@ -44,9 +42,8 @@ void showCell(const QTreeWidgetItem& row, Column column)
 
 } // namespace
 
-DeviceLocation::DeviceLocation(IDocAccessor& doc, QWidget* parent)
-    : QWidget(parent)
-    , m_doc(doc)
+DeviceLocation::DeviceLocation(IDocAccessor* doc, QWidget* parent)
+    : StepContent(doc, parent)
     , m_picture(new RoomEditor(this, pictureGap, pictureCellSize, true))
     , m_summary(new RoomSummary(this))
     , m_hubTable(createTable(QStringLiteral("hubTable"), tr("PX-HB")))
@@ -56,19 +53,19 @@ DeviceLocation::DeviceLocation(IDocAccessor& doc, QWidget* parent)
     m_picture->setAccessibleName(tr("Room design"));
     m_summary->setObjectName(QStringLiteral("summaryTable"));
     m_summary->setAccessibleName(tr("Devices per room"));
-    layOut();
+    buildLayout();
 }
 
-void DeviceLocation::reload()
+void DeviceLocation::load()
 {
-    m_rooms = roomCount(m_doc);
+    m_rooms = roomCount(doc());
     drawPicture();
     QList<DeviceEntry> hubs;
     QList<DeviceEntry> peripherals;
     QHash<QString, int> roomOfAddress;
-    const int devices = deviceCount(m_doc);
-    for (int i = 0; i < devices; ++i) {
-        if (const auto device = deviceAt(m_doc, i)) {
+    const int devices = deviceCount(doc());
+    for (int index = 0; index < devices; ++index) {
+        if (const auto device = deviceAt(doc(), index)) {
             (isHub(device->modelName) ? hubs : peripherals).append(*device);
             // Addresses find the first device that has them, here as in the document.
             if (!roomOfAddress.contains(device->ipAddress)) {
@@ -84,10 +81,10 @@ void DeviceLocation::reload()
     updateSummary();
 }
 
-void DeviceLocation::save()
+void DeviceLocation::store()
 {
     for (const Row& row : std::as_const(m_rows)) {
-        setDeviceRoom(m_doc, row.ipAddress, row.room->room());
+        setDeviceRoom(doc(), row.ipAddress, row.room->room());
     }
 }
 
@@ -129,7 +126,7 @@ void DeviceLocation::comboBoxRoomChanged(int /*index*/)
 
 void DeviceLocation::devItemDoubleClicked(QTreeWidgetItem* item, int column)
 {
-    if (column != LabelColumn) {
+    if (column != DeviceTable::LabelColumn) {
         return;
     }
     for (const Row& row : std::as_const(m_rows)) {
@@ -142,7 +139,7 @@ void DeviceLocation::devItemDoubleClicked(QTreeWidgetItem* item, int column)
 
 void DeviceLocation::identifyButtonClicked(const QString& ipAddress)
 {
-    identifyDevice(m_doc, ipAddress);
+    identifyDevice(doc(), ipAddress);
 }
 
 void DeviceLocation::deviceLabelIconClicked()
@@ -162,7 +159,7 @@ const DeviceLocation::Row* DeviceLocation::rowOfSender() const
     return found != m_rows.cend() ? &*found : nullptr;
 }
 
-/// A device that the document holds twice is in one room: save() goes row by row, and a second row
+/// A device that the document holds twice is in one room: store() goes row by row, and a second row
 /// must not take back what was chosen in the first.
 void DeviceLocation::chooseSameRoom(const Row& chosen)
 {
@@ -182,16 +179,16 @@ DeviceTable* DeviceLocation::createTable(const QString& name, const QString& acc
     table->setObjectName(name);
     table->setAccessibleName(accessibleName);
     table->setSortingEnabled(true);
-    table->setItemDelegateForColumn(LabelColumn, new DeviceLabelDelegate(table));
-    table->setColumnWidth(LabelColumn, labelColumnWidth);
-    table->setColumnWidth(IdentifyColumn, identifyColumnWidth);
+    table->setItemDelegateForColumn(DeviceTable::LabelColumn, new DeviceLabelDelegate(table));
+    table->setColumnWidth(DeviceTable::LabelColumn, labelWidth);
+    table->setColumnWidth(DeviceTable::IdentifyColumn, identifyWidth);
     connect(table, SIGNAL(identifyClicked(QString)), this, SLOT(identifyButtonClicked(QString)));
     connect(table, SIGNAL(itemDoubleClicked(QTreeWidgetItem*, int)), this,
             SLOT(devItemDoubleClicked(QTreeWidgetItem*, int)));
     return table;
 }
 
-void DeviceLocation::layOut()
+void DeviceLocation::buildLayout()
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -221,7 +218,7 @@ void DeviceLocation::addTable(QVBoxLayout* layout, const QString& title, DeviceT
 void DeviceLocation::drawPicture()
 {
     m_picture->clear();
-    for (const RoomInfo& room : drawnRooms(m_doc)) {
+    for (const RoomInfo& room : drawnRooms(doc())) {
         m_picture->setRoom(room.number, room.positionList);
     }
     m_picture->update();
@@ -251,7 +248,7 @@ DeviceLocation::Row DeviceLocation::decorate(DeviceTable* table, QTreeWidgetItem
     connect(row.icon, SIGNAL(iconClicked()), this, SLOT(deviceLabelIconClicked()));
     nameWidgets(row);
     updateRow(row);
-    table->setItemWidget(item, LabelColumn, row.icon);
+    table->setItemWidget(item, DeviceTable::LabelColumn, row.icon);
     table->setItemWidget(item, RoomColumn, combo);
     return row;
 }
@@ -268,7 +265,7 @@ void DeviceLocation::markRepeatedRows()
 
 void DeviceLocation::nameWidgets(const Row& row)
 {
-    const QString label = row.item->text(LabelColumn);
+    const QString label = row.item->text(DeviceTable::LabelColumn);
     row.icon->setDeviceLabel(label);
     row.room->setAccessibleName(tr("Room of %1").arg(label));
 }
@@ -299,12 +296,12 @@ void DeviceLocation::rename(const Row& row)
     if (row.room->room() == 0) {
         return;
     }
-    DeviceNameDialog dialog(row.item->text(LabelColumn), this);
+    DeviceNameDialog dialog(row.item->text(DeviceTable::LabelColumn), this);
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }
-    setDeviceLabel(m_doc, row.ipAddress, dialog.name());
+    setDeviceLabel(doc(), row.ipAddress, dialog.name());
     static_cast<DeviceTable*>(row.item->treeWidget())->setLabel(row.item, dialog.name());
     nameWidgets(row);
-    showCell(*row.item, LabelColumn);
+    showCell(*row.item, DeviceTable::LabelColumn);
 }

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "stepcontent.h"
+
 #include <QHash>
 #include <QList>
 #include <QString>
-#include <QWidget>
 
 class DeviceLabelEditIcon;
 class DeviceTable;
-class IDocAccessor;
 class QTreeWidgetItem;
 class QVBoxLayout;
 class RoomCombo;
@@ -17,27 +17,23 @@ struct DeviceEntry;
 
 /// Step 3: every found device is placed in one of the drawn rooms and may be renamed.
 ///
-/// The choices live in the combos until save(). A summary counts the devices per room and judges
-/// them by what one conference system serves.
-class DeviceLocation : public QWidget
+/// The choices live in the combos until store(). A summary counts the devices per room and judges
+/// them by what one conference system serves; the wizard goes on when no room is over its limits
+/// and some device is placed.
+class DeviceLocation : public StepContent
 {
     Q_OBJECT
 
 public:
-    /// `doc` is not owned and outlives the page.
-    DeviceLocation(IDocAccessor& doc, QWidget* parent);
+    /// `doc` is not owned and outlives the content.
+    explicit DeviceLocation(IDocAccessor* doc, QWidget* parent = nullptr);
 
-    /// Rebuilds everything from the document. Meant for a page that is not visible yet: filling
-    /// visible tables costs a layout per row.
-    void reload();
+    /// Rebuilds everything from the document.
+    void load() override;
     /// Writes the room of every device to the document.
-    void save();
+    void store() override;
     /// Takes every device out of its room.
-    void reset();
-
-Q_SIGNALS:
-    /// Whether the wizard may go on: no room is over its limits and some device is placed.
-    void nextButtonEnabled(bool enable);
+    void reset() override;
 
 private Q_SLOTS:
     void comboBoxRoomChanged(int index);
@@ -58,7 +54,7 @@ private:
     };
 
     DeviceTable* createTable(const QString& name, const QString& accessibleName);
-    void layOut();
+    void buildLayout();
     void addTable(QVBoxLayout* layout, const QString& title, DeviceTable* table, int stretch);
     void drawPicture();
     void fill(DeviceTable* table, const QList<DeviceEntry>& devices,
@@ -72,7 +68,6 @@ private:
     void updateSummary();
     void rename(const Row& row);
 
-    IDocAccessor& m_doc;
     RoomEditor* m_picture;
     RoomSummary* m_summary;
     DeviceTable* m_hubTable;

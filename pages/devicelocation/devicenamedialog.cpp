@@ -20,7 +20,7 @@ DeviceNameDialog::DeviceNameDialog(const QString& name, QWidget* parent)
 {
     setWindowTitle(tr("Change Name"));
     createWidgets();
-    layOut();
+    buildLayout();
     restrictEdits(name);
     connect(m_nameEdit, SIGNAL(textChanged(QString)), this, SLOT(nameChanged()));
     connect(m_okButton, SIGNAL(clicked()), this, SLOT(accept()));
@@ -60,7 +60,7 @@ void DeviceNameDialog::restrictEdits(const QString& name)
     connect(m_nameEdit, SIGNAL(textChanged(QString)), validator, SLOT(textShown(QString)));
 }
 
-void DeviceNameDialog::layOut()
+void DeviceNameDialog::buildLayout()
 {
     auto* label = new QLabel(tr("Enter device name"), this);
     label->setBuddy(m_nameEdit);

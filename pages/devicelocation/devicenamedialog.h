@@ -23,7 +23,7 @@ private Q_SLOTS:
 
 private:
     void createWidgets();
-    void layOut();
+    void buildLayout();
     void restrictEdits(const QString& name);
 
     QLineEdit* m_nameEdit = nullptr;

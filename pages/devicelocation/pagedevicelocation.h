@@ -2,8 +2,6 @@
 
 #include "steppage.h"
 
-class DeviceLocation;
-
 /// The frame of step 3. Going back stores as going on does, so that assignments survive a trip to
 /// the room design.
 class PageDeviceLocation : public StepPage
@@ -15,12 +13,4 @@ public:
 
 protected Q_SLOTS:
     void backButtonClicked() override;
-
-protected:
-    void load() override;
-    void store() override;
-    void reset() override;
-
-private:
-    DeviceLocation* m_content;
 };

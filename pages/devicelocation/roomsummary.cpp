@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int roomColumnWidth = 50;
+constexpr int roomWidth = 50;
 
 enum Column
 {
@@ -53,7 +53,7 @@ RoomSummary::RoomSummary(QWidget* parent)
     setHeaderLabels(
         {tr("Room"), tr("PX-HB"), tr("Microphone"), tr("Speaker"), tr("Controller"), QString()});
     setRootIsDecorated(false);
-    setColumnWidth(RoomColumn, roomColumnWidth);
+    setColumnWidth(RoomColumn, roomWidth);
     // A selected row would hide the colours that the table is read by.
     setSelectionMode(QAbstractItemView::NoSelection);
 }

@@ -15,53 +15,56 @@
 
 namespace {
 
-constexpr int addressColumn = 2;
-constexpr int statusColumn = 3;
-constexpr int hostNameWidth = 250;
+constexpr int labelWidth = 250;
 constexpr int identifyWidth = 25;
 constexpr int gapBelowTexts = 20;
 constexpr int sendSucceeded = 1;
 
+enum Column
+{
+    AddressColumn = DeviceTable::IdentifyColumn + 1,
+    StatusColumn
+};
+
 } // namespace
 
 Install::Install(IDocAccessor* doc, QWidget* parent)
-    : QWidget(parent)
-    , m_doc(doc)
+    : StepContent(doc, parent)
 {
     createWidgets();
-    layOut();
+    buildLayout();
     connect(m_hubTable, SIGNAL(identifyClicked(QString)), this,
             SLOT(identifyButtonClicked(QString)));
 }
 
-void Install::identifyButtonClicked(const QString& ip)
+void Install::identifyButtonClicked(const QString& ipAddress)
 {
-    identifyDevice(*m_doc, ip);
+    identifyDevice(doc(), ipAddress);
 }
 
 void Install::install()
 {
     // A status may be what the list is sorted by, so rows can move as soon as one is set.
     QList<std::pair<QString, QString>> hubs;
-    for (int row = 0; row < m_hubTable->topLevelItemCount(); ++row) {
-        const QTreeWidgetItem* item = m_hubTable->topLevelItem(row);
-        const QString ip = item->text(addressColumn);
-        if (!m_awaited.contains(ip)) {
-            hubs.append({ip, item->text(DeviceTable::labelColumn)});
+    for (int index = 0; index < m_hubTable->topLevelItemCount(); ++index) {
+        const QTreeWidgetItem* row = m_hubTable->topLevelItem(index);
+        const QString ipAddress = row->text(AddressColumn);
+        if (!m_awaited.contains(ipAddress)) {
+            hubs.append({ipAddress, row->text(DeviceTable::LabelColumn)});
         }
-        m_awaited.insert(ip); // a hub of two rows is known by its address
+        m_awaited.insert(ipAddress); // a hub of two rows is known by its address
     }
-    for (const auto& [ip, label] : hubs) {
-        setStatus(ip, tr("Installing..."));
-        startSender(ip, label);
+    for (const auto& [ipAddress, label] : hubs) {
+        setStatus(ipAddress, tr("Installing..."));
+        startSender(ipAddress, label);
     }
 }
 
-void Install::startSender(const QString& ip, const QString& label)
+void Install::startSender(const QString& ipAddress, const QString& label)
 {
-    PresetFileSender*& sender = m_senders[ip];
+    PresetFileSender*& sender = m_senders[ipAddress];
     if (sender == nullptr) {
-        sender = new PresetFileSender(ip, label, m_doc, this);
+        sender = new PresetFileSender(ipAddress, label, &doc(), this);
         connect(sender, SIGNAL(finished(QString, int)), this,
                 SLOT(presetSendFinished(QString, int)));
         connect(sender, SIGNAL(completedLogin()), this, SLOT(senderLogin()));
@@ -80,8 +83,8 @@ bool Install::isBusy() const
 bool Install::isDone() const
 {
     const int hubs = m_hubTable->topLevelItemCount();
-    for (int row = 0; row < hubs; ++row) {
-        if (status(row) != tr("Done")) {
+    for (int index = 0; index < hubs; ++index) {
+        if (status(index) != tr("Done")) {
             return false;
         }
     }
@@ -91,15 +94,15 @@ bool Install::isDone() const
 void Install::createWidgets()
 {
     m_hubTable = new DeviceTable({tr("Hostname"), QString(), tr("IP Address"), tr("Status")},
-                                 addressColumn, this);
+                                 AddressColumn, this);
     m_hubTable->setObjectName(QStringLiteral("hubList"));
     m_hubTable->setAccessibleName(tr("PX-HB"));
-    m_hubTable->setColumnWidth(DeviceTable::labelColumn, hostNameWidth);
-    m_hubTable->setColumnWidth(DeviceTable::identifyColumn, identifyWidth);
+    m_hubTable->setColumnWidth(DeviceTable::LabelColumn, labelWidth);
+    m_hubTable->setColumnWidth(DeviceTable::IdentifyColumn, identifyWidth);
     m_hubTable->setSortingEnabled(true);
 }
 
-void Install::layOut()
+void Install::buildLayout()
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -111,12 +114,12 @@ void Install::layOut()
     layout->addWidget(m_hubTable, 1);
 }
 
-void Install::initialise()
+void Install::load()
 {
     QList<QStringList> rows;
-    const int devices = deviceCount(*m_doc);
+    const int devices = deviceCount(doc());
     for (int index = 0; index < devices; ++index) {
-        const std::optional<DeviceEntry> device = deviceAt(*m_doc, index);
+        const std::optional<DeviceEntry> device = deviceAt(doc(), index);
         if (device && isHub(device->modelName) && device->roomNumber != 0) {
             const bool running = isRunning(device->ipAddress);
             rows.append({device->label, QString(), device->ipAddress,
@@ -127,20 +130,20 @@ void Install::initialise()
     m_awaited.clear();
 }
 
-bool Install::isRunning(const QString& ip) const
+bool Install::isRunning(const QString& ipAddress) const
 {
-    const PresetFileSender* sender = m_senders.value(ip);
+    const PresetFileSender* sender = m_senders.value(ipAddress);
     return sender != nullptr && sender->isRunning();
 }
 
-void Install::presetSendFinished(const QString& ip, int status)
+void Install::presetSendFinished(const QString& ipAddress, int status)
 {
     const bool succeeded = status == sendSucceeded;
     if (!succeeded) {
         qDebug("Error!");
     }
-    m_awaited.remove(ip);
-    setStatus(ip, succeeded ? tr("Done") : tr("Error"));
+    m_awaited.remove(ipAddress);
+    setStatus(ipAddress, succeeded ? tr("Done") : tr("Error"));
     Q_EMIT statusChanged();
     // A hub that failed before its log-in was answered must not hold the others back.
     senderLogin();
@@ -159,14 +162,14 @@ void Install::senderLogin()
     }
 }
 
-QString Install::status(int row) const
+QString Install::status(int index) const
 {
-    return m_hubTable->topLevelItem(row)->text(statusColumn);
+    return m_hubTable->topLevelItem(index)->text(StatusColumn);
 }
 
-void Install::setStatus(const QString& ip, const QString& text)
+void Install::setStatus(const QString& ipAddress, const QString& text)
 {
-    for (QTreeWidgetItem* row : m_hubTable->rowsOf(ip)) {
-        row->setText(statusColumn, text);
+    for (QTreeWidgetItem* row : m_hubTable->rowsOf(ipAddress)) {
+        row->setText(StatusColumn, text);
     }
 }

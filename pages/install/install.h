@@ -1,27 +1,33 @@
 #pragma once
 
+#include "stepcontent.h"
+
 #include <QHash>
 #include <QSet>
-#include <QWidget>
 
 class DeviceTable;
-class IDocAccessor;
 class PresetFileSender;
 class QTreeWidgetItem;
 
 /// Content of the installation step: the hubs that stand in rooms, each with the status of its
 /// installation. All hubs are served at once; none gets files before every hub's log-in has been
 /// answered.
-class Install : public QWidget
+class Install : public StepContent
 {
     Q_OBJECT
 
 public:
-    /// `doc` is not owned and outlives the widget.
-    Install(IDocAccessor* doc, QWidget* parent);
+    /// `doc` is not owned and outlives the content.
+    explicit Install(IDocAccessor* doc, QWidget* parent = nullptr);
 
     /// Lists the hubs anew. Installations that are under way go on and show as such.
-    void initialise();
+    void load() override;
+
+    /// Nothing: what is installed is kept by the hubs.
+    void store() override {}
+
+    /// Nothing: the user enters nothing here.
+    void reset() override {}
 
     /// Installs the presets on every listed hub, also on those that are done already.
     void install();
@@ -39,21 +45,20 @@ Q_SIGNALS:
 
 public Q_SLOTS:
     /// Makes a device show itself.
-    void identifyButtonClicked(const QString& ip);
-    /// Shows how the installation of the hub at `ip` ended: 1 for success.
-    void presetSendFinished(const QString& ip, int status);
+    void identifyButtonClicked(const QString& ipAddress);
+    /// Shows how the installation of the hub at `ipAddress` ended: 1 for success.
+    void presetSendFinished(const QString& ipAddress, int status);
     /// Starts the transfers once every hub's log-in is answered.
     void senderLogin();
 
 private:
     void createWidgets();
-    void layOut();
-    void startSender(const QString& ip, const QString& label);
-    bool isRunning(const QString& ip) const;
-    QString status(int row) const;
-    void setStatus(const QString& ip, const QString& text);
+    void buildLayout();
+    void startSender(const QString& ipAddress, const QString& label);
+    bool isRunning(const QString& ipAddress) const;
+    QString status(int index) const;
+    void setStatus(const QString& ipAddress, const QString& text);
 
-    IDocAccessor* m_doc;
     DeviceTable* m_hubTable = nullptr;
     QHash<QString, PresetFileSender*> m_senders; ///< by address; children of this widget
     QSet<QString> m_awaited;                     ///< addresses of the hubs that this list waits for

@@ -2,26 +2,27 @@
 
 #include "install.h"
 #include "ipagecontroller.h"
+#include "wizardpage.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 PageInstall::PageInstall(IPageController* controller, IDocAccessor* doc, QWidget* parent)
-    : BasePage(tr("8. Install Presets"), 8, controller, doc, parent)
+    : BasePage(tr("8. Install Presets"), stepNumber(WizardPage::Install), controller, doc, parent)
     , m_content(new Install(doc, this))
     , m_backButton(new QPushButton(tr("Back"), this))
     , m_executeButton(new QPushButton(tr("Execute"), this))
 {
     m_backButton->setObjectName(QStringLiteral("backButton"));
     m_executeButton->setObjectName(QStringLiteral("executeButton"));
-    layOut();
+    buildLayout();
     connect(m_backButton, SIGNAL(clicked()), this, SLOT(backButtonClicked()));
     connect(m_executeButton, SIGNAL(clicked()), this, SLOT(executeButtonClicked()));
     connect(m_content, SIGNAL(statusChanged()), this, SLOT(installStatusChanged()));
 }
 
-void PageInstall::layOut()
+void PageInstall::buildLayout()
 {
     auto* row = new QHBoxLayout;
     row->addWidget(m_backButton);
@@ -48,7 +49,7 @@ void PageInstall::restoreFromDocument()
 
 void PageInstall::load()
 {
-    m_content->initialise();
+    m_content->load();
     // What was installed before the user went back may differ from what is entered now.
     m_executeButton->setText(tr("Execute"));
     setExecuteEnabled(!m_content->isBusy());

@@ -31,7 +31,7 @@ public Q_SLOTS:
 
 private:
     void load();
-    void layOut();
+    void buildLayout();
     void watchForChanges();
     void setExecuteEnabled(bool enable);
 

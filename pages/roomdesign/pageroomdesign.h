@@ -2,8 +2,6 @@
 
 #include "steppage.h"
 
-class RoomDesign;
-
 /// The frame of step 2. The first step that can be left unfinished: its left button closes.
 class PageRoomDesign : public StepPage
 {
@@ -11,12 +9,4 @@ class PageRoomDesign : public StepPage
 
 public:
     PageRoomDesign(IPageController* controller, IDocAccessor* doc, QWidget* parent);
-
-protected:
-    void load() override;
-    void store() override;
-    void reset() override;
-
-private:
-    RoomDesign* m_content;
 };

@@ -15,20 +15,19 @@ constexpr int minRoomsToGoOn = 2;
 
 } // namespace
 
-RoomDesign::RoomDesign(IDocAccessor& doc, QWidget* parent)
-    : QWidget(parent)
-    , m_doc(doc)
+RoomDesign::RoomDesign(IDocAccessor* doc, QWidget* parent)
+    : StepContent(doc, parent)
     , m_editor(new RoomEditor(this, gap, cellSize, false))
 {
     m_editor->setObjectName(QStringLiteral("roomEditor"));
-    layOut();
+    buildLayout();
     connect(m_editor, SIGNAL(roomCountChanged(int)), this, SLOT(roomCountChanged(int)));
 }
 
 void RoomDesign::load()
 {
     m_editor->clear();
-    for (const RoomInfo& room : drawnRooms(m_doc)) {
+    for (const RoomInfo& room : drawnRooms(doc())) {
         m_editor->setRoom(room.number, room.positionList);
     }
     m_editor->clearModified();
@@ -40,13 +39,13 @@ void RoomDesign::store()
     if (!m_editor->isModified()) {
         return;
     }
-    clearRooms(m_doc);
+    clearRooms(doc());
     for (int room = 1; room <= RoomInfo::maxRooms; ++room) {
         const QList<QPoint> cells = m_editor->cellsOf(room);
         if (cells.isEmpty()) {
             break;
         }
-        setRoomCells(m_doc, room, cells);
+        setRoomCells(doc(), room, cells);
     }
     m_editor->clearModified();
 }
@@ -61,7 +60,7 @@ void RoomDesign::roomCountChanged(int count)
     Q_EMIT nextButtonEnabled(count >= minRoomsToGoOn);
 }
 
-void RoomDesign::layOut()
+void RoomDesign::buildLayout()
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

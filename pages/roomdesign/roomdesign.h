@@ -1,38 +1,33 @@
 #pragma once
 
-#include <QWidget>
+#include "stepcontent.h"
 
-class IDocAccessor;
 class RoomEditor;
 
 /// Step 2: the drawing of up to four rooms. The grid is edited here and stored as one record of
-/// cells per room.
-class RoomDesign : public QWidget
+/// cells per room. The wizard goes on with two rooms or more: a single one can be neither divided
+/// nor combined.
+class RoomDesign : public StepContent
 {
     Q_OBJECT
 
 public:
-    /// `doc` is not owned and outlives the page.
-    RoomDesign(IDocAccessor& doc, QWidget* parent);
+    /// `doc` is not owned and outlives the content.
+    explicit RoomDesign(IDocAccessor* doc, QWidget* parent = nullptr);
 
     /// Shows the stored drawing.
-    void load();
+    void load() override;
     /// Stores a drawing that has changed since it was loaded or stored; all room layouts, which
     /// were made of the earlier rooms, are discarded with it.
-    void store();
+    void store() override;
     /// Empties the grid. The document keeps its drawing until the next store().
-    void reset();
-
-Q_SIGNALS:
-    /// Whether the wizard may go on: a single room can be neither divided nor combined.
-    void nextButtonEnabled(bool enable);
+    void reset() override;
 
 private Q_SLOTS:
     void roomCountChanged(int count);
 
 private:
-    void layOut();
+    void buildLayout();
 
-    IDocAccessor& m_doc;
     RoomEditor* m_editor;
 };

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int mostTimes = std::numeric_limits<int>::max();
+constexpr int maxTimes = std::numeric_limits<int>::max();
 const QString any = QStringLiteral("*");
 
 /// A fault as texts, the same from either source.
@@ -223,8 +223,8 @@ std::optional<Fault> faultFromJson(const QJsonObject& object, const QString& whe
     texts.exchange = valueText(fields.value(QStringLiteral("at"))).value_or(any);
     texts.kind = fields.text(QStringLiteral("kind"), QString());
     texts.value = valueText(fields.value(QStringLiteral("value")));
-    fault.times = fields.number(QStringLiteral("times"), -1, 1, mostTimes);
-    fault.skip = fields.number(QStringLiteral("skip"), 0, 0, mostTimes);
+    fault.times = fields.number(QStringLiteral("times"), -1, 1, maxTimes);
+    fault.skip = fields.number(QStringLiteral("skip"), 0, 0, maxTimes);
     fields.finish();
     if (const std::optional<QString> problem = fill(fault, texts); problem && error->isEmpty()) {
         *error = where + QStringLiteral(": ") + *problem;

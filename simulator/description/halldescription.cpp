@@ -164,7 +164,7 @@ QString HubDescription::storageName() const
 std::optional<HallDescription> HallDescription::byCounts(int hubs, int peripherals,
                                                          const QString& base)
 {
-    if (hubs < 0 || peripherals < 0 || hubs > mostDevices || peripherals > mostDevices - hubs) {
+    if (hubs < 0 || peripherals < 0 || hubs > maxDevices || peripherals > maxDevices - hubs) {
         return std::nullopt;
     }
     AddressSequence addresses(base);
@@ -220,8 +220,8 @@ std::optional<QString> HallDescription::problem() const
     if (QHostAddress(discoveryListen).protocol() != QAbstractSocket::IPv4Protocol) {
         return QStringLiteral("\"%1\" is no address to hear queries at").arg(discoveryListen);
     }
-    if (taken.size() > mostDevices) {
-        return QStringLiteral("a hall holds no more than %1 devices").arg(mostDevices);
+    if (taken.size() > maxDevices) {
+        return QStringLiteral("a hall holds no more than %1 devices").arg(maxDevices);
     }
     return std::nullopt;
 }

@@ -23,7 +23,7 @@ struct DeviceDescription
 /// A hub: a device with a management interface.
 struct HubDescription : DeviceDescription
 {
-    static constexpr int mostExportPolls = 1000;
+    static constexpr int maxExportPolls = 1000;
 
     /// The password of the account "admin"; nothing: the hub has never been given one.
     std::optional<QString> password = {};
@@ -44,7 +44,7 @@ struct HubDescription : DeviceDescription
 struct HallDescription
 {
     static constexpr const char* defaultBase = "127.0.1.1";
-    static constexpr int mostDevices = 2000;
+    static constexpr int maxDevices = 2000;
 
     QList<HubDescription> hubs = {};
     QList<DeviceDescription> peripherals = {};

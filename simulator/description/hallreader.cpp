@@ -57,7 +57,7 @@ std::optional<QString> passwordField(JsonFields& fields, const std::optional<QSt
 void readHub(JsonFields& fields, HubDescription& hub)
 {
     hub.password = passwordField(fields, hub.password);
-    hub.exportPolls = fields.number(pollsKey, hub.exportPolls, 0, HubDescription::mostExportPolls);
+    hub.exportPolls = fields.number(pollsKey, hub.exportPolls, 0, HubDescription::maxExportPolls);
     hub.exportFile = fields.text(QStringLiteral("export-file"), hub.exportFile);
     hub.secondAddress = fields.text(QStringLiteral("second-address"), hub.secondAddress);
     hub.secondMac = macField(fields, QStringLiteral("second-mac"), hub.secondMac);
@@ -71,7 +71,7 @@ QList<QJsonObject> entries(JsonFields& fields, const QString& key)
 {
     QList<QJsonObject> objects;
     if (!fields.value(key).isArray()) {
-        objects.resize(fields.number(key, 0, 0, HallDescription::mostDevices));
+        objects.resize(fields.number(key, 0, 0, HallDescription::maxDevices));
         return objects;
     }
     const QJsonArray array = fields.value(key).toArray();
@@ -138,7 +138,7 @@ HallDescription readFields(const QJsonObject& object, QString* error)
         fields.text(QStringLiteral("base"), QLatin1String(HallDescription::defaultBase)));
     const HubDefaults defaults{
         passwordField(fields, std::nullopt),
-        fields.number(pollsKey, HubDescription().exportPolls, 0, HubDescription::mostExportPolls)};
+        fields.number(pollsKey, HubDescription().exportPolls, 0, HubDescription::maxExportPolls)};
     fields.value(passwordKey);
     hall.discovery = fields.flag(QStringLiteral("discovery"), hall.discovery);
     hall.discoveryListen = fields.text(QStringLiteral("discovery-listen"), hall.discoveryListen);

@@ -11,7 +11,7 @@ constexpr qsizetype lengthOffset = 4;
 constexpr qsizetype flagsOffset = 6;
 constexpr char replyFlag = static_cast<char>(0x80);
 constexpr int prefixSize = 6;
-constexpr qsizetype longestText = 127;
+constexpr qsizetype maxTextLength = 127;
 
 QByteArray addressBytes(const QString& address)
 {
@@ -30,7 +30,7 @@ QByteArray macBytes(const QString& mac)
 
 QByteArray counted(const QByteArray& text)
 {
-    const QByteArray kept = text.first(qMin(text.size(), longestText));
+    const QByteArray kept = text.first(qMin(text.size(), maxTextLength));
     return static_cast<char>(kept.size()) + kept;
 }
 

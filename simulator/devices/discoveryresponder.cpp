@@ -9,7 +9,7 @@ namespace {
 
 // A receiver's socket keeps 166 to 256 replies that it has not read yet: this pace leaves it time
 // to be busy with something else now and then.
-constexpr int mostAtOnce = 50;
+constexpr int maxAtOnce = 50;
 constexpr int paceMs = 10;
 
 } // namespace
@@ -49,7 +49,7 @@ void DiscoveryResponder::readQueries()
 
 void DiscoveryResponder::sendSome()
 {
-    for (int sent = 0; sent < mostAtOnce && !m_replies.isEmpty(); ++sent) {
+    for (int sent = 0; sent < maxAtOnce && !m_replies.isEmpty(); ++sent) {
         const Reply reply = m_replies.takeFirst();
         reply.socket->writeDatagram(reply.datagram, reply.receiver, port);
     }

@@ -6,7 +6,7 @@
 namespace {
 
 // A peer that never ends its line must not fill the memory.
-constexpr qsizetype longestLine = 0x10000;
+constexpr qsizetype maxLineLength = 0x10000;
 
 } // namespace
 
@@ -41,8 +41,8 @@ void TextConnection::readMore()
         m_buffer.remove(0, end + 1);
         answerLine(line);
     }
-    if (m_buffer.size() > longestLine) {
-        Q_EMIT lineBroken(QStringLiteral("line longer than %1 bytes").arg(longestLine));
+    if (m_buffer.size() > maxLineLength) {
+        Q_EMIT lineBroken(QStringLiteral("line longer than %1 bytes").arg(maxLineLength));
         abort();
     }
 }

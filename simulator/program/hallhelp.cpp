@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr qsizetype widestLine = 79;
+constexpr qsizetype maxLineWidth = 79;
 
 /// The words on lines of their own, indented.
 QString wrapped(const QStringList& words)
@@ -14,7 +14,7 @@ QString wrapped(const QStringList& words)
     QString text;
     QString line = QStringLiteral(" ");
     for (const QString& word : words) {
-        if (line.size() + 1 + word.size() > widestLine) {
+        if (line.size() + 1 + word.size() > maxLineWidth) {
             text += line + QLatin1Char('\n');
             line = QStringLiteral(" ");
         }

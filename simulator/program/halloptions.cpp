@@ -96,9 +96,9 @@ private:
 std::optional<HallDescription> hallByCounts(const QCommandLineParser& parser, QString* error)
 {
     const Numbers numbers(parser, error);
-    const int hubs = numbers.number(QStringLiteral("hubs"), HallDescription::mostDevices);
+    const int hubs = numbers.number(QStringLiteral("hubs"), HallDescription::maxDevices);
     const int peripherals =
-        numbers.number(QStringLiteral("peripherals"), HallDescription::mostDevices);
+        numbers.number(QStringLiteral("peripherals"), HallDescription::maxDevices);
     const int second = numbers.number(QStringLiteral("second-addresses"), hubs);
     if (!error->isEmpty()) {
         return std::nullopt;
@@ -107,7 +107,7 @@ std::optional<HallDescription> hallByCounts(const QCommandLineParser& parser, QS
         HallDescription::byCounts(hubs, peripherals, parser.value(QStringLiteral("base")));
     if (!hall) {
         *error = QStringLiteral("no hall of 1 to %1 devices from the address \"%2\" on")
-                     .arg(QString::number(HallDescription::mostDevices),
+                     .arg(QString::number(HallDescription::maxDevices),
                           parser.value(QStringLiteral("base")));
         return std::nullopt;
     }
@@ -141,7 +141,7 @@ void setUpHubs(const QCommandLineParser& parser, HallDescription& hall, QString*
             hub.password = parser.value(password);
         }
         if (parser.isSet(polls)) {
-            hub.exportPolls = Numbers(parser, error).number(polls, HubDescription::mostExportPolls);
+            hub.exportPolls = Numbers(parser, error).number(polls, HubDescription::maxExportPolls);
         }
     }
 }

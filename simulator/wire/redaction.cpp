@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr qsizetype longestText = 200;
+constexpr qsizetype maxTextLength = 200;
 
 QString shown(QString text)
 {
@@ -31,5 +31,5 @@ QString redacted(const QByteArray& bytes)
     text.replace(password, QStringLiteral("\\1<secret>"));
     text.replace(digits, QStringLiteral("<secret>"));
     text = shown(text);
-    return text.size() > longestText ? text.first(longestText) + QStringLiteral("...") : text;
+    return text.size() > maxTextLength ? text.first(maxTextLength) + QStringLiteral("...") : text;
 }

@@ -137,7 +137,7 @@ QPushButton* lastButton(const Wizard& wizard)
 void addPages()
 {
     QTest::addColumn<int>("page");
-    for (int page = 1; page <= pageTotal; ++page) {
+    for (int page = 1; page <= pageCount; ++page) {
         QTest::addRow("page %d", page) << page;
     }
 }

@@ -230,7 +230,7 @@ void TestInterruptedInstall::closedDuringAnyRequestNothingBreaksAndTheNextWindow
 void TestInterruptedInstall::aHubThatPreparesForEverKeepsNobodyFromLeavingOrTryingAgain()
 {
     HallDescription description = quickHall(base, 2, 1);
-    description.hubs.first().exportPolls = HubDescription::mostExportPolls;
+    description.hubs.first().exportPolls = HubDescription::maxExportPolls;
     Wizard wizard(description);
     wizard.installUntil(Exchange::ReadExport);
     QTRY_COMPARE(wizard.statuses(), QStringLiteral("Installing... Done"));

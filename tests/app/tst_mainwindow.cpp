@@ -153,7 +153,7 @@ void TestMainWindow::makesEachPageWhenItIsFirstReached()
     Wizard wizard;
     wizard.draw();
     wizard.open();
-    for (int index = 1; index < pageTotal; ++index) {
+    for (int index = 1; index < pageCount; ++index) {
         wizard.window->next();
         QCOMPARE(wizard.stack()->count(), index + 1);
         QCOMPARE(wizard.stack()->currentIndex(), index);
@@ -167,7 +167,7 @@ void TestMainWindow::factoryKnowsNoOtherPages()
     Wizard wizard;
     wizard.open();
     QVERIFY(!makePage(-1, wizard.window.get(), &wizard.doc, nullptr));
-    QVERIFY(!makePage(pageTotal, wizard.window.get(), &wizard.doc, nullptr));
+    QVERIFY(!makePage(pageCount, wizard.window.get(), &wizard.doc, nullptr));
 }
 
 void TestMainWindow::nextOnTheFinishPageStaysThere()
@@ -175,10 +175,10 @@ void TestMainWindow::nextOnTheFinishPageStaysThere()
     Wizard wizard;
     wizard.draw();
     wizard.open();
-    wizard.goTo(pageTotal - 1);
+    wizard.goTo(pageCount - 1);
     wizard.window->next();
-    QCOMPARE(wizard.stack()->currentIndex(), pageTotal - 1);
-    QCOMPARE(wizard.stack()->count(), pageTotal);
+    QCOMPARE(wizard.stack()->currentIndex(), pageCount - 1);
+    QCOMPARE(wizard.stack()->count(), pageCount);
     QCOMPARE(wizard.title(), titles.last());
 }
 
@@ -214,7 +214,7 @@ void TestMainWindow::closingOnTheIntroductionOrTheFinishPageNeverAsks()
     wizard.open();
     QVERIFY(wizard.window->close());
     wizard.window->show();
-    wizard.goTo(pageTotal - 1);
+    wizard.goTo(pageCount - 1);
     QVERIFY(wizard.window->close());
     QVERIFY(!QFile::exists(resumePath()));
 }

@@ -46,7 +46,7 @@ struct ProbedWindow
         window = std::make_unique<MainWindow>(nullptr, &doc);
         stack = window->findChild<QStackedWidget*>(QStringLiteral("pageStack"));
         delete stack->widget(0);
-        for (int number = 1; number <= pageTotal; ++number) {
+        for (int number = 1; number <= pageCount; ++number) {
             probes.append(new Probe(number, window.get(), &doc));
             stack->addWidget(probes.last());
         }
@@ -102,11 +102,11 @@ void TestNavigation::aPageIsEnteredFromTheOneLeftBeforeItIsShown()
 void TestNavigation::nextOnTheFinishPageEntersItFromItself()
 {
     const ProbedWindow wizard;
-    for (int i = 0; i < pageTotal; ++i) {
+    for (int i = 0; i < pageCount; ++i) {
         wizard.window->next();
     }
     QCOMPARE(wizard.probes.last()->calls, strings({"from 8", "from 9"}));
-    QCOMPARE(wizard.stack->currentIndex(), pageTotal - 1);
+    QCOMPARE(wizard.stack->currentIndex(), pageCount - 1);
 }
 
 void TestNavigation::backOnTheIntroductionEntersItFromItself()
@@ -134,7 +134,7 @@ void TestNavigation::closeOnTheFirstAndTheLastPageEndsTheProgramWithoutADialog_d
 {
     QTest::addColumn<int>("index");
     QTest::newRow("introduction") << 0;
-    QTest::newRow("finish page") << pageTotal - 1;
+    QTest::newRow("finish page") << pageCount - 1;
 }
 
 void TestNavigation::closeOnTheFirstAndTheLastPageEndsTheProgramWithoutADialog()

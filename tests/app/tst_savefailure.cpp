@@ -23,7 +23,7 @@ namespace {
 
 constexpr qint64 pageOfMemory = 4096; // a disk in memory is filled by whole pages
 constexpr int diskPages = 64;
-constexpr int mostFreePages = 30;
+constexpr int maxFreePages = 30;
 const QByteArray earlier("an earlier file");
 
 QString folder()
@@ -164,7 +164,7 @@ void TestSaveFailure::onAFullDiskTheEarlierFileOrTheNewOneIsWhole()
     QFETCH(const int, presetNameLength);
     int saved = 0;
     int refused = 0;
-    for (int freePages = 0; freePages <= mostFreePages; ++freePages) {
+    for (int freePages = 0; freePages <= maxFreePages; ++freePages) {
         QVERIFY(mountDisk(folder(), (diskPages + 1) * pageOfMemory, 16));
         Wizard wizard(presetNameLength);
         const QStringList told = closeAndSaveOnFullDisk(wizard, freePages);

@@ -179,7 +179,7 @@ void TestPageInstall::backStopsNoInstallation()
 void TestPageInstall::aHubThatPreparesForEverHoldsUpNobodyAndCanBeTriedAgain()
 {
     HallDescription description = quickHall(base, 3, 0);
-    description.hubs.first().exportPolls = HubDescription::mostExportPolls;
+    description.hubs.first().exportPolls = HubDescription::maxExportPolls;
     InstallHall step(description);
     press(step.execute());
     QTRY_COMPARE(step.statuses(), QStringLiteral("Installing... Done Done"));

@@ -40,7 +40,7 @@ DeviceTable::DeviceTable(const QStringList& headers, int addressColumn, QWidget*
     // each found by adding up those above it.
     setUniformRowHeights(true);
     setItemDelegate(new RowDelegate(this));
-    header()->setSortIndicator(labelColumn, Qt::AscendingOrder);
+    header()->setSortIndicator(LabelColumn, Qt::AscendingOrder);
     connect(model(), SIGNAL(modelAboutToBeReset()), this, SLOT(forgetRows()));
     connect(model(), SIGNAL(layoutChanged()), this, SLOT(chainTabOrder()));
 }
@@ -58,13 +58,13 @@ void DeviceTable::setRows(const QList<QStringList>& rows, const Decorate& decora
     clear();
     addRows(rows);
     if (sorted) {
-        sortItems(labelColumn, Qt::AscendingOrder);
+        sortItems(LabelColumn, Qt::AscendingOrder);
     }
     // Only now the widgets: each one added among rows still coming would lay all of them out.
-    for (int i = 0; i < topLevelItemCount(); ++i) {
-        addIdentifyButton(topLevelItem(i));
+    for (int index = 0; index < topLevelItemCount(); ++index) {
+        addIdentifyButton(topLevelItem(index));
         if (decorate) {
-            decorate(topLevelItem(i));
+            decorate(topLevelItem(index));
         }
     }
     setSortingEnabled(sorted);
@@ -84,7 +84,7 @@ QList<QTreeWidgetItem*> DeviceTable::rowsOf(const QString& ipAddress) const
 
 void DeviceTable::setLabel(QTreeWidgetItem* row, const QString& label)
 {
-    row->setText(labelColumn, label);
+    row->setText(LabelColumn, label);
     nameIdentifyButton(row);
 }
 
@@ -106,9 +106,9 @@ void DeviceTable::chainTabOrder()
     // Widgets made late would come after everything else in the window, and stay in the order of
     // their making when the rows are sorted anew.
     QList<QWidget*> stops;
-    for (int i = 0; i < topLevelItemCount(); ++i) {
+    for (int index = 0; index < topLevelItemCount(); ++index) {
         for (int column = 0; column < columnCount(); ++column) {
-            stops.append(tabStops(itemWidget(topLevelItem(i), column)));
+            stops.append(tabStops(itemWidget(topLevelItem(index), column)));
         }
     }
     // From the last one on, each right behind the table: what Qt looks at for a move is what stands
@@ -138,12 +138,12 @@ void DeviceTable::addIdentifyButton(QTreeWidgetItem* row)
 {
     auto* button = new IdentifyButton(addressOf(row), this);
     connect(button, SIGNAL(clicked(QString)), this, SIGNAL(identifyClicked(QString)));
-    setItemWidget(row, identifyColumn, button);
+    setItemWidget(row, IdentifyColumn, button);
     nameIdentifyButton(row);
 }
 
 void DeviceTable::nameIdentifyButton(QTreeWidgetItem* row)
 {
-    itemWidget(row, identifyColumn)
-        ->setAccessibleName(tr("Identify %1").arg(row->text(labelColumn)));
+    itemWidget(row, IdentifyColumn)
+        ->setAccessibleName(tr("Identify %1").arg(row->text(LabelColumn)));
 }

@@ -16,8 +16,12 @@ class DeviceTable : public QTreeWidget
 public:
     using Decorate = std::function<void(QTreeWidgetItem* row)>;
 
-    static constexpr int labelColumn = 0;
-    static constexpr int identifyColumn = 1;
+    /// The first columns; the others are the page's.
+    enum Column
+    {
+        LabelColumn,
+        IdentifyColumn
+    };
 
     /// The table has one column per header, each wide enough for an address until the page sets
     /// another width.

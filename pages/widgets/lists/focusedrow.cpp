@@ -36,8 +36,8 @@ void FocusedRow::show(const QWidget* stop)
 
 QModelIndex FocusedRow::cellOf(const QWidget* stop) const
 {
-    for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
-        QTreeWidgetItem* row = m_list->topLevelItem(i);
+    for (int index = 0; index < m_list->topLevelItemCount(); ++index) {
+        QTreeWidgetItem* row = m_list->topLevelItem(index);
         for (int column = 0; column < m_list->columnCount(); ++column) {
             const QWidget* widget = m_list->itemWidget(row, column);
             if (widget && (widget == stop || widget->isAncestorOf(stop))) {

@@ -32,9 +32,9 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
         RowDelegate::initStyleOption(option, index);
-        const QColor colour = option->palette.color(QPalette::Text);
-        if (index.data(Qt::ForegroundRole).isValid() && colour != QColor(Qt::black)) {
-            option->palette.setColor(QPalette::Highlight, colour);
+        const QColor color = option->palette.color(QPalette::Text);
+        if (index.data(Qt::ForegroundRole).isValid() && color != QColor(Qt::black)) {
+            option->palette.setColor(QPalette::Highlight, color);
             option->palette.setColor(QPalette::HighlightedText, Qt::white);
         }
     }
@@ -44,8 +44,8 @@ QTreeWidgetItem* createRow(const RoomGroup& group)
 {
     auto* row = new QTreeWidgetItem(
         {QString::number(group.number), QString::number(group.sceneNumber), group.roomText()});
-    row->setBackground(RoomGroupList::roomColumn, roomColor(group.rooms.first(), Qt::white));
-    row->setForeground(RoomGroupList::roomColumn, QColor(Qt::white));
+    row->setBackground(RoomGroupList::RoomColumn, roomColor(group.rooms.first(), Qt::white));
+    row->setForeground(RoomGroupList::RoomColumn, QColor(Qt::white));
     return row;
 }
 
@@ -58,7 +58,7 @@ RoomGroupList::RoomGroupList(const QStringList& headers, const QList<int>& width
     setRootIsDecorated(false);
     setAccessibleName(tr("Room combinations"));
     setItemDelegate(new NumberDelegate(this));
-    setItemDelegateForColumn(roomColumn, new RoomDelegate(this));
+    setItemDelegateForColumn(RoomColumn, new RoomDelegate(this));
     for (int column = 0; column < widths.size(); ++column) {
         setColumnWidth(column, widths.at(column));
     }
@@ -76,14 +76,14 @@ void RoomGroupList::setGroups(const QList<RoomGroup>& groups)
     addTopLevelItems(rows);
 }
 
-int RoomGroupList::currentRow() const
+int RoomGroupList::currentGroup() const
 {
     return indexOfTopLevelItem(currentItem());
 }
 
-void RoomGroupList::selectRow(int row)
+void RoomGroupList::selectGroup(int index)
 {
-    if (QTreeWidgetItem* item = topLevelItem(row)) {
-        setCurrentItem(item);
+    if (QTreeWidgetItem* row = topLevelItem(index)) {
+        setCurrentItem(row);
     }
 }

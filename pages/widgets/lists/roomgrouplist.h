@@ -11,9 +11,12 @@ class RoomGroupList : public QTreeWidget
     Q_OBJECT
 
 public:
-    static constexpr int numberColumn = 0;
-    static constexpr int layoutColumn = 1;
-    static constexpr int roomColumn = 2;
+    enum Column
+    {
+        NumberColumn,
+        LayoutColumn,
+        RoomColumn
+    };
 
     /// One column per header; `widths` are those of the first columns, in pixels.
     RoomGroupList(const QStringList& headers, const QList<int>& widths, QWidget* parent = nullptr);
@@ -22,9 +25,9 @@ public:
     /// meanwhile the rows of before would seem to be selected.
     void setGroups(const QList<RoomGroup>& groups);
 
-    /// The current row, from 0; -1 for none.
-    int currentRow() const;
+    /// The index of the current group; -1 for none.
+    int currentGroup() const;
 
-    /// Makes a row current and selects it; a row that does not exist changes nothing.
-    void selectRow(int row);
+    /// Makes the row of a group current and selects it; an index beyond the groups changes nothing.
+    void selectGroup(int index);
 };

@@ -1,6 +1,9 @@
 #include "roomgrouppanels.h"
 
+#include "roomdevices.h"
+#include "roomgroup.h"
 #include "roomgrouplist.h"
+#include "roomgrouppanel.h"
 #include "textlabel.h"
 
 #include <QHBoxLayout>
@@ -26,7 +29,11 @@ RoomGroupPanels::RoomGroupPanels(const QString& stackName, QWidget* parent)
 {
     m_list->setObjectName(QStringLiteral("roomGroupList"));
     m_stack->setObjectName(stackName);
+    buildLayout();
+}
 
+void RoomGroupPanels::buildLayout()
+{
     auto* column = new QVBoxLayout;
     column->addWidget(titleLabel(tr("Select a room combination"), m_list));
     column->addWidget(m_list, 1);
@@ -37,10 +44,64 @@ RoomGroupPanels::RoomGroupPanels(const QString& stackName, QWidget* parent)
     row->addWidget(m_stack, stackStretch);
 }
 
+void RoomGroupPanels::load(IDocAccessor& doc, const MakePanel& makePanel)
+{
+    clear();
+    const QList<RoomGroup> groups = roomGroups(doc);
+    RoomDevices devices(&doc);
+    for (const RoomGroup& group : groups) {
+        RoomGroupPanel* panel = makePanel(group, devices, m_stack);
+        m_stack->addWidget(panel);
+        m_panels.append(panel);
+    }
+    m_list->setGroups(groups);
+    m_list->selectGroup(0);
+}
+
 void RoomGroupPanels::clear()
 {
+    m_panels.clear();
     while (QWidget* panel = m_stack->widget(0)) {
         m_stack->removeWidget(panel);
         delete panel;
+    }
+}
+
+void RoomGroupPanels::store()
+{
+    for (RoomGroupPanel* panel : std::as_const(m_panels)) {
+        panel->store();
+    }
+}
+
+void RoomGroupPanels::reset()
+{
+    for (RoomGroupPanel* panel : std::as_const(m_panels)) {
+        panel->reset();
+    }
+}
+
+bool RoomGroupPanels::showValidity()
+{
+    bool allValid = true;
+    for (qsizetype index = 0; index < m_panels.size(); ++index) {
+        const bool valid = m_panels.at(index)->isValid();
+        QTreeWidgetItem* row = m_list->topLevelItem(int(index));
+        for (const int column : {RoomGroupList::NumberColumn, RoomGroupList::LayoutColumn}) {
+            row->setForeground(column, valid ? Qt::black : Qt::red);
+            row->setData(column, Qt::AccessibleDescriptionRole,
+                         valid ? QString() : tr("more devices than supported"));
+        }
+        allValid = allValid && valid;
+    }
+    return allValid;
+}
+
+void RoomGroupPanels::showCurrentPanel()
+{
+    const int index = m_list->currentGroup();
+    if (index >= 0 && index < m_panels.size()) {
+        m_panels.at(index)->buildLists(m_list);
+        m_stack->setCurrentWidget(m_panels.at(index));
     }
 }

@@ -4,13 +4,13 @@
 
 namespace {
 
-constexpr int minimumRowHeight = 26;
+constexpr int minRowHeight = 26;
 
 } // namespace
 
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    return QStyledItemDelegate::sizeHint(option, index).expandedTo({0, minimumRowHeight});
+    return QStyledItemDelegate::sizeHint(option, index).expandedTo({0, minRowHeight});
 }
 
 void RowDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,

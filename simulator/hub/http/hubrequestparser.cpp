@@ -3,8 +3,8 @@
 namespace {
 
 // Far above anything a peer has to send, low enough to keep a stray peer from filling the memory.
-constexpr qsizetype largestHeader = 0x10000;
-constexpr qlonglong largestBody = 16LL * 1024 * 1024;
+constexpr qsizetype maxHeaderLength = 0x10000;
+constexpr qlonglong maxBodyLength = 16LL * 1024 * 1024;
 
 RequestReading malformed(const QString& problem)
 {
@@ -28,8 +28,8 @@ QList<QByteArray> splitLines(const QByteArray& header)
 
 RequestReading readIncomplete(const QByteArray& bytes)
 {
-    if (bytes.size() > largestHeader) {
-        return malformed(QStringLiteral("header longer than %1 bytes").arg(largestHeader));
+    if (bytes.size() > maxHeaderLength) {
+        return malformed(QStringLiteral("header longer than %1 bytes").arg(maxHeaderLength));
     }
     if (bytes.contains("\n\n")) {
         return malformed(QStringLiteral("lines end in LF instead of CR LF"));
@@ -52,7 +52,7 @@ qlonglong announcedLength(const HubRequest& request)
     }
     bool ok = false;
     const qlonglong length = value->toLongLong(&ok);
-    return ok && length <= largestBody ? length : -1;
+    return ok && length <= maxBodyLength ? length : -1;
 }
 
 } // namespace

@@ -38,7 +38,7 @@ QByteArray hashIn(const QJsonObject& body, QLatin1String key)
 
 bool isPresetNumber(int number)
 {
-    return number >= 1 && number <= HubState::highestPreset;
+    return number >= 1 && number <= HubState::maxPreset;
 }
 
 QJsonObject accepted()

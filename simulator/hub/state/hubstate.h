@@ -26,7 +26,7 @@ struct StoredPreset
 class HubState
 {
 public:
-    static constexpr int highestPreset = 99;
+    static constexpr int maxPreset = 99;
 
     explicit HubState(const HubDescription& description);
 

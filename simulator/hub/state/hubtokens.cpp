@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int mostTokens = 64;
+constexpr int maxTokens = 64;
 
 QByteArray randomText()
 {
@@ -18,7 +18,7 @@ QByteArray randomText()
 
 QByteArray HubTokens::issue(Access access)
 {
-    if (m_tokens.size() >= mostTokens) {
+    if (m_tokens.size() >= maxTokens) {
         m_tokens.removeFirst();
     }
     m_tokens.append({randomText(), access});

@@ -29,8 +29,8 @@
 namespace {
 
 constexpr qint64 longestLoadMs = 1000;
-constexpr qint64 mostWholeLoads = 20; // what a load may take where a checker slows everything
-constexpr qint64 mostMemoryKiB = qint64(200) * 1024;
+constexpr qint64 maxWholeLoads = 20; // what a load may take where a checker slows everything
+constexpr qint64 maxMemoryKiB = qint64(200) * 1024;
 #ifdef __SANITIZE_ADDRESS__
 constexpr int damagedFiles = 2'000; // the checker makes each take five times as long
 #else
@@ -225,7 +225,7 @@ void TestResumeTorture::changedBytesCostNeitherTimeNorMemory()
     QVERIFY(before.saveResume(m_path));
     const QByteArray bytes = bytesOf(m_path);
     const DialogCloser closer;
-    const qint64 limit = std::max(longestLoadMs, mostWholeLoads * wholeLoad(m_path));
+    const qint64 limit = std::max(longestLoadMs, maxWholeLoads * wholeLoad(m_path));
     std::mt19937 random(seed + quint32(changes));
     int loaded = 0;
     qint64 longest = 0;
@@ -249,7 +249,7 @@ void TestResumeTorture::changedBytesCostNeitherTimeNorMemory()
     qInfo("%d of %d damaged files were loaded; at most %lld ms each and %lld KiB in all", loaded,
           damagedFiles / 2, longest, peakMemory());
     QVERIFY(loaded > 0 && loaded < damagedFiles / 2);
-    QVERIFY(peakMemory() < mostMemoryKiB);
+    QVERIFY(peakMemory() < maxMemoryKiB);
 }
 
 void TestResumeTorture::aFileIsWholeWheneverTheProgramIsKilled()

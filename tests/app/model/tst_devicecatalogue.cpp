@@ -61,7 +61,7 @@ void TestDeviceCatalogue::everyModelIsAcceptedFromItsLeastFirmwareOn()
 {
     QFETCH(const int, index);
     const DeviceModel& line = lineAt(index);
-    QVERIFY(isDeviceAccepted(line.leastFirmware, line.text));
+    QVERIFY(isDeviceAccepted(line.minFirmware, line.text));
     QVERIFY(!isDeviceAccepted(u"0.99.99", line.text));
 }
 

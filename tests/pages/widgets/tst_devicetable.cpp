@@ -57,7 +57,7 @@ struct Table : DeviceTable
         return labels;
     }
 
-    QWidget* buttonOf(int row) const { return itemWidget(topLevelItem(row), identifyColumn); }
+    QWidget* buttonOf(int row) const { return itemWidget(topLevelItem(row), IdentifyColumn); }
 
     void doItemsLayout() override
     {
@@ -221,7 +221,7 @@ void TestDeviceTable::decoratesEveryRowOnceInTheOrderShown()
     table.setSortingEnabled(true);
     QStringList labels;
     table.setRows(threeDevices(), [&](QTreeWidgetItem* row) {
-        QVERIFY(table.itemWidget(row, DeviceTable::identifyColumn));
+        QVERIFY(table.itemWidget(row, DeviceTable::IdentifyColumn));
         QCOMPARE(table.topLevelItemCount(), 3);
         labels.append(row->text(0));
     });
@@ -245,11 +245,11 @@ void TestDeviceTable::textsSetWhileDecoratingDoNotMoveRows()
 void TestDeviceTable::rowsAreComfortablyHighAndButtonsCentred()
 {
     Table table;
-    table.setColumnWidth(DeviceTable::identifyColumn, 40);
+    table.setColumnWidth(DeviceTable::IdentifyColumn, 40);
     table.setRows(threeDevices());
     table.show();
     for (int row = 0; row < 3; ++row) {
-        const QRect cell = table.visualRect(table.model()->index(row, DeviceTable::identifyColumn));
+        const QRect cell = table.visualRect(table.model()->index(row, DeviceTable::IdentifyColumn));
         QVERIFY(cell.height() >= 24);
         QCOMPARE(table.buttonOf(row)->size(), QSize(20, 20));
         QVERIFY((table.buttonOf(row)->geometry().center() - cell.center()).manhattanLength() <= 2);
@@ -279,7 +279,7 @@ void TestDeviceTable::tabGoesThroughTheRowsInReadingOrder()
     QVERIFY(QTest::qWaitForWindowActive(&window));
     table->setFocus();
     for (int row = 0; row < 3; ++row) {
-        for (const int column : {DeviceTable::identifyColumn, roomColumn}) {
+        for (const int column : {int(DeviceTable::IdentifyColumn), roomColumn}) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             QCOMPARE(QApplication::focusWidget(),
                      table->itemWidget(table->topLevelItem(row), column));

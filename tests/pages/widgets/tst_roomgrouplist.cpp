@@ -50,9 +50,9 @@ void TestRoomGroupList::listsNumberLayoutAndRooms()
 {
     const List list;
     QCOMPARE(list.topLevelItemCount(), 3);
-    QCOMPARE(list.topLevelItem(1)->text(RoomGroupList::numberColumn), QStringLiteral("2"));
-    QCOMPARE(list.topLevelItem(2)->text(RoomGroupList::layoutColumn), QStringLiteral("2"));
-    QCOMPARE(list.topLevelItem(0)->text(RoomGroupList::roomColumn), QStringLiteral("2,1"));
+    QCOMPARE(list.topLevelItem(1)->text(RoomGroupList::NumberColumn), QStringLiteral("2"));
+    QCOMPARE(list.topLevelItem(2)->text(RoomGroupList::LayoutColumn), QStringLiteral("2"));
+    QCOMPARE(list.topLevelItem(0)->text(RoomGroupList::RoomColumn), QStringLiteral("2,1"));
     QVERIFY(!list.rootIsDecorated());
     QVERIFY(!list.accessibleName().isEmpty());
 }
@@ -63,19 +63,19 @@ void TestRoomGroupList::theRoomCellIsWhiteOnTheColourOfTheFirstRoom()
     for (int row = 0; row < 3; ++row) {
         const QTreeWidgetItem* item = list.topLevelItem(row);
         const QColor color = roomColor(groups().at(row).rooms.first(), Qt::white);
-        QCOMPARE(item->background(RoomGroupList::roomColumn).color(), color);
-        QCOMPARE(item->foreground(RoomGroupList::roomColumn).color(), QColor(Qt::white));
-        QCOMPARE(list.pixelIn(row, RoomGroupList::roomColumn), color);
+        QCOMPARE(item->background(RoomGroupList::RoomColumn).color(), color);
+        QCOMPARE(item->foreground(RoomGroupList::RoomColumn).color(), QColor(Qt::white));
+        QCOMPARE(list.pixelIn(row, RoomGroupList::RoomColumn), color);
     }
 }
 
 void TestRoomGroupList::theRoomKeepsItsColourWhileSelected()
 {
     List list;
-    const QColor before = list.pixelIn(0, RoomGroupList::numberColumn);
-    list.selectRow(0);
-    QCOMPARE(list.pixelIn(0, RoomGroupList::roomColumn), roomColor(2, Qt::white));
-    QVERIFY(list.pixelIn(0, RoomGroupList::numberColumn) != before);
+    const QColor before = list.pixelIn(0, RoomGroupList::NumberColumn);
+    list.selectGroup(0);
+    QCOMPARE(list.pixelIn(0, RoomGroupList::RoomColumn), roomColor(2, Qt::white));
+    QVERIFY(list.pixelIn(0, RoomGroupList::NumberColumn) != before);
 }
 
 void TestRoomGroupList::takesHeadersAndWidths()
@@ -89,30 +89,30 @@ void TestRoomGroupList::takesHeadersAndWidths()
 void TestRoomGroupList::selectingARowIsReported()
 {
     List list;
-    QCOMPARE(list.currentRow(), -1);
+    QCOMPARE(list.currentGroup(), -1);
     QSignalSpy selected(&list, SIGNAL(itemSelectionChanged()));
-    list.selectRow(1);
+    list.selectGroup(1);
     QCOMPARE(selected.size(), 1);
-    QCOMPARE(list.currentRow(), 1);
-    list.selectRow(7);
-    list.selectRow(-1);
-    QCOMPARE(list.currentRow(), 1);
+    QCOMPARE(list.currentGroup(), 1);
+    list.selectGroup(7);
+    list.selectGroup(-1);
+    QCOMPARE(list.currentGroup(), 1);
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
                       list.visualItemRect(list.topLevelItem(2)).center());
     QCOMPARE(selected.size(), 2);
-    QCOMPARE(list.currentRow(), 2);
+    QCOMPARE(list.currentGroup(), 2);
 }
 
 void TestRoomGroupList::settingGroupsLeavesNoRowCurrent()
 {
     List list;
-    list.selectRow(2);
+    list.selectGroup(2);
     QSignalSpy selected(&list, SIGNAL(itemSelectionChanged()));
     list.setGroups(groups().mid(0, 1));
     QCOMPARE(selected.size(), 0);
-    QCOMPARE(list.currentRow(), -1);
+    QCOMPARE(list.currentGroup(), -1);
     QCOMPARE(list.topLevelItemCount(), 1);
-    list.selectRow(0);
+    list.selectGroup(0);
     QCOMPARE(selected.size(), 1);
     list.setGroups({});
     QCOMPARE(list.topLevelItemCount(), 0);
@@ -121,9 +121,9 @@ void TestRoomGroupList::settingGroupsLeavesNoRowCurrent()
 void TestRoomGroupList::theArrowKeysSelect()
 {
     List list;
-    list.selectRow(0);
+    list.selectGroup(0);
     QTest::keyClick(&list, Qt::Key_Down);
-    QCOMPARE(list.currentRow(), 1);
+    QCOMPARE(list.currentGroup(), 1);
 }
 
 TESSEL_TEST_MAIN(TestRoomGroupList)

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QWidget>
+
+class IDocAccessor;
+
+/// What a step shows between the title and the buttons: it reads what earlier steps stored and
+/// stores records of its own. When, its frame decides (StepPage).
+class StepContent : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Fills the widgets from the document. Called while the page is not visible yet: filling
+    /// visible tables costs a layout per row.
+    virtual void load() = 0;
+
+    /// Replaces the step's records in the document by what is shown.
+    virtual void store() = 0;
+
+    /// Puts what is shown back to its start. The document keeps its records until store(), unless
+    /// the step says otherwise.
+    virtual void reset() = 0;
+
+Q_SIGNALS:
+    /// Whether the wizard may go on with what is shown now. A step that never emits it may always
+    /// be left.
+    void nextButtonEnabled(bool enable);
+
+protected:
+    /// `doc` is not owned and outlives the content.
+    StepContent(IDocAccessor* doc, QWidget* parent);
+
+    IDocAccessor& doc() const;
+
+private:
+    IDocAccessor* m_doc;
+};
