@@ -1,14 +1,29 @@
 #include "entry.h"
 
+#include "commandline.h"
+#include "console.h"
 #include "mainwindow.h"
 #include "tesseldoc.h"
 
 #include <QApplication>
 
+namespace {
+
+void tellIgnoredArguments()
+{
+    for (const QString& argument : ignoredArguments(QCoreApplication::arguments())) {
+        writeToErrors(QStringLiteral("tessel: argument ignored: %1\n").arg(argument));
+    }
+}
+
+} // namespace
+
 int runWizard(int& argc, char** argv)
 {
     // Destroyed from the bottom up: window, document, application.
     const QApplication application(argc, argv);
+    // Qt has taken its own ones out.
+    tellIgnoredArguments();
     TesselDoc doc(nullptr);
     MainWindow window(nullptr, &doc);
     window.show();

@@ -9,6 +9,8 @@ namespace {
 constexpr int noNic = -1; // how the starting program says that it has chosen no interface
 constexpr qsizetype requiredFields = 5;
 
+constexpr qsizetype mostShown = 40;
+
 QString withoutQuotes(QString text)
 {
     return text.remove(QLatin1Char('"'));
@@ -25,6 +27,35 @@ DeviceData deviceFrom(const QStringList& fields)
     device.searchType = fields.value(5);
     device.password = fields.value(6);
     return device;
+}
+
+/// The number of an interface argument, `noNic` included.
+std::optional<int> numberFromArgument(const QString& argument)
+{
+    const QStringList parts = argument.split(QLatin1Char(':'));
+    if (parts.size() != 2 || parts.first().compare(u"-N", Qt::CaseInsensitive) != 0) {
+        return std::nullopt;
+    }
+    bool ok = false;
+    const int number = parts.last().toInt(&ok);
+    return ok ? std::optional(number) : std::nullopt;
+}
+
+/// The beginning of an argument, without its value, fit for a line on a terminal.
+QString shown(const QString& argument)
+{
+    const QString separators = QStringLiteral(":=/");
+    QString text;
+    for (const QChar c : argument) {
+        if (text.size() == mostShown) {
+            return text + QStringLiteral("...");
+        }
+        text += c >= u' ' && c <= u'~' ? c : QChar(u'?');
+        if (separators.contains(c)) {
+            return text + QStringLiteral("...");
+        }
+    }
+    return text;
 }
 
 } // namespace
@@ -48,13 +79,8 @@ CommandLine readCommandLine(const QStringList& arguments)
 
 std::optional<int> nicIndexFromArgument(const QString& argument)
 {
-    const QStringList parts = argument.split(QLatin1Char(':'));
-    if (parts.size() != 2 || parts.first().compare(u"-N", Qt::CaseInsensitive) != 0) {
-        return std::nullopt;
-    }
-    bool ok = false;
-    const int index = parts.last().toInt(&ok);
-    return ok && index != noNic ? std::optional(index) : std::nullopt;
+    const std::optional<int> number = numberFromArgument(argument);
+    return number != noNic ? number : std::nullopt;
 }
 
 std::optional<DeviceData> deviceFromArgument(const QString& argument)
@@ -73,4 +99,19 @@ std::optional<DeviceData> deviceFromArgument(const QString& argument)
         return std::nullopt;
     }
     return device;
+}
+
+QStringList ignoredArguments(const QStringList& arguments)
+{
+    QStringList ignored;
+    // A device's fields are joined by "/", the password last, and a shell may have parted them at
+    // spaces: behind the first "/" any argument can be a piece of a password.
+    bool mayBePassword = false;
+    for (const QString& argument : arguments.mid(1)) {
+        if (!numberFromArgument(argument) && !deviceFromArgument(argument)) {
+            ignored.append(mayBePassword ? QStringLiteral("...") : shown(argument));
+        }
+        mayBePassword = mayBePassword || argument.contains(u'/');
+    }
+    return ignored;
 }

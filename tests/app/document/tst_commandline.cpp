@@ -23,6 +23,10 @@ private Q_SLOTS:
     void devicesKeepTheirOrder();
     void ofDevicesOfOneAddressTheFirstAcceptedOneCounts();
     void unknownArgumentsAreIgnored();
+    void ignoredArgumentsAreShownWithoutTheirValues_data();
+    void ignoredArgumentsAreShownWithoutTheirValues();
+    void noPieceOfAPasswordIsShown_data();
+    void noPieceOfAPasswordIsShown();
 };
 
 void TestCommandLine::interfaceIndex_data()
@@ -213,6 +217,65 @@ void TestCommandLine::unknownArgumentsAreIgnored()
          QStringLiteral("PX-HB/A/2.1.0/10.0.0.2/00:a0:de:00:00:02"), QString()});
     QCOMPARE(commandLine.nicIndex, 0);
     QVERIFY(commandLine.devices.isEmpty());
+}
+
+void TestCommandLine::ignoredArgumentsAreShownWithoutTheirValues_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<QStringList>("shown");
+    const auto row = [](const char* argument, const QStringList& shown) {
+        QTest::newRow(argument) << QString::fromUtf8(argument) << shown;
+    };
+    row("-N:3", {});
+    row("-n:-1", {});
+    row("-D:PX-HB/A/2.1.0/10.0.0.1/00:a0:de:00:00:01", {});
+    row("--bogus", {QStringLiteral("--bogus")});
+    row("stray", {QStringLiteral("stray")});
+    row("--part=2", {QStringLiteral("--part=...")});
+    row("-X:1", {QStringLiteral("-X:...")});
+    row("-N:x", {QStringLiteral("-N:...")});
+    row("-D:", {QStringLiteral("-D:...")});
+    row("-D:PX-HB/A/1.0.0/10.0.0.1/00:a0:de:00:00:01", {QStringLiteral("-D:...")});
+    row("hall.json/", {QStringLiteral("hall.json/...")});
+    row("two\nlines\x1b[31m\xc3\xa9", {QStringLiteral("two?lines?[31m?")});
+    row("a-word-of-far-more-than-any-forty-characters",
+        {QStringLiteral("a-word-of-far-more-than-any-forty-charac...")});
+    row("", {QString()});
+}
+
+void TestCommandLine::ignoredArgumentsAreShownWithoutTheirValues()
+{
+    QFETCH(const QString, argument);
+    QFETCH(const QStringList, shown);
+    QCOMPARE(ignoredArguments({QStringLiteral("/usr/bin/tessel"), argument}), shown);
+}
+
+void TestCommandLine::noPieceOfAPasswordIsShown_data()
+{
+    QTest::addColumn<QString>("arguments");
+    const auto row = [](const char* name, const char* arguments) {
+        QTest::newRow(name) << QString::fromLatin1(arguments);
+    };
+    // Separated by spaces, as a shell does where quotes are missing.
+    row("a refused device", "-D:XY-1/A/2.1/10.0.0.1/00:a0:de:00:00:01/HTTP/secret");
+    row("no colon", "-DPX-HB/A/2.1/10.0.0.1/00:a0:de:00:00:01/HTTP/secret");
+    row("two hyphens", "--D:PX-HB/A/2.1/10.0.0.1/00:a0:de:00:00:01/HTTP/secret");
+    row("an equals sign", "-D=PX-HB/A/2.1/10.0.0.1/00:a0:de:00:00:01/HTTP/secret");
+    row("other separators", "-D:PX-HB,A,2.1,10.0.0.1,00:a0:de:00:00:01,HTTP,secret");
+    row("a prefix apart", "-D: PX-HB/A/2.1/10.0.0.1/00:a0:de:00:00:01/HTTP/secret");
+    row("a label with a space", "-D:PX-HB/A B/2.1/10.0.0.1/00:a0:de:00:00:01/HTTP/secret");
+    row("a model with a space", "-D:PX HB/A/2.1/10.0.0.1/00:a0:de:00:00:01/HTTP/secret");
+    row("a password with a space", "-D:PX-HB/A/2.1/10.0.0.1/00:a0:de:00:00:01/HTTP/top secret");
+    row("one with a hyphen", "-D:PX-HB/A/2.1/10.0.0.1/00:a0:de:00:00:01/HTTP/top -secret");
+}
+
+void TestCommandLine::noPieceOfAPasswordIsShown()
+{
+    QFETCH(const QString, arguments);
+    const QStringList before{QStringLiteral("tessel"), QStringLiteral("-N:1")};
+    const QStringList ignored = ignoredArguments(before + arguments.split(u' '));
+    QVERIFY(!ignored.isEmpty());
+    QVERIFY2(!ignored.join(u' ').contains(u"secret"), qPrintable(ignored.join(u' ')));
 }
 
 TESSEL_TEST_MAIN(TestCommandLine)

@@ -1,0 +1,299 @@
+#include "scriptcopy.h"
+#include "testcase.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+namespace {
+
+const QString bootstrap = QStringLiteral("bootstrap");
+
+QStringList words(const char* text)
+{
+    return QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+/// The scripts, with programs that only say that they were called.
+class TestScripts : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyScriptSaysWhatItIsForAndStartsNothing_data();
+    void everyScriptSaysWhatItIsForAndStartsNothing();
+    void wrongUsageIsRefused_data();
+    void wrongUsageIsRefused();
+    void nothingIsInstalledWhereAllIsThere();
+    void rootInstallsWithoutAQuestion();
+    void sudoInstallsWithoutAQuestion();
+    void checkersComeWithTheirChecks_data();
+    void checkersComeWithTheirChecks();
+    void whereNobodyMayInstallTheAdviceCanBePasted_data();
+    void whereNobodyMayInstallTheAdviceCanBePasted();
+    void whoMayOpenNoPortIsToldWhatToDo_data();
+    void whoMayOpenNoPortIsToldWhatToDo();
+    void demoBuildsNothingThatItCouldNotPlay();
+    void demoBuildsWhatItPlays();
+    void demoKeepsWhatAPersonSaved();
+    void buildTakesWarningsAsErrorsOnDemand();
+};
+
+void TestScripts::everyScriptSaysWhatItIsForAndStartsNothing_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("argument");
+    for (const QString& script : ScriptCopy::names()) {
+        for (const QString& argument : {QStringLiteral("--help"), QStringLiteral("-h")}) {
+            QTest::newRow(qPrintable(script + u' ' + argument)) << script << argument;
+        }
+    }
+}
+
+void TestScripts::everyScriptSaysWhatItIsForAndStartsNothing()
+{
+    QFETCH(const QString, script);
+    QFETCH(const QString, argument);
+    const ScriptCopy copy;
+    const ScriptRun run = copy.run(script, {argument});
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(!run.output.isEmpty() && run.output.front().isUpper(), qPrintable(run.output));
+    // Whatever it started is not there, and the shell would say so.
+    QCOMPARE(run.errors, QString());
+    QCOMPARE(copy.leftBehind(), QStringList());
+}
+
+void TestScripts::wrongUsageIsRefused_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QStringList>("arguments");
+    const auto row = [](const char* call) {
+        QStringList arguments = words(call);
+        const QString script = arguments.takeFirst();
+        QTest::newRow(call) << script << arguments;
+    };
+    row("bench --bogus");
+    row("bench --instructions more");
+    row("bootstrap bogus");
+    row("build bogus");
+    row("check more");
+    row("demo --bogus");
+    row("demo --interactive more");
+    row("fuzz --bogus");
+    row("valgrind --bogus");
+    row("with-network");
+    row("with-network --ready");
+    row("with-network hall wizard");
+    row("with-port-80");
+}
+
+void TestScripts::wrongUsageIsRefused()
+{
+    QFETCH(const QString, script);
+    QFETCH(const QStringList, arguments);
+    const ScriptCopy copy;
+    const ScriptRun run = copy.run(script, arguments);
+    QCOMPARE(run.exitCode, 64);
+    QCOMPARE(run.output, QString());
+    QCOMPARE(run.errors, copy.run(script, {QStringLiteral("--help")}).output);
+}
+
+void TestScripts::nothingIsInstalledWhereAllIsThere()
+{
+    ScriptCopy copy;
+    copy.givePackages(true);
+    const ScriptRun run = copy.run(bootstrap, words("check fuzz bench display valgrind"));
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.output + run.errors, QString());
+    QCOMPARE(copy.log(), QString());
+}
+
+void TestScripts::rootInstallsWithoutAQuestion()
+{
+    ScriptCopy copy;
+    copy.givePackages(false);
+    copy.give(QStringLiteral("id"), QStringLiteral("echo 0"));
+    const ScriptRun run = copy.run(bootstrap, {});
+    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+    const QStringList calls = copy.log().split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(calls.size(), 2);
+    QCOMPARE(calls.first(), QStringLiteral("noninteractive|update -q|"));
+    QVERIFY(calls.last().startsWith(u"noninteractive|install -q -y "));
+    QVERIFY(calls.last().endsWith(u'|'));
+}
+
+void TestScripts::sudoInstallsWithoutAQuestion()
+{
+    ScriptCopy copy;
+    copy.givePackages(false);
+    copy.giveUser(true);
+    const ScriptRun run = copy.run(bootstrap, {});
+    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+    const QStringList calls = copy.log().split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(calls.size(), 2);
+    QCOMPARE(calls.first(), QStringLiteral("noninteractive|update -q|"));
+    QVERIFY(calls.last().startsWith(u"noninteractive|install -q -y "));
+    QVERIFY(calls.last().endsWith(u'|'));
+}
+
+void TestScripts::checkersComeWithTheirChecks_data()
+{
+    QTest::addColumn<QString>("purpose");
+    QTest::addColumn<QStringList>("packages");
+    QTest::newRow("check") << QStringLiteral("check") << words("clang-format clang-tidy git");
+    QTest::newRow("fuzz") << QStringLiteral("fuzz") << words("clang libclang-rt-dev");
+    QTest::newRow("bench") << QStringLiteral("bench") << words("libbenchmark-dev");
+    QTest::newRow("display") << QStringLiteral("display") << words("xvfb");
+    QTest::newRow("valgrind") << QStringLiteral("valgrind") << words("valgrind");
+}
+
+void TestScripts::checkersComeWithTheirChecks()
+{
+    QFETCH(const QString, purpose);
+    QFETCH(const QStringList, packages);
+    ScriptCopy copy;
+    copy.givePackages(false);
+    copy.give(QStringLiteral("id"), QStringLiteral("echo 0"));
+    copy.run(bootstrap, {});
+    static const QRegularExpression between(QStringLiteral("[\\s|]"));
+    const QStringList ordinary = copy.log().split(between);
+    copy.run(bootstrap, {purpose});
+    const QStringList all = copy.log().split(between);
+    for (const QString& package : packages) {
+        QVERIFY2(!ordinary.contains(package), qPrintable(package));
+        QVERIFY2(all.contains(package), qPrintable(package));
+    }
+    QCOMPARE(all.count(QStringLiteral("g++")), 2);
+}
+
+void TestScripts::whereNobodyMayInstallTheAdviceCanBePasted_data()
+{
+    QTest::addColumn<bool>("hasSudo");
+    QTest::newRow("there is no sudo") << false;
+    QTest::newRow("sudo wants a password and there is no terminal") << true;
+}
+
+void TestScripts::whereNobodyMayInstallTheAdviceCanBePasted()
+{
+    QFETCH(const bool, hasSudo);
+    ScriptCopy copy;
+    copy.givePackages(false);
+    copy.give(QStringLiteral("id"), QStringLiteral("echo 1000"));
+    if (hasSudo) {
+        copy.giveUser(false);
+    }
+    const ScriptRun run = copy.run(bootstrap, {});
+    QCOMPARE(run.exitCode, 1);
+    // It was asked whether it works without a password, and not to ask for one.
+    QCOMPARE(copy.log(), hasSudo ? QStringLiteral("sudo -n true\n") : QString());
+    static const QRegularExpression advice(
+        QStringLiteral("^  apt-get update && "
+                       "apt-get install -y --no-install-recommends cmake .*util-linux$"),
+        QRegularExpression::MultilineOption);
+    QVERIFY2(run.errors.contains(advice), qPrintable(run.errors));
+}
+
+void TestScripts::whoMayOpenNoPortIsToldWhatToDo_data()
+{
+    QTest::addColumn<QString>("setting");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("advice");
+    const auto row = [](const char* setting, const char* value, const char* advice) {
+        QTest::newRow(setting) << QString::fromLatin1(setting) << QString::fromLatin1(value)
+                               << QStringLiteral("  sudo sysctl ") + QString::fromLatin1(advice);
+    };
+    row("/proc/sys/user/max_user_namespaces", "0", "user.max_user_namespaces=1000");
+    row("/proc/sys/kernel/unprivileged_userns_clone", "0", "kernel.unprivileged_userns_clone=1");
+    row("/proc/sys/kernel/apparmor_restrict_unprivileged_userns", "1",
+        "kernel.apparmor_restrict_unprivileged_userns=0");
+    row("something else", "", "net.ipv4.ip_unprivileged_port_start=80");
+}
+
+void TestScripts::whoMayOpenNoPortIsToldWhatToDo()
+{
+    QFETCH(const QString, setting);
+    QFETCH(const QString, value);
+    QFETCH(const QString, advice);
+    ScriptCopy copy;
+    copy.giveUser(false);
+    copy.give(QStringLiteral("unshare"), QStringLiteral("exit 1"));
+    copy.give(QStringLiteral("cat"), QStringLiteral("case $1 in\n"
+                                                    "*/ip_unprivileged_port_start) echo 1024 ;;\n"
+                                                    "'%1') echo %2 ;;\n"
+                                                    "esac")
+                                         .arg(setting, value));
+    copy.give(QStringLiteral("started"), QStringLiteral("echo started"));
+    const ScriptRun run = copy.run(QStringLiteral("with-port-80"), {QStringLiteral("started")});
+    QCOMPARE(run.exitCode, 77);
+    QCOMPARE(run.output, QString());
+    QVERIFY2(run.errors.split(u'\n').contains(advice), qPrintable(run.errors));
+}
+
+void TestScripts::demoBuildsNothingThatItCouldNotPlay()
+{
+    ScriptCopy copy;
+    copy.givePackages(true);
+    copy.giveUser(false);
+    copy.give(QStringLiteral("unshare"), QStringLiteral("exit 1"));
+    copy.give(QStringLiteral("cat"), QStringLiteral("echo 1024"));
+    copy.give(QStringLiteral("cmake"), QStringLiteral("echo \"cmake $*\" >>\"$LOG\""));
+    const ScriptRun run = copy.run(QStringLiteral("demo"), {});
+    QCOMPARE(run.exitCode, 77);
+    QVERIFY2(run.errors.contains(u"sudo sysctl "), qPrintable(run.errors));
+    QCOMPARE(copy.log(), QString());
+}
+
+void TestScripts::demoBuildsWhatItPlays()
+{
+    ScriptCopy copy;
+    copy.givePackages(true);
+    copy.give(QStringLiteral("id"), QStringLiteral("echo 0"));
+    copy.give(QStringLiteral("cmake"), QStringLiteral("echo \"cmake $*\" >>\"$LOG\"\n"
+                                                      "[ \"$1\" != --build ]"));
+    const ScriptRun run = copy.run(QStringLiteral("demo"), {});
+    QVERIFY(run.output.section(u'\n', 0, 0).contains(u"minutes"));
+    QCOMPARE(copy.log(), QStringLiteral("cmake --preset release\n"
+                                        "cmake --build --preset release "
+                                        "--target tessel tessel-demo tessel-hall\n"));
+}
+
+void TestScripts::demoKeepsWhatAPersonSaved()
+{
+    ScriptCopy copy;
+    copy.givePackages(true);
+    copy.give(QStringLiteral("id"), QStringLiteral("echo 0"));
+    // What it "builds" are a hall that opens and a wizard that finds what it saved, if it did.
+    copy.give(QStringLiteral("tessel-hall"),
+              QStringLiteral("trap 'exit 0' TERM; echo 'The hall is open.'\n"
+                             "while :; do sleep 0.1; done"));
+    copy.give(QStringLiteral("tessel"), QStringLiteral("cat \"$HOME/saved\" >>\"$LOG\"\n"
+                                                       "echo saved >\"$HOME/saved\""));
+    copy.give(QStringLiteral("cmake"), QStringLiteral("mkdir -p build\n"
+                                                      "ln -sfn \"$PATH\" build/release"));
+    QProcessEnvironment environment;
+    environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":0"));
+    environment.insert(QStringLiteral("HOME"), QStringLiteral("/nowhere"));
+    for (int start = 1; start <= 2; ++start) {
+        const ScriptRun run =
+            copy.run(QStringLiteral("demo"), {QStringLiteral("--interactive")}, environment);
+        QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+    }
+    QCOMPARE(copy.log(), QStringLiteral("saved\n"));
+}
+
+void TestScripts::buildTakesWarningsAsErrorsOnDemand()
+{
+    ScriptCopy copy;
+    copy.givePackages(true);
+    QProcessEnvironment environment;
+    environment.insert(QStringLiteral("TESSEL_WERROR"), QStringLiteral("ON"));
+    copy.give(QStringLiteral("cmake"), QStringLiteral("echo \"cmake $*\" >>\"$LOG\""));
+    const ScriptRun run = copy.run(QStringLiteral("build"), {}, environment);
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(copy.log(), QStringLiteral("cmake --preset release -DTESSEL_WERROR=ON\n"
+                                        "cmake --build --preset release\n"));
+}
+
+TESSEL_TEST_MAIN(TestScripts)
+#include "tst_scripts.moc"
