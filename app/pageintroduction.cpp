@@ -1,6 +1,7 @@
 #include "pageintroduction.h"
 
 #include "ipagecontroller.h"
+#include "pagekeys.h"
 #include "wizardpage.h"
 
 #include <QHBoxLayout>
@@ -42,6 +43,7 @@ PageIntroduction::PageIntroduction(IPageController* controller, IDocAccessor* do
 
     connect(closeButton, SIGNAL(clicked()), this, SLOT(closeButtonClicked()));
     connect(nextButton, SIGNAL(clicked()), this, SLOT(nextButtonClicked()));
+    pressOnNextKey(this, nextButton);
 }
 
 void PageIntroduction::nextButtonClicked()

@@ -22,10 +22,17 @@ public:
     /// the step says otherwise.
     virtual void reset() = 0;
 
+    /// What keeps the wizard from going on, one sentence for each thing that is still to be done;
+    /// empty while it may go on. A step that may always be left has nothing to say.
+    virtual QStringList missing() const { return {}; }
+
 Q_SIGNALS:
     /// Whether the wizard may go on with what is shown now. A step that never emits it may always
     /// be left.
     void nextButtonEnabled(bool enable);
+
+    /// missing() may have changed although it is not empty, before and after.
+    void missingChanged();
 
 protected:
     /// `doc` is not owned and outlives the content.

@@ -1,6 +1,8 @@
 #include "steppage.h"
 
 #include "ipagecontroller.h"
+#include "pagekeys.h"
+#include "quietline.h"
 #include "stepcontent.h"
 
 #include <QHBoxLayout>
@@ -11,9 +13,11 @@ StepPage::StepPage(const QString& title, int pageNumber, StepContent* content, L
                    IPageController* controller, IDocAccessor* doc, QWidget* parent)
     : BasePage(title, pageNumber, controller, doc, parent)
     , m_content(content)
+    , m_quietLine(new QuietLine(this))
 {
     buildLayout(left);
     connect(m_content, SIGNAL(nextButtonEnabled(bool)), this, SLOT(setNextButtonEnabled(bool)));
+    connect(m_content, SIGNAL(missingChanged()), this, SLOT(showMissing()));
 }
 
 void StepPage::enterFrom(int previousPageNumber)
@@ -36,6 +40,15 @@ void StepPage::storeToDocument()
 void StepPage::setNextButtonEnabled(bool enable)
 {
     m_nextButton->setEnabled(enable);
+    showMissing();
+}
+
+void StepPage::showMissing()
+{
+    const QStringList missing = m_nextButton->isEnabled() ? QStringList() : m_content->missing();
+    m_quietLine->say(missing);
+    m_nextButton->setToolTip(missing.isEmpty() ? nextKeyHint() : missing.join(u'\n'));
+    m_nextButton->setAccessibleDescription(missing.join(u' '));
 }
 
 void StepPage::backButtonClicked()
@@ -69,12 +82,14 @@ void StepPage::buildLayout(LeftButton left)
     if (left == LeftButton::Close) {
         addButton(row, tr("Close"), QStringLiteral("closeButton"), SLOT(closeButtonClicked()));
     } else {
-        addButton(row, tr("Back"), QStringLiteral("backButton"), SLOT(backButtonClicked()));
+        pressOnBackKey(this, addButton(row, tr("Back"), QStringLiteral("backButton"),
+                                       SLOT(backButtonClicked())));
     }
     addButton(row, tr("Reset"), QStringLiteral("resetButton"), SLOT(resetButtonClicked()));
-    row->addStretch();
+    row->addWidget(m_quietLine, 1);
     m_nextButton =
         addButton(row, tr("Next"), QStringLiteral("nextButton"), SLOT(nextButtonClicked()));
+    pressOnNextKey(this, m_nextButton);
 }
 
 QPushButton* StepPage::addButton(QHBoxLayout* row, const QString& text, const QString& name,

@@ -4,6 +4,7 @@
 
 class QHBoxLayout;
 class QPushButton;
+class QuietLine;
 class StepContent;
 
 /// The frame that the working steps share: the content of the step above a row of buttons.
@@ -11,7 +12,8 @@ class StepContent;
 /// The frame decides when the content is loaded (arriving forward from an earlier step, or after
 /// saved work was loaded), when it is stored (Next, or before saving) and when it is reset; coming
 /// back from a later step keeps the widgets as they are. Next follows the content's
-/// nextButtonEnabled(bool) and is enabled until then.
+/// nextButtonEnabled(bool) and is enabled until then; while it is disabled, a quiet line beside it
+/// and the button itself say what is missing.
 class StepPage : public BasePage
 {
     Q_OBJECT
@@ -23,6 +25,7 @@ public:
 
 public Q_SLOTS:
     void setNextButtonEnabled(bool enable);
+    void showMissing();
 
 protected Q_SLOTS:
     virtual void backButtonClicked(); ///< goes back; nothing is stored
@@ -48,5 +51,6 @@ private:
                            const char* slot);
 
     StepContent* m_content;
+    QuietLine* m_quietLine;
     QPushButton* m_nextButton = nullptr;
 };

@@ -43,6 +43,7 @@ void Configure::load()
     m_panels->load(doc(), [this](const RoomGroup& group, RoomDevices& devices, QWidget* parent) {
         auto* set = new DeviceSet(group, devices, &doc(), parent);
         connect(set, SIGNAL(deviceRemoveStatusChanged()), this, SLOT(deviceRemoveStatusChanged()));
+        connect(set, SIGNAL(faultsChanged()), this, SLOT(faultsChanged()));
         return set;
     });
     deviceRemoveStatusChanged();
@@ -67,5 +68,12 @@ void Configure::deviceSetSelected()
 
 void Configure::deviceRemoveStatusChanged()
 {
-    Q_EMIT nextButtonEnabled(m_panels->showValidity());
+    m_missing = m_panels->showFaults();
+    Q_EMIT nextButtonEnabled(m_missing.isEmpty());
+}
+
+void Configure::faultsChanged()
+{
+    m_missing = m_panels->showFaults();
+    Q_EMIT missingChanged();
 }

@@ -24,16 +24,20 @@ public:
 
     /// Takes every removed device back into its set; the document stays as it is.
     void reset() override;
+    QStringList missing() const override { return m_missing; }
 
 public Q_SLOTS:
     /// Shows the panel of the current row.
     void deviceSetSelected();
     /// Colours the rows by validity and tells whether the step may be left.
     void deviceRemoveStatusChanged();
+    /// The same without a change in validity.
+    void faultsChanged();
 
 private:
     void buildLayout();
     void addTexts(QVBoxLayout* layout);
 
     RoomGroupPanels* m_panels;
+    QStringList m_missing;
 };

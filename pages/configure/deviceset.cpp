@@ -19,13 +19,6 @@ namespace {
 constexpr int hubStretch = 1;
 constexpr int peripheralStretch = 3;
 
-bool isSupported(const DeviceCounts& counts)
-{
-    return counts.hubs <= DeviceCounts::maxHubs &&
-           counts.microphones + counts.speakers <= DeviceCounts::maxMicrophonesAndSpeakers &&
-           counts.controllers <= DeviceCounts::maxControllers;
-}
-
 } // namespace
 
 DeviceSet::DeviceSet(const RoomGroup& group, RoomDevices& devices, IDocAccessor* doc,
@@ -143,10 +136,11 @@ void DeviceSet::count()
         }
     }
     showCounts(counts);
-    const bool valid = isSupported(counts);
-    if (valid != m_valid) {
-        m_valid = valid;
+    const QList<LimitBreach> before = std::exchange(m_breaches, breachesOfSet(counts));
+    if (m_breaches.isEmpty() != before.isEmpty()) {
         Q_EMIT deviceRemoveStatusChanged();
+    } else if (m_breaches != before) {
+        Q_EMIT faultsChanged();
     }
 }
 
@@ -162,9 +156,15 @@ void DeviceSet::showCounts(const DeviceCounts& counts)
     }
 }
 
-bool DeviceSet::isValid() const
+QStringList DeviceSet::faults() const
 {
-    return m_valid;
+    QStringList faults;
+    for (const LimitBreach& breach : m_breaches) {
+        faults.append(tr("Layout %1, room %2 has %3.")
+                          .arg(QString::number(group().sceneNumber), group().roomText(),
+                               breachWords(breach)));
+    }
+    return faults;
 }
 
 void DeviceSet::reset()

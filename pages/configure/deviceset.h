@@ -1,5 +1,6 @@
 #pragma once
 
+#include "devicelimits.h"
 #include "devicequeries.h"
 #include "roomgrouppanel.h"
 
@@ -26,8 +27,8 @@ public:
     /// `doc` is not owned and outlives the panel.
     DeviceSet(const RoomGroup& group, RoomDevices& devices, IDocAccessor* doc, QWidget* parent);
 
-    /// True while the devices in the set are not more than a conference system supports.
-    bool isValid() const override;
+    /// What of the set is more than a conference system supports.
+    QStringList faults() const override;
 
     /// Takes every removed device back.
     void reset() override;
@@ -38,6 +39,9 @@ public:
 Q_SIGNALS:
     /// The set has become valid or stopped being so.
     void deviceRemoveStatusChanged();
+
+    /// faults() may be others, whether or not there still are any.
+    void faultsChanged();
 
 public Q_SLOTS:
     void removeButtonClicked(bool on);
@@ -60,9 +64,9 @@ private:
     void count();
     void showCounts(const DeviceCounts& counts);
 
-    QList<DeviceEntry> m_devices; ///< room by room, in document order within a room
-    QSet<QString> m_removed;      ///< by address
-    bool m_valid = true;
+    QList<DeviceEntry> m_devices;  ///< room by room, in document order within a room
+    QSet<QString> m_removed;       ///< by address
+    QList<LimitBreach> m_breaches; ///< of the devices that are not removed
 
     // Null until the lists are built.
     QTreeWidget* m_summaryTable = nullptr;

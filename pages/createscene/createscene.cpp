@@ -76,6 +76,11 @@ void CreateScene::reset()
     updateButtons();
 }
 
+QStringList CreateScene::missing() const
+{
+    return m_rows.isEmpty() ? QStringList{tr("Add one room layout or more.")} : QStringList();
+}
+
 void CreateScene::addButtonClicked()
 {
     const QString roomGroup = m_tessel->roomGroupText();

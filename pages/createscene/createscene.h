@@ -28,6 +28,7 @@ public:
     void store() override;
     /// Removes all layouts, the stored ones at once. The picker keeps its links.
     void reset() override;
+    QStringList missing() const override;
 
 private Q_SLOTS:
     void addButtonClicked();

@@ -2,6 +2,7 @@
 
 #include "deviceclass.h"
 #include "devicelabel.h"
+#include "devicelimits.h"
 #include "devicenamedialog.h"
 #include "devicequeries.h"
 #include "devicetable.h"
@@ -288,7 +289,28 @@ void DeviceLocation::updateSummary()
             counts[room - 1].add(row.modelName);
         }
     }
-    Q_EMIT nextButtonEnabled(m_summary->showCounts(counts));
+    m_summary->showCounts(counts);
+    judge(counts);
+}
+
+/// A configuration may be built on rooms of which none is beyond its limits and one holds a device.
+void DeviceLocation::judge(const QList<DeviceCounts>& counts)
+{
+    m_missing.clear();
+    bool anyDevice = false;
+    for (qsizetype index = 0; index < counts.size(); ++index) {
+        anyDevice = anyDevice || !counts.at(index).isEmpty();
+        for (const LimitBreach& breach : breachesOfRoom(counts.at(index))) {
+            m_missing.append(
+                tr("Room %1 has %2.").arg(QString::number(index + 1), breachWords(breach)));
+        }
+    }
+    if (!anyDevice) {
+        m_missing.append(m_rows.isEmpty()
+                             ? tr("No device has been found yet: none can be placed in a room.")
+                             : tr("Choose a room for one device or more."));
+    }
+    Q_EMIT nextButtonEnabled(m_missing.isEmpty());
 }
 
 void DeviceLocation::rename(const Row& row)

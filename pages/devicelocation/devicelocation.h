@@ -13,6 +13,7 @@ class QVBoxLayout;
 class RoomCombo;
 class RoomEditor;
 class RoomSummary;
+struct DeviceCounts;
 struct DeviceEntry;
 
 /// Step 3: every found device is placed in one of the drawn rooms and may be renamed.
@@ -34,6 +35,7 @@ public:
     void store() override;
     /// Takes every device out of its room.
     void reset() override;
+    QStringList missing() const override { return m_missing; }
 
 private Q_SLOTS:
     void comboBoxRoomChanged(int index);
@@ -66,6 +68,7 @@ private:
     const Row* rowOfSender() const;
     void chooseSameRoom(const Row& chosen);
     void updateSummary();
+    void judge(const QList<DeviceCounts>& counts);
     void rename(const Row& row);
 
     RoomEditor* m_picture;
@@ -74,4 +77,5 @@ private:
     DeviceTable* m_peripheralTable;
     QList<Row> m_rows;
     int m_rooms = 0;
+    QStringList m_missing;
 };

@@ -1,6 +1,7 @@
 #include "roomsummary.h"
 
 #include "deviceclass.h"
+#include "devicelimits.h"
 #include "roomcolor.h"
 
 namespace {
@@ -16,24 +17,44 @@ enum Column
     ControllerColumn
 };
 
-struct Count
+QList<Column> columnsOf(const LimitBreach& breach)
 {
-    Column column;
-    int count;
-    bool tooMany;
-};
+    if (breach.limit == LimitBreach::Limit::Hubs) {
+        return {HubColumn};
+    }
+    if (breach.limit == LimitBreach::Limit::Controllers) {
+        return {ControllerColumn};
+    }
+    QList<Column> columns;
+    if (concernsMicrophones(breach)) {
+        columns.append(MicrophoneColumn);
+    }
+    if (concernsSpeakers(breach)) {
+        columns.append(SpeakerColumn);
+    }
+    return columns;
+}
 
-QList<Count> judge(const DeviceCounts& counts)
+void addReason(QTreeWidgetItem* row, Column column, const QString& reason)
 {
-    const bool tooManyTogether =
-        counts.microphones + counts.speakers > DeviceCounts::maxMicrophonesAndSpeakers;
-    return {
-        {HubColumn, counts.hubs, counts.hubs > DeviceCounts::maxHubs},
-        {MicrophoneColumn, counts.microphones,
-         counts.microphones > DeviceCounts::maxMicrophones || tooManyTogether},
-        {SpeakerColumn, counts.speakers,
-         counts.speakers > DeviceCounts::maxSpeakers || tooManyTogether},
-        {ControllerColumn, counts.controllers, counts.controllers > DeviceCounts::maxControllers}};
+    const QString before = row->toolTip(column);
+    const QString reasons = before.isEmpty() ? reason : before + u'\n' + reason;
+    row->setForeground(column, QBrush(Qt::red));
+    row->setToolTip(column, reasons);
+    row->setData(column, Qt::AccessibleDescriptionRole, reasons);
+}
+
+void setCounts(QTreeWidgetItem* row, const DeviceCounts& counts)
+{
+    row->setText(HubColumn, QString::number(counts.hubs));
+    row->setText(MicrophoneColumn, QString::number(counts.microphones));
+    row->setText(SpeakerColumn, QString::number(counts.speakers));
+    row->setText(ControllerColumn, QString::number(counts.controllers));
+    for (const LimitBreach& breach : breachesOfRoom(counts)) {
+        for (const Column column : columnsOf(breach)) {
+            addReason(row, column, breachWords(breach));
+        }
+    }
 }
 
 QTreeWidgetItem* roomRow(int room)
@@ -58,26 +79,14 @@ RoomSummary::RoomSummary(QWidget* parent)
     setSelectionMode(QAbstractItemView::NoSelection);
 }
 
-bool RoomSummary::showCounts(const QList<DeviceCounts>& counts)
+void RoomSummary::showCounts(const QList<DeviceCounts>& counts)
 {
     QList<QTreeWidgetItem*> rows;
-    bool withinLimits = true;
-    bool anyDevice = false;
     for (int room = 1; room <= counts.size(); ++room) {
         QTreeWidgetItem* row = roomRow(room);
-        for (const Count& count : judge(counts.at(room - 1))) {
-            row->setText(count.column, QString::number(count.count));
-            if (count.tooMany) {
-                row->setForeground(count.column, QBrush(Qt::red));
-                row->setData(count.column, Qt::AccessibleDescriptionRole,
-                             tr("more devices than supported"));
-                withinLimits = false;
-            }
-            anyDevice = anyDevice || count.count > 0;
-        }
+        setCounts(row, counts.at(room - 1));
         rows.append(row);
     }
     clear();
     addTopLevelItems(rows);
-    return withinLimits && anyDevice;
 }

@@ -14,7 +14,6 @@ public:
     explicit RoomSummary(QWidget* parent);
 
     /// Shows one row per room: `counts` of room 1, room 2, ...
-    /// True when a configuration may be built on them: no count is beyond its limit and there is
-    /// a device in at least one room.
-    bool showCounts(const QList<DeviceCounts>& counts);
+    /// A count that is beyond its limit says why it is red, to eyes and to screen readers.
+    void showCounts(const QList<DeviceCounts>& counts);
 };

@@ -55,6 +55,16 @@ void RoomDesign::reset()
     m_editor->clear();
 }
 
+QStringList RoomDesign::missing() const
+{
+    if (m_editor->roomCount() >= minRoomsToGoOn) {
+        return {};
+    }
+    return {m_editor->roomCount() == 0
+                ? tr("Draw two rooms or more.")
+                : tr("Draw one room more: a single one can be neither divided nor combined.")};
+}
+
 void RoomDesign::roomCountChanged(int count)
 {
     Q_EMIT nextButtonEnabled(count >= minRoomsToGoOn);

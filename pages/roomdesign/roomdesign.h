@@ -22,6 +22,7 @@ public:
     void store() override;
     /// Empties the grid. The document keeps its drawing until the next store().
     void reset() override;
+    QStringList missing() const override;
 
 private Q_SLOTS:
     void roomCountChanged(int count);

@@ -22,8 +22,9 @@ public:
     /// before the panel is shown: rows are added to lists that are not visible yet.
     void buildLists(QWidget* previous);
 
-    /// False while what was chosen cannot be used, which the list of all panels shows in red.
-    virtual bool isValid() const { return true; }
+    /// Why what was chosen cannot be used, one sentence for each reason; the list of all panels
+    /// shows it in red then. Empty when it can.
+    virtual QStringList faults() const { return {}; }
 
     /// Writes what was chosen for every device to the document.
     virtual void store() = 0;

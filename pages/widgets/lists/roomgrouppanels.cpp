@@ -19,6 +19,17 @@ constexpr int roomWidth = 40;
 constexpr int listStretch = 1;
 constexpr int stackStretch = 4;
 
+/// Without faults a row has the list's own colour.
+void markRow(QTreeWidgetItem* row, const QString& faults)
+{
+    const QVariant color = faults.isEmpty() ? QVariant() : QBrush(Qt::red);
+    for (const int column : {RoomGroupList::NumberColumn, RoomGroupList::LayoutColumn}) {
+        row->setData(column, Qt::ForegroundRole, color);
+        row->setData(column, Qt::AccessibleDescriptionRole, faults);
+        row->setToolTip(column, faults);
+    }
+}
+
 } // namespace
 
 RoomGroupPanels::RoomGroupPanels(const QString& stackName, QWidget* parent)
@@ -81,20 +92,15 @@ void RoomGroupPanels::reset()
     }
 }
 
-bool RoomGroupPanels::showValidity()
+QStringList RoomGroupPanels::showFaults()
 {
-    bool allValid = true;
+    QStringList all;
     for (qsizetype index = 0; index < m_panels.size(); ++index) {
-        const bool valid = m_panels.at(index)->isValid();
-        QTreeWidgetItem* row = m_list->topLevelItem(int(index));
-        for (const int column : {RoomGroupList::NumberColumn, RoomGroupList::LayoutColumn}) {
-            row->setForeground(column, valid ? Qt::black : Qt::red);
-            row->setData(column, Qt::AccessibleDescriptionRole,
-                         valid ? QString() : tr("more devices than supported"));
-        }
-        allValid = allValid && valid;
+        const QStringList faults = m_panels.at(index)->faults();
+        markRow(m_list->topLevelItem(int(index)), faults.join(u'\n'));
+        all += faults;
     }
-    return allValid;
+    return all;
 }
 
 void RoomGroupPanels::showCurrentPanel()

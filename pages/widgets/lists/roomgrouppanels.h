@@ -36,9 +36,9 @@ public:
     /// Resets every panel, shown or not.
     void reset();
 
-    /// Lists the groups whose panels are not valid in red, as having more devices than supported.
-    /// True when there is none.
-    bool showValidity();
+    /// Lists the groups whose panels have faults in red, and there what they are. Returns all of
+    /// them, in list order.
+    QStringList showFaults();
 
     /// Shows the panel of the current row, whose lists are built when it is shown first.
     void showCurrentPanel();
