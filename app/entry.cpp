@@ -9,6 +9,7 @@ int runWizard(int& argc, char** argv)
 {
     // Destroyed from the bottom up: window, document, application.
     const QApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName(QStringLiteral("tessel"));
     TesselDoc doc(nullptr);
     MainWindow window(nullptr, &doc);
     window.show();

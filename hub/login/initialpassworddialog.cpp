@@ -1,5 +1,6 @@
 #include "initialpassworddialog.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -40,6 +41,45 @@ void InitialPasswordDialog::passwordChanged()
         password().size() >= minimumPasswordLength && password() == m_confirmationEdit->text();
     acceptButton()->setEnabled(complete);
     setDefaultButton(complete);
+    describeFields();
+}
+
+void InitialPasswordDialog::keyPressEvent(QKeyEvent* event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && !acceptButton()->isEnabled()) {
+        (focusWidget() == passwordEdit() ? m_confirmationEdit : passwordEdit())->setFocus();
+    } else {
+        HubDialog::keyPressEvent(event);
+    }
+}
+
+void InitialPasswordDialog::describeFields()
+{
+    describe(passwordEdit(), troubleOfPassword());
+    describe(m_confirmationEdit, troubleOfConfirmation());
+}
+
+QString InitialPasswordDialog::refusal() const
+{
+    return tr("The hub did not take this password. Please try again.");
+}
+
+QString InitialPasswordDialog::troubleOfPassword() const
+{
+    if (password().size() < minimumPasswordLength) {
+        return tr("Too short: 4 to 16 letters and digits are needed.");
+    }
+    return isRefused() ? refusal() : QString();
+}
+
+QString InitialPasswordDialog::troubleOfConfirmation() const
+{
+    if (m_confirmationEdit->text().isEmpty()) {
+        return tr("Still missing.");
+    }
+    return m_confirmationEdit->text() == password() ? QString()
+                                                    : tr("The two passwords are not equal.");
 }
 
 void InitialPasswordDialog::restrictPassword()
@@ -51,9 +91,6 @@ void InitialPasswordDialog::restrictPassword()
 
 void InitialPasswordDialog::buildConfirmation()
 {
-    m_confirmationEdit = new QLineEdit(this);
-    m_confirmationEdit->setObjectName(QStringLiteral("confirmationEdit"));
-    m_confirmationEdit->setEchoMode(QLineEdit::Password);
-    m_confirmationEdit->setPlaceholderText(tr("Please enter password again."));
-    m_confirmationEdit->setAccessibleName(tr("Password again"));
+    m_confirmationEdit = makeField(QStringLiteral("confirmationEdit"),
+                                   tr("Please enter password again."), tr("Password again"));
 }

@@ -26,11 +26,23 @@ LoginDialog::LoginDialog(QWidget* parent, const QString& ipAddress, const QStrin
     setHeight(dialogHeight);
     connect(passwordEdit(), SIGNAL(textChanged(QString)), this, SLOT(passwordChanged(QString)));
     passwordChanged(password());
+    describeFields();
 }
 
 void LoginDialog::setErrorVisible(bool visible)
 {
     m_errorLabel->setVisible(visible);
+    setRefused(visible);
+}
+
+void LoginDialog::describeFields()
+{
+    describe(passwordEdit(), isRefused() ? refusal() : QString());
+}
+
+QString LoginDialog::refusal() const
+{
+    return m_errorLabel->text();
 }
 
 void LoginDialog::passwordChanged(const QString& text)

@@ -10,8 +10,13 @@ class LoginDialog : public HubDialog
 public:
     LoginDialog(QWidget* parent, const QString& ipAddress, const QString& hostName);
 
-    /// Shows or hides the line that says that the password was wrong.
+    /// Shows or hides the line that says that the password was wrong, as setRefused() does for
+    /// those who cannot see it.
     void setErrorVisible(bool visible);
+
+protected:
+    void describeFields() override;
+    QString refusal() const override;
 
 private Q_SLOTS:
     void passwordChanged(const QString& text);

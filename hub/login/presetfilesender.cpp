@@ -51,7 +51,9 @@ void PresetFileSender::start()
         return;
     }
     m_loginCancelled = false;
+    m_firstPasswordSubmitted = false;
     setErrorVisible(false);
+    setFirstPasswordRefused(false);
     m_driver->start();
 }
 
@@ -77,6 +79,7 @@ const InstallOutcome& PresetFileSender::outcome() const
 
 void PresetFileSender::askFirstPassword()
 {
+    setFirstPasswordRefused(m_firstPasswordSubmitted);
     ask();
 }
 
@@ -98,6 +101,7 @@ void PresetFileSender::runDialog()
         return;
     }
     if (accepted && dialog) {
+        m_firstPasswordSubmitted = m_driver->wantsFirstPassword();
         m_driver->submitPassword(dialog->password());
     } else {
         cancelLogIn();
@@ -162,5 +166,12 @@ void PresetFileSender::setErrorVisible(bool visible)
 {
     if (m_loginDialog) {
         m_loginDialog->setErrorVisible(visible);
+    }
+}
+
+void PresetFileSender::setFirstPasswordRefused(bool refused)
+{
+    if (m_initialPasswordDialog) {
+        m_initialPasswordDialog->setRefused(refused);
     }
 }

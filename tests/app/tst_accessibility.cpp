@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSet>
+#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTest>
 
@@ -162,6 +163,9 @@ private Q_SLOTS:
     void titlesOfListsBelongToTheirLists();
     void textsBeginUnderTheTitle_data() { addPages(); }
     void textsBeginUnderTheTitle();
+    void returnPressesTheButtonThatHasTheFocus_data() { addPages(); }
+    void returnPressesTheButtonThatHasTheFocus();
+    void aHeldReturnTurnsOnePage();
     void everyTextFitsIntoTheSmallestWindow_data() { addPages(); }
     void everyTextFitsIntoTheSmallestWindow();
 };
@@ -299,6 +303,39 @@ void TestAccessibility::textsBeginUnderTheTitle()
     const auto* title = wizard.window->findChild<QLabel*>(QStringLiteral("titleLabel"));
     const auto* text = wizard.stack()->currentWidget()->findChild<QLabel*>();
     QCOMPARE(wizard.placeOf(text).left(), wizard.placeOf(title).left());
+}
+
+void TestAccessibility::returnPressesTheButtonThatHasTheFocus()
+{
+    QFETCH(const int, page);
+    QStringList names;
+    for (const auto* button : Wizard(page).shown<QPushButton>()) {
+        // "Close" ends the program and "Execute" looks for hubs.
+        if (button->isEnabled() && button->objectName() != QLatin1String("closeButton") &&
+            button->text() != QLatin1String("Execute")) {
+            names.append(button->objectName());
+        }
+    }
+    for (const QString& name : names) {
+        const Wizard wizard(page);
+        auto* button = wizard.stack()->currentWidget()->findChild<QPushButton*>(name);
+        const QSignalSpy clicked(button, SIGNAL(clicked()));
+        button->setFocus();
+        QTest::keyClick(button, Qt::Key_Return);
+        QVERIFY2(clicked.count() == 1, qPrintable(name));
+    }
+}
+
+void TestAccessibility::aHeldReturnTurnsOnePage()
+{
+    const Wizard wizard(1);
+    lastButton(wizard)->setFocus();
+    QTest::keyPress(wizard.window->focusWidget(), Qt::Key_Return);
+    QCOMPARE(wizard.stack()->currentIndex(), 1);
+    lastButton(wizard)->setFocus();
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(wizard.window->focusWidget(), &repeated);
+    QCOMPARE(wizard.stack()->currentIndex(), 1);
 }
 
 void TestAccessibility::everyTextFitsIntoTheSmallestWindow()
