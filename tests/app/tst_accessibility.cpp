@@ -308,21 +308,17 @@ void TestAccessibility::textsBeginUnderTheTitle()
 void TestAccessibility::returnPressesTheButtonThatHasTheFocus()
 {
     QFETCH(const int, page);
-    QStringList names;
-    for (const auto* button : Wizard(page).shown<QPushButton>()) {
-        // "Close" ends the program and "Execute" looks for hubs.
-        if (button->isEnabled() && button->objectName() != QLatin1String("closeButton") &&
-            button->text() != QLatin1String("Execute")) {
-            names.append(button->objectName());
-        }
-    }
-    for (const QString& name : names) {
+    const qsizetype buttons = Wizard(page).shown<QPushButton>().size();
+    for (qsizetype i = 0; i < buttons; ++i) {
         const Wizard wizard(page);
-        auto* button = wizard.stack()->currentWidget()->findChild<QPushButton*>(name);
+        QPushButton* button = wizard.shown<QPushButton>().at(i);
+        // What it does is up to other tests; "Execute" would look for hubs.
+        button->disconnect();
+        button->setEnabled(true);
         const QSignalSpy clicked(button, SIGNAL(clicked()));
         button->setFocus();
         QTest::keyClick(button, Qt::Key_Return);
-        QVERIFY2(clicked.count() == 1, qPrintable(name));
+        QVERIFY2(clicked.count() == 1, describe(button).constData());
     }
 }
 
