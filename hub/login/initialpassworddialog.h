@@ -4,7 +4,7 @@
 
 /// Asks for the first password of a hub that has none yet, twice. It can be submitted once both
 /// texts are the same and long enough; until then the fields tell screen readers what is missing.
-class InitialPasswordDialog : public HubDialog
+class InitialPasswordDialog final : public HubDialog
 {
     Q_OBJECT
 

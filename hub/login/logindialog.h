@@ -3,7 +3,7 @@
 #include "hubdialog.h"
 
 /// Asks for the password of a hub. An empty one can be submitted.
-class LoginDialog : public HubDialog
+class LoginDialog final : public HubDialog
 {
     Q_OBJECT
 
