@@ -22,6 +22,7 @@ int runWizard(int& argc, char** argv)
 {
     // Destroyed from the bottom up: window, document, application.
     const QApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName(QStringLiteral("tessel"));
     // Qt has taken its own ones out.
     tellIgnoredArguments();
     TesselDoc doc(nullptr);

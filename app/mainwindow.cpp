@@ -11,6 +11,7 @@
 #include "windowevents.h"
 #include "wizardpage.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
@@ -52,7 +53,8 @@ MainWindow::MainWindow(QWidget* parent, IDocAccessor* doc)
     , m_pageStack(new QStackedWidget(this))
 {
     setWindowTitle(tr("Divide / Combine Room Wizard"));
-    setWindowIcon(QIcon(QStringLiteral(":/image/tessel.svg")));
+    // Of all windows: some boxes belong to none.
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/tessel.svg")));
     setMinimumSize(minWindowSize);
     setMaximumSize(maxWindowSize);
     buildLayout();
@@ -273,7 +275,7 @@ void MainWindow::offerToRemoveResumeFile()
     const QMessageBox::StandardButton answer = QMessageBox::critical(
         this, QStringLiteral("Error"),
         tr("We could not resume the configuration. Do you want to remove the information?"),
-        QMessageBox::Yes | QMessageBox::No);
+        QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
     if (answer == QMessageBox::Yes) {
         QFile::remove(resumePath());
     }

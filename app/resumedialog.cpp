@@ -1,5 +1,9 @@
 #include "resumedialog.h"
 
+#include "dialogplace.h"
+#include "fontscale.h"
+
+#include <QEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -14,8 +18,23 @@ ResumeDialog::ResumeDialog(QWidget* parent)
     setWindowTitle(QStringLiteral("Resume"));
     setWindowFlag(Qt::WindowCloseButtonHint, false);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(margin, margin, margin, margin);
     layout->addWidget(new QLabel(tr("Please wait..."), this));
+    setMargins();
+    new DialogPlace(this);
+}
+
+void ResumeDialog::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange) {
+        setMargins();
+    }
+    QDialog::changeEvent(event);
+}
+
+void ResumeDialog::setMargins()
+{
+    const int width = scaledToFont(margin, this);
+    layout()->setContentsMargins(width, width, width, width);
 }
 
 void ResumeDialog::reject() {}

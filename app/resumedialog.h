@@ -14,4 +14,10 @@ public:
 public Q_SLOTS:
     /// Does nothing: Escape must not uncover a window that is still disabled.
     void reject() override;
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void setMargins();
 };

@@ -1,14 +1,20 @@
 #include "networkdialog.h"
 
+#include "dialogplace.h"
+#include "emptylisttext.h"
+#include "fontscale.h"
+#include "readablecolors.h"
+
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 namespace {
 
-constexpr QSize leastSize(400, 300);
+constexpr QSize minSize(400, 300);
 
 enum Column
 {
@@ -17,6 +23,11 @@ enum Column
     MaskColumn
 };
 
+bool isArrow(int key)
+{
+    return key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
 } // namespace
 
 NetworkDialog::NetworkDialog(QWidget* parent)
@@ -24,10 +35,11 @@ NetworkDialog::NetworkDialog(QWidget* parent)
 {
     setObjectName(QStringLiteral("networkDialog"));
     setWindowTitle(tr("Select Network Interface Card"));
-    setMinimumSize(leastSize);
     createWidgets();
-    layOutWidgets();
+    buildLayout();
     connectWidgets();
+    setMinimumSize(scaledToFont(minSize, this));
+    new DialogPlace(this);
 }
 
 void NetworkDialog::fill(int preselectedIndex)
@@ -46,6 +58,11 @@ void NetworkDialog::fill(const QList<NicRow>& rows, int preselectedIndex)
             m_nicList->setCurrentItem(item);
         }
     }
+    if (!m_nicList->currentItem()) {
+        // A row for the arrow keys to begin at, and no more than that.
+        m_nicList->setCurrentItem(m_nicList->topLevelItem(0), NameColumn,
+                                  QItemSelectionModel::NoUpdate);
+    }
 }
 
 int NetworkDialog::selectedIndex() const
@@ -54,12 +71,42 @@ int NetworkDialog::selectedIndex() const
     return selected.isEmpty() ? 0 : m_indexOfRow.value(selected.first());
 }
 
+bool NetworkDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    // An arrow key would step past the row that it begins at, and find no way on from the only one.
+    if (event->type() == QEvent::KeyPress && isArrow(static_cast<QKeyEvent*>(event)->key()) &&
+        m_nicList->currentItem() && m_nicList->selectedItems().isEmpty()) {
+        m_nicList->currentItem()->setSelected(true);
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void NetworkDialog::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange) {
+        setMinimumSize(scaledToFont(minSize, this));
+    }
+    QDialog::changeEvent(event);
+}
+
 void NetworkDialog::selectedNicListItem()
 {
     m_okButton->setEnabled(!m_nicList->selectedItems().isEmpty());
 }
 
 void NetworkDialog::createWidgets()
+{
+    buildList();
+    m_okButton = new QPushButton(tr("OK"), this);
+    m_okButton->setObjectName(QStringLiteral("okButton"));
+    m_okButton->setDefault(true);
+    m_okButton->setEnabled(false);
+    m_cancelButton = new QPushButton(tr("Cancel"), this);
+    m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
+}
+
+void NetworkDialog::buildList()
 {
     m_nicList = new QTreeWidget(this);
     m_nicList->setObjectName(QStringLiteral("nicList"));
@@ -70,17 +117,15 @@ void NetworkDialog::createWidgets()
     m_nicList->header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
     m_nicList->header()->setSectionResizeMode(AddressColumn, QHeaderView::ResizeToContents);
     m_nicList->header()->setSectionResizeMode(MaskColumn, QHeaderView::ResizeToContents);
-
-    m_okButton = new QPushButton(tr("OK"), this);
-    m_okButton->setObjectName(QStringLiteral("okButton"));
-    m_okButton->setDefault(true);
-    m_okButton->setEnabled(false);
-    m_cancelButton = new QPushButton(tr("Cancel"), this);
-    m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
-    m_cancelButton->setAutoDefault(false);
+    m_nicList->installEventFilter(this);
+    m_nicList->setFocus();
+    new ReadableColors(m_nicList);
+    new EmptyListText(m_nicList, tr("This computer has no wired network interface. Check that a "
+                                    "network adapter is connected and switched on, then start "
+                                    "again."));
 }
 
-void NetworkDialog::layOutWidgets()
+void NetworkDialog::buildLayout()
 {
     auto* const buttons = new QHBoxLayout;
     buttons->addStretch();

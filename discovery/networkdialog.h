@@ -10,7 +10,7 @@ class QTreeWidget;
 class QTreeWidgetItem;
 
 /// Lets the user choose the wired network interface on which devices are searched. Run modally;
-/// the choice counts when the dialog is accepted.
+/// the choice counts when the dialog is accepted. Where there is none it says what to check.
 class NetworkDialog : public QDialog
 {
     Q_OBJECT
@@ -28,12 +28,18 @@ public:
     /// The system index of the selected interface; 0 when none is selected.
     int selectedIndex() const;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void changeEvent(QEvent* event) override;
+
 private Q_SLOTS:
     void selectedNicListItem();
 
 private:
     void createWidgets();
-    void layOutWidgets();
+    void buildList();
+    void buildLayout();
     void connectWidgets();
 
     QTreeWidget* m_nicList = nullptr;

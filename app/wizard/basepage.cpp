@@ -1,5 +1,8 @@
 #include "basepage.h"
 
+#include <QKeyEvent>
+#include <QPushButton>
+
 BasePage::BasePage(const QString& title, int pageNumber, IPageController* controller,
                    IDocAccessor* doc, QWidget* parent)
     : QWidget(parent)
@@ -25,6 +28,17 @@ void BasePage::enterFrom(int /*previousPageNumber*/) {}
 void BasePage::restoreFromDocument() {}
 
 void BasePage::storeToDocument() {}
+
+void BasePage::keyPressEvent(QKeyEvent* event)
+{
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn || !button) {
+        QWidget::keyPressEvent(event);
+    } else if (!event->isAutoRepeat()) { // a key that is held would turn page after page
+        button->click();
+    }
+}
 
 IPageController& BasePage::controller() const
 {

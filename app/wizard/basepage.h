@@ -25,6 +25,9 @@ public:
     void storeToDocument() override;
 
 protected:
+    /// Lets Return press the push button that has the focus, as it does in dialogs.
+    void keyPressEvent(QKeyEvent* event) override;
+
     IPageController& controller() const;
     IDocAccessor& doc() const;
 

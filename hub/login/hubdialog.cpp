@@ -1,7 +1,11 @@
 #include "hubdialog.h"
 
 #include "devicetable.h"
+#include "dialogplace.h"
+#include "fontscale.h"
+#include "readablecolors.h"
 
+#include <QAccessible>
 #include <QFont>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -12,12 +16,17 @@
 
 namespace {
 
-constexpr int minimumDialogWidth = 450;
-constexpr int maximumDialogWidth = 1200;
-constexpr int titlePoints = 16;
+// With the usual font.
+constexpr int minDialogWidth = 450;
+constexpr int maxDialogWidth = 1200;
+constexpr double titlePoints = 16.0;
 constexpr int nameWidth = 250;
 constexpr int identifyWidth = 25;
-constexpr int addressColumn = 2;
+
+enum Column
+{
+    AddressColumn = DeviceTable::IdentifyColumn + 1
+};
 
 } // namespace
 
@@ -28,21 +37,35 @@ QString HubDialog::password() const
 
 void HubDialog::setHostName(const QString& hostName)
 {
-    m_hubList->setLabel(m_hubList->topLevelItem(0), hostName);
+    m_hostName = hostName;
+    nameHub();
+    describeFields();
+}
+
+void HubDialog::setRefused(bool refused)
+{
+    m_isRefused = refused;
+    setAccessibleDescription(refused ? refusal() : QString());
+    describeFields();
 }
 
 HubDialog::HubDialog(QWidget* parent, const QString& ipAddress, const QString& hostName,
                      const QString& acceptText)
     : QDialog(parent)
+    , m_ipAddress(ipAddress)
+    , m_hostName(hostName)
 {
     setWindowTitle(tr("Login"));
     buildTitle();
-    buildHubList(ipAddress, hostName);
-    buildPasswordEdit();
+    buildHubList();
+    m_passwordEdit = makeField(QStringLiteral("passwordEdit"), tr("Password"), tr("Password"));
+    m_passwordEdit->setFocus();
     buildButtons(acceptText);
+    nameHub();
+    new DialogPlace(this);
 }
 
-void HubDialog::layOut(const QList<QWidget*>& fields)
+void HubDialog::buildLayout(const QList<QWidget*>& fields)
 {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_titleLabel, 0, Qt::AlignHCenter);
@@ -66,8 +89,30 @@ void HubDialog::layOut(const QList<QWidget*>& fields)
 
 void HubDialog::setHeight(int height)
 {
-    setMinimumSize(minimumDialogWidth, height);
-    setMaximumSize(maximumDialogWidth, height);
+    m_height = height;
+    scale();
+}
+
+void HubDialog::describe(QLineEdit* field, const QString& trouble) const
+{
+    const QString hub = tr("For %1 at %2.").arg(m_hostName, m_ipAddress);
+    const QString text = trouble.isEmpty() ? hub : hub + u' ' + trouble;
+    // Set anew, the same text would be read out again with each letter that is typed.
+    if (field->accessibleDescription() != text) {
+        field->setAccessibleDescription(text);
+    }
+}
+
+QLineEdit* HubDialog::makeField(const QString& objectName, const QString& placeholder,
+                                const QString& accessibleName)
+{
+    auto* field = new QLineEdit(this);
+    field->setObjectName(objectName);
+    field->setEchoMode(QLineEdit::Password);
+    field->setPlaceholderText(placeholder);
+    field->setAccessibleName(accessibleName);
+    new ReadableColors(field);
+    return field;
 }
 
 void HubDialog::setDefaultButton(bool acceptIsDefault)
@@ -84,41 +129,37 @@ void HubDialog::showEvent(QShowEvent* event)
         field->setText(field->text());
     }
     QDialog::showEvent(event);
+    if (m_isRefused) {
+        QAccessibleEvent alert(this, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
+}
+
+void HubDialog::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange) {
+        scale();
+    }
+    QDialog::changeEvent(event);
 }
 
 void HubDialog::buildTitle()
 {
     m_titleLabel = new QLabel(tr("PX-HB Device Manager"), this);
     m_titleLabel->setObjectName(QStringLiteral("titleLabel"));
-    QFont font = m_titleLabel->font();
-    font.setPointSize(titlePoints);
-    font.setWeight(QFont::Bold);
-    m_titleLabel->setFont(font);
 }
 
-void HubDialog::buildHubList(const QString& ipAddress, const QString& hostName)
+void HubDialog::buildHubList()
 {
-    m_hubList = new DeviceTable({tr("Hostname"), QString(), tr("IP Address")}, addressColumn, this);
+    m_hubList = new DeviceTable({tr("Hostname"), QString(), tr("IP Address")}, AddressColumn, this);
     m_hubList->setObjectName(QStringLiteral("hubList"));
     m_hubList->setAccessibleName(tr("Hub"));
-    m_hubList->setColumnWidth(DeviceTable::LabelColumn, nameWidth);
-    m_hubList->setColumnWidth(DeviceTable::IdentifyColumn, identifyWidth);
-    m_hubList->setRows({{hostName, QString(), ipAddress}});
-    // The height of the dialog is fixed: the list must not claim more than its one row.
-    m_hubList->setMinimumHeight(m_hubList->header()->sizeHint().height() +
-                                m_hubList->sizeHintForRow(0) + 2 * m_hubList->frameWidth());
+    // What tells hubs apart often stands at the end of their names.
+    m_hubList->setTextElideMode(Qt::ElideMiddle);
+    m_hubList->setRows({{m_hostName, QString(), m_ipAddress}});
+    new ReadableColors(m_hubList);
     connect(m_hubList, SIGNAL(identifyClicked(QString)), this,
             SIGNAL(identifyButtonClicked(QString)));
-}
-
-void HubDialog::buildPasswordEdit()
-{
-    m_passwordEdit = new QLineEdit(this);
-    m_passwordEdit->setObjectName(QStringLiteral("passwordEdit"));
-    m_passwordEdit->setEchoMode(QLineEdit::Password);
-    m_passwordEdit->setPlaceholderText(tr("Password"));
-    m_passwordEdit->setAccessibleName(tr("Password"));
-    m_passwordEdit->setFocus();
 }
 
 void HubDialog::buildButtons(const QString& acceptText)
@@ -128,4 +169,38 @@ void HubDialog::buildButtons(const QString& acceptText)
     connect(m_cancelButton, SIGNAL(clicked()), this, SLOT(reject()));
     m_acceptButton = new QPushButton(acceptText, this);
     connect(m_acceptButton, SIGNAL(clicked()), this, SLOT(accept()));
+}
+
+void HubDialog::nameHub()
+{
+    QTreeWidgetItem* row = m_hubList->topLevelItem(0);
+    m_hubList->setLabel(row, m_hostName);
+    row->setToolTip(DeviceTable::LabelColumn, m_hostName);
+    setAccessibleName(tr("Login to %1 at %2").arg(m_hostName, m_ipAddress));
+}
+
+void HubDialog::scale()
+{
+    scaleTitle();
+    scaleHubList();
+    const QSize least = scaledToFont(QSize(minDialogWidth, m_height), this);
+    setMinimumSize(least);
+    setMaximumSize(scaledToFont(maxDialogWidth, this), least.height());
+}
+
+void HubDialog::scaleTitle()
+{
+    QFont larger = font();
+    larger.setPointSizeF(titlePoints * fontScale(this));
+    larger.setWeight(QFont::Bold);
+    m_titleLabel->setFont(larger);
+}
+
+void HubDialog::scaleHubList()
+{
+    m_hubList->setColumnWidth(DeviceTable::LabelColumn, scaledToFont(nameWidth, this));
+    m_hubList->setColumnWidth(DeviceTable::IdentifyColumn, scaledToFont(identifyWidth, this));
+    // The height of the dialog is fixed: the list must not claim more than its one row.
+    m_hubList->setMinimumHeight(m_hubList->header()->sizeHint().height() +
+                                m_hubList->sizeHintForRow(0) + 2 * m_hubList->frameWidth());
 }

@@ -11,6 +11,9 @@ class QPushButton;
 /// let the user make it show itself, hold a password field, and end with "Cancel" or with a button
 /// that accepts.
 ///
+/// Sizes are in proportion to the font. Screen readers are told which hub the dialog and its fields
+/// are for, and what is wrong or missing.
+///
 /// The dialogs collect text only. Texts typed stay from one exec() to the next.
 class HubDialog : public QDialog
 {
@@ -23,6 +26,10 @@ public:
     /// Renames the hub.
     void setHostName(const QString& hostName);
 
+    /// Whether the hub has refused what was entered last: told to screen readers when it changes,
+    /// and once more when the dialog is shown.
+    void setRefused(bool refused);
+
 Q_SIGNALS:
     /// The identify button of the hub was pressed.
     void identifyButtonClicked(const QString& ipAddress);
@@ -34,24 +41,49 @@ protected:
 
     /// Lays out title and hub list, then `fields` from top to bottom, then the buttons; the Tab
     /// key follows the same order. Called once, by the constructor of the dialog.
-    void layOut(const QList<QWidget*>& fields);
+    void buildLayout(const QList<QWidget*>& fields);
 
-    /// A dialog of this height whose width may change.
+    /// A dialog whose width may change, of this height with the usual font and of one in
+    /// proportion with others.
     void setHeight(int height);
+
+    /// Says in the description of each field what is wrong with it or missing, in the words of
+    /// describe(). Called when the hub is renamed or has refused what was entered.
+    virtual void describeFields() = 0;
+
+    /// The description of `field`: the hub that it is for, then `trouble`, if any.
+    void describe(QLineEdit* field, const QString& trouble) const;
+
+    /// A field for a password.
+    QLineEdit* makeField(const QString& objectName, const QString& placeholder,
+                         const QString& accessibleName);
+
+    bool isRefused() const { return m_isRefused; }
+    /// What is told of a refusal.
+    virtual QString refusal() const = 0;
 
     /// The Enter key presses the accepting button if `acceptIsDefault`, otherwise "Cancel".
     void setDefaultButton(bool acceptIsDefault);
 
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
     QLineEdit* passwordEdit() const { return m_passwordEdit; }
     QPushButton* acceptButton() const { return m_acceptButton; }
 
 private:
     void buildTitle();
-    void buildHubList(const QString& ipAddress, const QString& hostName);
-    void buildPasswordEdit();
+    void buildHubList();
     void buildButtons(const QString& acceptText);
+    void nameHub();
+    void scaleTitle();
+    void scaleHubList();
+    void scale();
+
+    QString m_ipAddress;
+    QString m_hostName;
+    int m_height = 0; ///< with the usual font
+    bool m_isRefused = false;
 
     QLabel* m_titleLabel = nullptr;
     DeviceTable* m_hubList = nullptr;

@@ -1,5 +1,6 @@
 #include "initialpassworddialog.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -9,8 +10,8 @@
 namespace {
 
 constexpr int dialogHeight = 250;
-constexpr int minimumPasswordLength = 4;
-constexpr int maximumPasswordLength = 16;
+constexpr int minPasswordLength = 4;
+constexpr int maxPasswordLength = 16;
 
 } // namespace
 
@@ -27,7 +28,7 @@ InitialPasswordDialog::InitialPasswordDialog(QWidget* parent, const QString& ipA
     account->setBuddy(passwordEdit());
     restrictPassword();
     buildConfirmation();
-    layOut({instruction, account, passwordEdit(), m_confirmationEdit});
+    buildLayout({instruction, account, passwordEdit(), m_confirmationEdit});
     setHeight(dialogHeight);
     connect(passwordEdit(), SIGNAL(textChanged(QString)), this, SLOT(passwordChanged()));
     connect(m_confirmationEdit, SIGNAL(textChanged(QString)), this, SLOT(passwordChanged()));
@@ -37,23 +38,59 @@ InitialPasswordDialog::InitialPasswordDialog(QWidget* parent, const QString& ipA
 void InitialPasswordDialog::passwordChanged()
 {
     const bool complete =
-        password().size() >= minimumPasswordLength && password() == m_confirmationEdit->text();
+        password().size() >= minPasswordLength && password() == m_confirmationEdit->text();
     acceptButton()->setEnabled(complete);
     setDefaultButton(complete);
+    describeFields();
+}
+
+void InitialPasswordDialog::keyPressEvent(QKeyEvent* event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && !acceptButton()->isEnabled()) {
+        (focusWidget() == passwordEdit() ? m_confirmationEdit : passwordEdit())->setFocus();
+    } else {
+        HubDialog::keyPressEvent(event);
+    }
+}
+
+void InitialPasswordDialog::describeFields()
+{
+    describe(passwordEdit(), troubleOfPassword());
+    describe(m_confirmationEdit, troubleOfConfirmation());
+}
+
+QString InitialPasswordDialog::refusal() const
+{
+    return tr("The hub did not take this password. Please try again.");
+}
+
+QString InitialPasswordDialog::troubleOfPassword() const
+{
+    if (password().size() < minPasswordLength) {
+        return tr("Too short: 4 to 16 letters and digits are needed.");
+    }
+    return isRefused() ? refusal() : QString();
+}
+
+QString InitialPasswordDialog::troubleOfConfirmation() const
+{
+    if (m_confirmationEdit->text().isEmpty()) {
+        return tr("Still missing.");
+    }
+    return m_confirmationEdit->text() == password() ? QString()
+                                                    : tr("The two passwords are not equal.");
 }
 
 void InitialPasswordDialog::restrictPassword()
 {
     const QRegularExpression lettersAndDigits(QStringLiteral("[A-Za-z0-9]+"));
     passwordEdit()->setValidator(new QRegularExpressionValidator(lettersAndDigits, this));
-    passwordEdit()->setMaxLength(maximumPasswordLength);
+    passwordEdit()->setMaxLength(maxPasswordLength);
 }
 
 void InitialPasswordDialog::buildConfirmation()
 {
-    m_confirmationEdit = new QLineEdit(this);
-    m_confirmationEdit->setObjectName(QStringLiteral("confirmationEdit"));
-    m_confirmationEdit->setEchoMode(QLineEdit::Password);
-    m_confirmationEdit->setPlaceholderText(tr("Please enter password again."));
-    m_confirmationEdit->setAccessibleName(tr("Password again"));
+    m_confirmationEdit = makeField(QStringLiteral("confirmationEdit"),
+                                   tr("Please enter password again."), tr("Password again"));
 }

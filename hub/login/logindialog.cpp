@@ -22,15 +22,27 @@ LoginDialog::LoginDialog(QWidget* parent, const QString& ipAddress, const QStrin
     m_errorLabel->setStyleSheet(
         QStringLiteral("color: rgb(255, 255, 255);\nbackground-color: rgb(255, 0, 0);"));
     m_errorLabel->hide();
-    layOut({label, m_errorLabel, passwordEdit()});
+    buildLayout({label, m_errorLabel, passwordEdit()});
     setHeight(dialogHeight);
     connect(passwordEdit(), SIGNAL(textChanged(QString)), this, SLOT(passwordChanged(QString)));
     passwordChanged(password());
+    describeFields();
 }
 
 void LoginDialog::setErrorVisible(bool visible)
 {
     m_errorLabel->setVisible(visible);
+    setRefused(visible);
+}
+
+void LoginDialog::describeFields()
+{
+    describe(passwordEdit(), isRefused() ? refusal() : QString());
+}
+
+QString LoginDialog::refusal() const
+{
+    return m_errorLabel->text();
 }
 
 void LoginDialog::passwordChanged(const QString& text)

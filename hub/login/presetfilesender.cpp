@@ -52,7 +52,9 @@ void PresetFileSender::start()
         return;
     }
     m_loginCancelled = false;
+    m_firstPasswordSubmitted = false;
     setErrorVisible(false);
+    setFirstPasswordRefused(false);
     m_driver->start();
 }
 
@@ -83,6 +85,7 @@ InstallProgress PresetFileSender::progress() const
 
 void PresetFileSender::askFirstPassword()
 {
+    setFirstPasswordRefused(m_firstPasswordSubmitted);
     ask();
 }
 
@@ -104,6 +107,7 @@ void PresetFileSender::runDialog()
         return;
     }
     if (accepted && dialog) {
+        m_firstPasswordSubmitted = m_driver->wantsFirstPassword();
         m_driver->submitPassword(dialog->password());
     } else {
         cancelLogIn();
@@ -173,5 +177,12 @@ void PresetFileSender::setErrorVisible(bool visible)
 {
     if (m_loginDialog) {
         m_loginDialog->setErrorVisible(visible);
+    }
+}
+
+void PresetFileSender::setFirstPasswordRefused(bool refused)
+{
+    if (m_initialPasswordDialog) {
+        m_initialPasswordDialog->setRefused(refused);
     }
 }

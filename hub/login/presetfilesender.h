@@ -92,12 +92,14 @@ private:
     template <typename Dialog>
     Dialog* makeDialog();
     void setErrorVisible(bool visible);
+    void setFirstPasswordRefused(bool refused);
 
     QString m_ipAddress;
     QString m_hostName;
     QWidget* m_page;
     InstallDriver* m_driver;
     bool m_loginCancelled = false;
+    bool m_firstPasswordSubmitted = false;                   ///< in this run
     QPointer<InitialPasswordDialog> m_initialPasswordDialog; ///< made on first need
     QPointer<LoginDialog> m_loginDialog;                     ///< made on first need
 };

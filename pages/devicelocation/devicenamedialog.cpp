@@ -1,8 +1,12 @@
 #include "devicenamedialog.h"
 
 #include "devicenamevalidator.h"
+#include "dialogplace.h"
+#include "fontscale.h"
+#include "readablecolors.h"
 
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -21,6 +25,7 @@ DeviceNameDialog::DeviceNameDialog(const QString& name, QWidget* parent)
     setWindowTitle(tr("Change Name"));
     createWidgets();
     buildLayout();
+    new DialogPlace(this);
     restrictEdits(name);
     connect(m_nameEdit, SIGNAL(textChanged(QString)), this, SLOT(nameChanged()));
     connect(m_okButton, SIGNAL(clicked()), this, SLOT(accept()));
@@ -35,6 +40,14 @@ QString DeviceNameDialog::name() const
     return m_nameEdit->text();
 }
 
+void DeviceNameDialog::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange) {
+        m_nameEdit->setMinimumWidth(scaledToFont(editWidth, this));
+    }
+    QDialog::changeEvent(event);
+}
+
 void DeviceNameDialog::nameChanged()
 {
     m_okButton->setEnabled(m_nameEdit->hasAcceptableInput());
@@ -45,7 +58,8 @@ void DeviceNameDialog::createWidgets()
     m_nameEdit = new QLineEdit(this);
     m_nameEdit->setObjectName(QStringLiteral("nameEdit"));
     m_nameEdit->setMaxLength(maxNameLength);
-    m_nameEdit->setMinimumWidth(editWidth);
+    m_nameEdit->setMinimumWidth(scaledToFont(editWidth, this));
+    new ReadableColors(m_nameEdit);
     m_okButton = new QPushButton(tr("OK"), this);
     m_okButton->setObjectName(QStringLiteral("okButton"));
     m_okButton->setDefault(true);

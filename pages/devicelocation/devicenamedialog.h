@@ -21,6 +21,9 @@ public:
 private Q_SLOTS:
     void nameChanged();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void createWidgets();
     void buildLayout();

@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSet>
+#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTest>
 
@@ -162,6 +163,9 @@ private Q_SLOTS:
     void titlesOfListsBelongToTheirLists();
     void textsBeginUnderTheTitle_data() { addPages(); }
     void textsBeginUnderTheTitle();
+    void returnPressesTheButtonThatHasTheFocus_data() { addPages(); }
+    void returnPressesTheButtonThatHasTheFocus();
+    void aHeldReturnTurnsOnePage();
     void everyTextFitsIntoTheSmallestWindow_data() { addPages(); }
     void everyTextFitsIntoTheSmallestWindow();
 };
@@ -299,6 +303,35 @@ void TestAccessibility::textsBeginUnderTheTitle()
     const auto* title = wizard.window->findChild<QLabel*>(QStringLiteral("titleLabel"));
     const auto* text = wizard.stack()->currentWidget()->findChild<QLabel*>();
     QCOMPARE(wizard.placeOf(text).left(), wizard.placeOf(title).left());
+}
+
+void TestAccessibility::returnPressesTheButtonThatHasTheFocus()
+{
+    QFETCH(const int, page);
+    const qsizetype buttons = Wizard(page).shown<QPushButton>().size();
+    for (qsizetype i = 0; i < buttons; ++i) {
+        const Wizard wizard(page);
+        QPushButton* button = wizard.shown<QPushButton>().at(i);
+        // What it does is up to other tests; "Execute" would look for hubs.
+        button->disconnect();
+        button->setEnabled(true);
+        const QSignalSpy clicked(button, SIGNAL(clicked()));
+        button->setFocus();
+        QTest::keyClick(button, Qt::Key_Return);
+        QVERIFY2(clicked.count() == 1, describe(button).constData());
+    }
+}
+
+void TestAccessibility::aHeldReturnTurnsOnePage()
+{
+    const Wizard wizard(1);
+    lastButton(wizard)->setFocus();
+    QTest::keyPress(wizard.window->focusWidget(), Qt::Key_Return);
+    QCOMPARE(wizard.stack()->currentIndex(), 1);
+    lastButton(wizard)->setFocus();
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(wizard.window->focusWidget(), &repeated);
+    QCOMPARE(wizard.stack()->currentIndex(), 1);
 }
 
 void TestAccessibility::everyTextFitsIntoTheSmallestWindow()

@@ -123,6 +123,7 @@ private Q_SLOTS:
     void workSavedOnPageFiveIsShownThereAgain();
     void anUnreadableFileIsRemovedOnlyOnYes_data();
     void anUnreadableFileIsRemovedOnlyOnYes();
+    void returnKeepsAnUnreadableFile();
     void workThatCannotBeSavedIsToldAndTheWindowCloses();
     void anUncreatableFolderSavesNothingAndSaysNothing();
     void withoutAnInterfaceTheDialogOpensAndCancelQuits();
@@ -422,6 +423,21 @@ void TestMainWindow::anUnreadableFileIsRemovedOnlyOnYes()
     QCOMPARE(answer.buttons(), QStringList({QStringLiteral("No"), QStringLiteral("Yes")}));
     QCOMPARE(QFile::exists(resumePath()), kept);
     QCOMPARE(wizard.stack()->currentIndex(), 0);
+}
+
+void TestMainWindow::returnKeepsAnUnreadableFile()
+{
+    QVERIFY(QDir().mkpath(QFileInfo(resumePath()).path()));
+    QFile file(resumePath());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("not a saved configuration");
+    file.close();
+
+    Wizard wizard;
+    const ModalAnswer answer([](QWidget* box) { QTest::keyClick(box, Qt::Key_Return); });
+    wizard.open();
+    QVERIFY(answer.wasShown());
+    QVERIFY(QFile::exists(resumePath()));
 }
 
 void TestMainWindow::workThatCannotBeSavedIsToldAndTheWindowCloses()

@@ -28,6 +28,10 @@ private Q_SLOTS:
     void cancelAndEscapeReject();
     void theKeyboardAloneChoosesAndAccepts();
     void theKeyboardChoosesTheOnlyRow();
+    void arrowKeysBeginAtTheFirstRow_data();
+    void arrowKeysBeginAtTheFirstRow();
+    void returnPressesTheButtonThatHasTheFocus();
+    void anEmptyListSaysWhyItIsEmpty();
     void nothingIsClippedAtTheLeastSize();
     void fillReadsTheComputersWiredInterfaces();
 };
@@ -241,6 +245,8 @@ void TestNetworkDialog::theKeyboardAloneChoosesAndAccepts()
     QTest::keyClick(shown.list, Qt::Key_Return);
     QVERIFY2(shown.dialog.isVisible(), "nothing is selected yet");
     QTest::keyClick(shown.list, Qt::Key_Down);
+    QCOMPARE(shown.dialog.selectedIndex(), 4);
+    QTest::keyClick(shown.list, Qt::Key_Down);
     QCOMPARE(shown.dialog.selectedIndex(), 7);
     QTest::keyClick(shown.list, Qt::Key_Tab);
     QCOMPARE(shown.dialog.focusWidget(), shown.ok);
@@ -260,6 +266,53 @@ void TestNetworkDialog::theKeyboardChoosesTheOnlyRow()
     QCOMPARE(shown.dialog.selectedIndex(), 4);
     QTest::keyClick(shown.list, Qt::Key_Return);
     QCOMPARE(shown.dialog.result(), int(QDialog::Accepted));
+}
+
+void TestNetworkDialog::arrowKeysBeginAtTheFirstRow_data()
+{
+    QTest::addColumn<qsizetype>("rows");
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Down among two") << qsizetype(2) << Qt::Key_Down;
+    QTest::newRow("Up among two") << qsizetype(2) << Qt::Key_Up;
+    QTest::newRow("Down where there is only one") << qsizetype(1) << Qt::Key_Down;
+    QTest::newRow("Up where there is only one") << qsizetype(1) << Qt::Key_Up;
+}
+
+void TestNetworkDialog::arrowKeysBeginAtTheFirstRow()
+{
+    QFETCH(const qsizetype, rows);
+    QFETCH(const Qt::Key, key);
+    ShownDialog shown(twoRows().first(rows));
+    QVERIFY(shown.waitUntilActive());
+    QCOMPARE(shown.dialog.focusWidget(), shown.list);
+    QCOMPARE(shown.list->currentItem(), shown.list->topLevelItem(0));
+    QVERIFY(shown.list->selectedItems().isEmpty());
+    QVERIFY(!shown.ok->isEnabled());
+    QTest::keyClick(shown.list, key);
+    QCOMPARE(shown.dialog.selectedIndex(), 4);
+    QVERIFY(shown.ok->isEnabled());
+}
+
+void TestNetworkDialog::returnPressesTheButtonThatHasTheFocus()
+{
+    ShownDialog shown(twoRows(), 4);
+    QVERIFY(shown.waitUntilActive());
+    shown.cancel->setFocus();
+    QTest::keyClick(shown.cancel, Qt::Key_Return);
+    QVERIFY(!shown.dialog.isVisible());
+    QCOMPARE(shown.dialog.result(), int(QDialog::Rejected));
+}
+
+void TestNetworkDialog::anEmptyListSaysWhyItIsEmpty()
+{
+    ShownDialog empty({});
+    QCOMPARE(empty.list->accessibleDescription(),
+             QStringLiteral("This computer has no wired network interface. Check that a network "
+                            "adapter is connected and switched on, then start again."));
+    const QImage text = empty.list->viewport()->grab().toImage();
+    QVERIFY(text.convertToFormat(QImage::Format_Indexed8).colorCount() > 1);
+    ShownDialog filled(twoRows());
+    QCOMPARE(filled.list->accessibleDescription(), QString());
 }
 
 void TestNetworkDialog::nothingIsClippedAtTheLeastSize()

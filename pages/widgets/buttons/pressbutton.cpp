@@ -7,6 +7,11 @@
 
 namespace {
 
+bool pressesButtons(int key)
+{
+    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
 /// What assistive technology sees of a PressButton: a button that can be pressed, and that is
 /// checked or not where its face can be.
 class PressButtonAccessible : public QAccessibleWidget
@@ -105,7 +110,7 @@ void PressButton::mouseReleaseEvent(QMouseEvent* /*event*/)
 
 void PressButton::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() != Qt::Key_Space) {
+    if (!pressesButtons(event->key())) {
         QWidget::keyPressEvent(event);
     } else if (!event->isAutoRepeat()) {
         m_focusMark.keyUsed();
@@ -115,7 +120,7 @@ void PressButton::keyPressEvent(QKeyEvent* event)
 
 void PressButton::keyReleaseEvent(QKeyEvent* event)
 {
-    if (event->key() != Qt::Key_Space) {
+    if (!pressesButtons(event->key())) {
         QWidget::keyReleaseEvent(event);
     } else if (!event->isAutoRepeat() && m_pressed) {
         release();

@@ -8,8 +8,9 @@
 ///
 /// A face derives from it, paints itself (paintFace) and says what the release means (activate).
 /// The mouse works with any button, and a release counts wherever the pointer is by then. On the
-/// keyboard Space presses and releases. Assistive technology sees a button with a press action;
-/// its name is the accessible name, which every user of a face sets where the face does not.
+/// keyboard Space and Return press and release. Assistive technology sees a button with a press
+/// action; its name is the accessible name, which every user of a face sets where the face does
+/// not.
 class PressButton : public QWidget
 {
     Q_OBJECT

@@ -56,7 +56,7 @@ void TestInstallWords::everyRequestHasItsWords()
 void TestInstallWords::noTwoRequestsHaveTheSameWords()
 {
     QStringList words;
-    for (int step = 0; step < installStepTotal; ++step) {
+    for (int step = 0; step < installStepCount; ++step) {
         words.append(requestWords({InstallStep(step), 1, device}));
     }
     QCOMPARE(words.removeDuplicates(), 0);

@@ -1,3 +1,4 @@
+#include "announcements.h"
 #include "initialpassworddialog.h"
 #include "testcase.h"
 
@@ -22,6 +23,16 @@ private Q_SLOTS:
     void aSeventeenthCharacterIsRefusedByTheFirstFieldOnly();
     void theDefaultButtonFollowsSubmit();
     void submitAccepts();
+    void returnGoesToTheOtherFieldUntilBothAreComplete_data();
+    void returnGoesToTheOtherFieldUntilBothAreComplete();
+    void returnInTheListGoesToThePasswordField();
+    void returnPressesTheButtonThatHasTheFocus();
+    void escapeCancels();
+    void screenReadersAreToldWhichHubItIsFor();
+    void screenReadersAreToldWhatIsMissing_data();
+    void screenReadersAreToldWhatIsMissing();
+    void screenReadersAreToldOfEachChange();
+    void screenReadersAreToldOfARefusal();
     void theNextPromptDoesNotRememberHowTheTextsWereTyped();
     void nothingIsCutOff();
     void labelsAndTabOrderFollowReading();
@@ -172,6 +183,156 @@ void TestInitialPasswordDialog::submitAccepts()
     QTest::mouseClick(f.submit, Qt::LeftButton);
     QCOMPARE(f.dialog.result(), int(QDialog::Accepted));
     QCOMPARE(f.dialog.password(), QStringLiteral("abcd"));
+}
+
+void TestInitialPasswordDialog::returnGoesToTheOtherFieldUntilBothAreComplete_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Return") << Qt::Key_Return;
+    QTest::newRow("Enter") << Qt::Key_Enter;
+}
+
+void TestInitialPasswordDialog::returnGoesToTheOtherFieldUntilBothAreComplete()
+{
+    QFETCH(const Qt::Key, key);
+    Fixture f;
+    const QSignalSpy finished(&f.dialog, SIGNAL(finished(int)));
+    f.dialog.show();
+    QTest::keyClick(f.password, key);
+    QCOMPARE(f.dialog.focusWidget(), f.confirmation);
+    QTest::keyClick(f.confirmation, key);
+    QCOMPARE(f.dialog.focusWidget(), f.password);
+    QTest::keyClicks(f.password, QStringLiteral("abcd"));
+    QTest::keyClick(f.password, key);
+    QCOMPARE(f.dialog.focusWidget(), f.confirmation);
+    QTest::keyClicks(f.confirmation, QStringLiteral("abcd"));
+    QCOMPARE(finished.count(), 0);
+    QTest::keyClick(f.confirmation, key);
+    QCOMPARE(f.dialog.result(), int(QDialog::Accepted));
+}
+
+void TestInitialPasswordDialog::returnInTheListGoesToThePasswordField()
+{
+    Fixture f;
+    f.dialog.show();
+    f.list->setFocus();
+    QTest::keyClick(f.list, Qt::Key_Return);
+    QCOMPARE(f.dialog.focusWidget(), f.password);
+    QVERIFY(f.dialog.isVisible());
+}
+
+void TestInitialPasswordDialog::returnPressesTheButtonThatHasTheFocus()
+{
+    Fixture f;
+    f.dialog.show();
+    const QSignalSpy identified(&f.dialog, SIGNAL(identifyButtonClicked(QString)));
+    QWidget* lamp = f.list->itemWidget(f.list->topLevelItem(0), 1);
+    lamp->setFocus();
+    QTest::keyClick(lamp, Qt::Key_Return);
+    QCOMPARE(identified.count(), 1);
+    QVERIFY(f.dialog.isVisible());
+
+    QTest::keyClicks(f.password, QStringLiteral("abcd"));
+    QTest::keyClicks(f.confirmation, QStringLiteral("abcd"));
+    f.cancel->setFocus();
+    QTest::keyClick(f.cancel, Qt::Key_Return);
+    QVERIFY(!f.dialog.isVisible());
+    QCOMPARE(f.dialog.result(), int(QDialog::Rejected));
+}
+
+void TestInitialPasswordDialog::escapeCancels()
+{
+    Fixture f;
+    const QSignalSpy rejected(&f.dialog, SIGNAL(rejected()));
+    f.dialog.show();
+    QTest::keyClick(f.password, Qt::Key_Escape);
+    QCOMPARE(rejected.count(), 1);
+}
+
+void TestInitialPasswordDialog::screenReadersAreToldWhichHubItIsFor()
+{
+    Fixture f;
+    QCOMPARE(f.dialog.accessibleName(), QStringLiteral("Login to Hub A at 10.0.0.7"));
+    for (const QLineEdit* field : {f.password, f.confirmation}) {
+        QVERIFY(
+            field->accessibleDescription().startsWith(QStringLiteral("For Hub A at 10.0.0.7.")));
+    }
+    f.dialog.setHostName(QStringLiteral("Hub B"));
+    QCOMPARE(f.dialog.accessibleName(), QStringLiteral("Login to Hub B at 10.0.0.7"));
+    for (const QLineEdit* field : {f.password, f.confirmation}) {
+        QVERIFY(
+            field->accessibleDescription().startsWith(QStringLiteral("For Hub B at 10.0.0.7.")));
+    }
+}
+
+void TestInitialPasswordDialog::screenReadersAreToldWhatIsMissing_data()
+{
+    QTest::addColumn<QString>("password");
+    QTest::addColumn<QString>("confirmation");
+    QTest::addColumn<QString>("ofPassword");
+    QTest::addColumn<QString>("ofConfirmation");
+    const QString tooShort = QStringLiteral(" Too short: 4 to 16 letters and digits are needed.");
+    const QString missing = QStringLiteral(" Still missing.");
+    const QString unequal = QStringLiteral(" The two passwords are not equal.");
+    const auto text = [](const char* typed) { return QString::fromLatin1(typed); };
+    QTest::newRow("nothing typed") << QString() << QString() << tooShort << missing;
+    QTest::newRow("too short") << text("abc") << text("abc") << tooShort << QString();
+    QTest::newRow("not repeated") << text("abcd") << QString() << QString() << missing;
+    QTest::newRow("not equal") << text("abcd") << text("abce") << QString() << unequal;
+    QTest::newRow("complete") << text("abcd") << text("abcd") << QString() << QString();
+}
+
+void TestInitialPasswordDialog::screenReadersAreToldWhatIsMissing()
+{
+    QFETCH(const QString, ofPassword);
+    QFETCH(const QString, ofConfirmation);
+    QFETCH(const QString, password);
+    QFETCH(const QString, confirmation);
+    const Fixture f;
+    QTest::keyClicks(f.password, password);
+    QTest::keyClicks(f.confirmation, confirmation);
+    const QString hub = QStringLiteral("For Hub A at 10.0.0.7.");
+    QCOMPARE(f.password->accessibleDescription(), hub + ofPassword);
+    QCOMPARE(f.confirmation->accessibleDescription(), hub + ofConfirmation);
+}
+
+void TestInitialPasswordDialog::screenReadersAreToldOfEachChange()
+{
+    const Fixture f;
+    const Announcements announcements;
+    if (!announcements.canHear()) {
+        QSKIP("This system has no ear for what screen readers are told.");
+    }
+    QTest::keyClicks(f.password, QStringLiteral("abc"));
+    QCOMPARE(Announcements::count(f.password, QAccessible::DescriptionChanged), 0);
+    QTest::keyClicks(f.password, QStringLiteral("d"));
+    QCOMPARE(Announcements::count(f.password, QAccessible::DescriptionChanged), 1);
+    QTest::keyClicks(f.confirmation, QStringLiteral("abcd"));
+    // First not equal, in the end equal.
+    QCOMPARE(Announcements::count(f.confirmation, QAccessible::DescriptionChanged), 2);
+}
+
+void TestInitialPasswordDialog::screenReadersAreToldOfARefusal()
+{
+    Fixture f;
+    const QString refusal = QStringLiteral("The hub did not take this password. Please try again.");
+    QTest::keyClicks(f.password, QStringLiteral("abcd"));
+    QTest::keyClicks(f.confirmation, QStringLiteral("abcd"));
+    const Announcements announcements;
+    if (!announcements.canHear()) {
+        QSKIP("This system has no ear for what screen readers are told.");
+    }
+    f.dialog.setRefused(true);
+    QCOMPARE(f.dialog.accessibleDescription(), refusal);
+    QVERIFY(f.password->accessibleDescription().endsWith(refusal));
+    QCOMPARE(Announcements::count(f.password, QAccessible::DescriptionChanged), 1);
+    f.dialog.show();
+    QCOMPARE(Announcements::count(&f.dialog, QAccessible::Alert), 1);
+    f.dialog.hide();
+    f.dialog.setRefused(false);
+    QVERIFY(!f.password->accessibleDescription().contains(refusal));
+    f.dialog.show();
+    QCOMPARE(Announcements::count(&f.dialog, QAccessible::Alert), 0);
 }
 
 void TestInitialPasswordDialog::theNextPromptDoesNotRememberHowTheTextsWereTyped()

@@ -1,3 +1,4 @@
+#include "announcements.h"
 #include "logindialog.h"
 #include "testcase.h"
 
@@ -27,6 +28,10 @@ private Q_SLOTS:
     void everyPromptBeginsInThePasswordField();
     void theNextPromptDoesNotRememberHowTheTextWasTyped();
     void labelsAndTabOrderFollowReading();
+    void returnPressesTheButtonThatHasTheFocus();
+    void theNameOfTheHubIsInSight();
+    void screenReadersAreToldWhichHubItIsFor();
+    void screenReadersAreToldOfARefusal();
 };
 
 namespace {
@@ -238,6 +243,85 @@ void TestLoginDialog::labelsAndTabOrderFollowReading()
         QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
         QCOMPARE(dialog->focusWidget(), widget);
     }
+}
+
+void TestLoginDialog::returnPressesTheButtonThatHasTheFocus()
+{
+    QWidget page;
+    auto* dialog = newDialog(&page);
+    dialog->show();
+    const auto* list = find<QTreeWidget>(*dialog, "hubList");
+    const QSignalSpy identified(dialog, SIGNAL(identifyButtonClicked(QString)));
+    QWidget* lamp = list->itemWidget(list->topLevelItem(0), 1);
+    lamp->setFocus();
+    QTest::keyClick(lamp, Qt::Key_Return);
+    QCOMPARE(identified.count(), 1);
+    QVERIFY(dialog->isVisible());
+
+    QTest::keyClicks(find<QLineEdit>(*dialog, "passwordEdit"), QStringLiteral("secret"));
+    auto* cancel = find<QPushButton>(*dialog, "cancelButton");
+    cancel->setFocus();
+    QTest::keyClick(cancel, Qt::Key_Return);
+    QVERIFY(!dialog->isVisible());
+    QCOMPARE(dialog->result(), int(QDialog::Rejected));
+}
+
+void TestLoginDialog::theNameOfTheHubIsInSight()
+{
+    QWidget page;
+    auto* dialog = newDialog(&page);
+    dialog->show();
+    const auto* list = find<QTreeWidget>(*dialog, "hubList");
+    const QRect row = list->visualItemRect(list->topLevelItem(0));
+    QVERIFY(list->viewport()->rect().contains(row));
+    // One that is too long shows its beginning and its end, and all of it under the pointer.
+    const QString name = QStringLiteral("A").repeated(63) + u'1';
+    dialog->setHostName(name);
+    QCOMPARE(list->textElideMode(), Qt::ElideMiddle);
+    QCOMPARE(list->topLevelItem(0)->toolTip(0), name);
+}
+
+void TestLoginDialog::screenReadersAreToldWhichHubItIsFor()
+{
+    QWidget page;
+    auto* dialog = newDialog(&page);
+    const auto* password = find<QLineEdit>(*dialog, "passwordEdit");
+    QCOMPARE(dialog->accessibleName(), QStringLiteral("Login to Hub A at 10.0.0.7"));
+    QCOMPARE(password->accessibleName(), QStringLiteral("Password"));
+    QCOMPARE(password->accessibleDescription(), QStringLiteral("For Hub A at 10.0.0.7."));
+    const Announcements announcements;
+    if (!announcements.canHear()) {
+        QSKIP("This system has no ear for what screen readers are told.");
+    }
+    dialog->setHostName(QStringLiteral("Hub B"));
+    QCOMPARE(dialog->accessibleName(), QStringLiteral("Login to Hub B at 10.0.0.7"));
+    QCOMPARE(password->accessibleDescription(), QStringLiteral("For Hub B at 10.0.0.7."));
+    QCOMPARE(Announcements::count(dialog, QAccessible::NameChanged), 1);
+    QCOMPARE(Announcements::count(password, QAccessible::DescriptionChanged), 1);
+}
+
+void TestLoginDialog::screenReadersAreToldOfARefusal()
+{
+    QWidget page;
+    auto* dialog = newDialog(&page);
+    const auto* password = find<QLineEdit>(*dialog, "passwordEdit");
+    const QString refusal =
+        QStringLiteral("The password you entered is incorrect. Please try again.");
+    const Announcements announcements;
+    if (!announcements.canHear()) {
+        QSKIP("This system has no ear for what screen readers are told.");
+    }
+    dialog->setErrorVisible(true);
+    QCOMPARE(dialog->accessibleDescription(), refusal);
+    QVERIFY(password->accessibleDescription().endsWith(refusal));
+    QCOMPARE(Announcements::count(password, QAccessible::DescriptionChanged), 1);
+    dialog->show();
+    QCOMPARE(Announcements::count(dialog, QAccessible::Alert), 1);
+    dialog->hide();
+    dialog->setErrorVisible(false);
+    QVERIFY(!password->accessibleDescription().contains(refusal));
+    dialog->show();
+    QCOMPARE(Announcements::count(dialog, QAccessible::Alert), 0);
 }
 
 TESSEL_TEST_MAIN(TestLoginDialog)

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void aNewHubGetsAPasswordBeforeTheLogIn();
     void aRefusedInitialPasswordIsAskedForAgainWithWhatWasTyped_data();
     void aRefusedInitialPasswordIsAskedForAgainWithWhatWasTyped();
+    void screenReadersAreToldOfARefusedInitialPassword();
     void aWrongPasswordIsAskedForAgainUntilItIsRight();
     void theErrorOfAnEarlierRunIsGoneAtTheNext();
     void anEmptyPasswordIsHashedLikeAnyOther();
@@ -106,6 +107,29 @@ void TestPasswordPrompts::aRefusedInitialPasswordIsAskedForAgainWithWhatWasTyped
     QCOMPARE(found, QStringLiteral("Typed1"));
     QCOMPARE(f.watcher.count(), 3);
     QCOMPARE(f.steps(), QStringLiteral("0 1 2 2 3"));
+}
+
+void TestPasswordPrompts::screenReadersAreToldOfARefusedInitialPassword()
+{
+    SenderFixture f(hub());
+    f.script.initialized = 0;
+    f.script.first = {{InstallStep::Validate, {refusal("400")}}};
+    QList<bool> told;
+    f.answer = [&](HubDialog* dialog, int count) {
+        told.append(!dialog->accessibleDescription().isEmpty());
+        if (count == 3 || count == 4) {
+            cancelPrompt(dialog);
+        } else {
+            submitPassword(dialog, SenderFixture::password());
+        }
+    };
+    // Refused once, then taken; a run of its own starts without a word.
+    f.sender->start();
+    QVERIFY(f.waitForOutcome());
+    f.sender->start();
+    QVERIFY(f.waitForOutcome(2));
+    QCOMPARE(told, QList<bool>({false, true, false, false}));
+    QCOMPARE(f.watcher.count(), 4);
 }
 
 void TestPasswordPrompts::aWrongPasswordIsAskedForAgainUntilItIsRight()

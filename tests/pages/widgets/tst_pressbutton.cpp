@@ -9,6 +9,18 @@
 #include <QSignalSpy>
 #include <QTest>
 
+namespace {
+
+void addKeys()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Space") << Qt::Key_Space;
+    QTest::newRow("Return") << Qt::Key_Return;
+    QTest::newRow("Enter") << Qt::Key_Enter;
+}
+
+} // namespace
+
 class TestPressButton : public TestCase
 {
     Q_OBJECT
@@ -17,8 +29,10 @@ private Q_SLOTS:
     void aReleaseOutsideCountsAsWell();
     void everyMouseButtonPresses();
     void aRightClickOpensNoMenuBelow();
-    void spacePressesAndReleases();
-    void aHeldSpacePressesOnce();
+    void keysPressAndRelease_data() { addKeys(); }
+    void keysPressAndRelease();
+    void aHeldKeyPressesOnce_data() { addKeys(); }
+    void aHeldKeyPressesOnce();
     void losingTheFocusLetsGoWithoutAClick();
     void otherKeysGoOn();
     void aDisabledButtonDoesNothing();
@@ -117,29 +131,31 @@ void TestPressButton::aRightClickOpensNoMenuBelow()
     QCOMPARE(clicked.size(), 1);
 }
 
-void TestPressButton::spacePressesAndReleases()
+void TestPressButton::keysPressAndRelease()
 {
+    QFETCH(const Qt::Key, key);
     IdentifyButton button(address);
     QSignalSpy clicked(&button, SIGNAL(clicked(QString)));
-    QTest::keyPress(&button, Qt::Key_Space);
+    QTest::keyPress(&button, key);
     QVERIFY(button.isPressed());
     QCOMPARE(clicked.size(), 0);
-    QTest::keyRelease(&button, Qt::Key_Space);
+    QTest::keyRelease(&button, key);
     QVERIFY(!button.isPressed());
     QCOMPARE(clicked.size(), 1);
 }
 
-void TestPressButton::aHeldSpacePressesOnce()
+void TestPressButton::aHeldKeyPressesOnce()
 {
+    QFETCH(const Qt::Key, key);
     TesselButton button;
     QSignalSpy clicked(&button, SIGNAL(clicked(bool)));
-    QTest::keyPress(&button, Qt::Key_Space);
+    QTest::keyPress(&button, key);
     for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
-        QKeyEvent repeated(type, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+        QKeyEvent repeated(type, key, Qt::NoModifier, QStringLiteral(" "), true);
         QCoreApplication::sendEvent(&button, &repeated);
     }
     QCOMPARE(clicked.size(), 0);
-    QTest::keyRelease(&button, Qt::Key_Space);
+    QTest::keyRelease(&button, key);
     QCOMPARE(clicked.size(), 1);
 }
 
@@ -159,7 +175,7 @@ void TestPressButton::losingTheFocusLetsGoWithoutAClick()
 void TestPressButton::otherKeysGoOn()
 {
     TesselButton button;
-    QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
     QCoreApplication::sendEvent(&button, &event);
     QVERIFY(!event.isAccepted());
     QVERIFY(!button.isPressed());
