@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tesseldoc.h"
+#include "wizardhands.h"
 
 #include <QList>
 #include <QPoint>
@@ -8,10 +9,7 @@
 
 #include <memory>
 
-class BasePage;
 class MainWindow;
-class QStackedWidget;
-class QTreeWidget;
 class QWidget;
 
 using Cells = QList<QPoint>;
@@ -71,6 +69,6 @@ public:
     std::unique_ptr<MainWindow> window;
 
 private:
-    QStackedWidget* stack() const;
+    WizardHands hands() const;
     void work(int number) const;
 };

@@ -94,8 +94,8 @@ void TestDeviceLocation::listsHubsApartFromPeripherals()
     step.add(microphoneModel);
     step.add(QStringLiteral("PX-XY"));
     step.enter();
-    QCOMPARE(columnTexts(step.hubs, ModelColumn), strings({"PX-HB", "PX-HB2"}));
-    QCOMPARE(columnTexts(step.peripherals, ModelColumn), strings({"PX-DL", "PX-XY"}));
+    QCOMPARE(columnTexts(*step.hubs, "Model"), strings({"PX-HB", "PX-HB2"}));
+    QCOMPARE(columnTexts(*step.peripherals, "Model"), strings({"PX-DL", "PX-XY"}));
 }
 
 void TestDeviceLocation::showsWhatTheDocumentKnowsOfADevice()
@@ -124,7 +124,7 @@ void TestDeviceLocation::listsDevicesByHostnameFirst()
     addTestDevice(step.doc, QStringLiteral("a"), speakerModel, Step::address(3));
     addTestDevice(step.doc, QStringLiteral("b"), speakerModel, Step::address(2));
     step.enter();
-    QCOMPARE(columnTexts(step.peripherals, LabelColumn), strings({"a", "b", "c"}));
+    QCOMPARE(columnTexts(*step.peripherals, "Hostname"), strings({"a", "b", "c"}));
     QVERIFY(step.peripherals->isSortingEnabled());
     QVERIFY(step.hubs->isSortingEnabled());
 }
@@ -277,7 +277,7 @@ void TestDeviceLocation::twoDevicesOfOneAddressAreTwoRows()
     addTestDevice(step.doc, QStringLiteral("a"), speakerModel, firstAddress, 1);
     addTestDevice(step.doc, QStringLiteral("b"), speakerModel, firstAddress);
     step.enter();
-    QCOMPARE(columnTexts(step.peripherals, LabelColumn), strings({"a", "b"}));
+    QCOMPARE(columnTexts(*step.peripherals, "Hostname"), strings({"a", "b"}));
     press(step.next);
     QCOMPARE(step.controller.nexts, 1);
 }
@@ -294,7 +294,7 @@ void TestDeviceLocation::oneAddressListedTwiceIsOneDeviceInOneRoom()
         Step::choose(combos.at(changed), 2);
         QCOMPARE(combos.at(0)->currentIndex(), 2);
         QCOMPARE(combos.at(1)->currentIndex(), 2);
-        QCOMPARE(columnTexts(step.hubs, RoomColumn), strings({"2", "2"}));
+        QCOMPARE(columnTexts(*step.hubs, "Room"), strings({"2", "2"}));
         QCOMPARE(step.summaryRow(2), strings({"2", "1", "0", "0", "0"}));
         press(step.next);
         QCOMPARE(step.storedRoom(firstAddress), 2);
@@ -309,7 +309,7 @@ void TestDeviceLocation::oneAddressInBothTablesIsInOneRoom()
     addTestDevice(step.doc, QStringLiteral("a"), hubModel, firstAddress, 1);
     addTestDevice(step.doc, QStringLiteral("b"), speakerModel, firstAddress);
     step.enter();
-    QCOMPARE(columnTexts(step.peripherals, RoomColumn), strings({"1"}));
+    QCOMPARE(columnTexts(*step.peripherals, "Room"), strings({"1"}));
     press(step.next);
     QCOMPARE(step.storedRoom(firstAddress), 1);
 }

@@ -85,9 +85,9 @@ void TestPageConfigure::everyCombinedRoomIsListedAlsoOneOfASingleRoom()
     addColouredLayout(step.doc, 1, QStringLiteral("1+2/3"), Qt::cyan);
     addColouredLayout(step.doc, 2, QStringLiteral("1/2/3"), Qt::yellow);
     step.enter();
-    QCOMPARE(columnTexts(*step.list, 0).join(u' '), QStringLiteral("1 2 3 4 5"));
-    QCOMPARE(columnTexts(*step.list, 1).join(u' '), QStringLiteral("1 1 2 2 2"));
-    QCOMPARE(columnTexts(*step.list, 2).join(u' '), QStringLiteral("1,2 3 1 2 3"));
+    QCOMPARE(columnTexts(*step.list, "No.").join(u' '), QStringLiteral("1 2 3 4 5"));
+    QCOMPARE(columnTexts(*step.list, "Layout").join(u' '), QStringLiteral("1 1 2 2 2"));
+    QCOMPARE(columnTexts(*step.list, "Room").join(u' '), QStringLiteral("1,2 3 1 2 3"));
     QCOMPARE(step.list->topLevelItem(0)->background(2).color(), QColor(0xB0, 0x68, 0x00));
     QCOMPARE(step.list->topLevelItem(3)->background(2).color(), QColor(0x44, 0x84, 0x47));
     QCOMPARE(step.list->currentItem(), step.list->topLevelItem(0));
