@@ -5,6 +5,7 @@
 #include "samplelog.h"
 
 #include <QApplication>
+#include <QPushButton>
 #include <QScopedValueRollback>
 #include <QTextStream>
 #include <QTreeWidget>

@@ -18,6 +18,8 @@ namespace {
 constexpr int windowWaitMs = 10000;
 // Within this the interface dialog is up, where one is due.
 constexpr int dialogWaitMs = 300;
+// Long enough for a dialog to be laid out and painted, short enough not to be waited for.
+constexpr int dialogShownMs = 40;
 // No step of the demo takes this long on a slow machine.
 constexpr int stuckAfterMs = 150000;
 
@@ -26,7 +28,7 @@ constexpr int stuckAfterMs = 150000;
 DemoDesk::DemoDesk(const QString& pictureFolder, QObject* parent)
     : QObject(parent)
     , m_pictureFolder(pictureFolder)
-    , m_dialogs(new DialogAnswerer(this))
+    , m_dialogs(new DialogAnswerer(this, dialogShownMs))
 {
     QDir().mkpath(m_pictureFolder);
     m_watchdog.start(stuckAfterMs, this);

@@ -14,9 +14,6 @@
 
 namespace {
 
-// Nobody has to wait for an answer longer than for the dialog itself.
-constexpr int lookEveryMs = 1;
-
 QString nameOf(const QWidget* dialog)
 {
     return dialog->objectName().isEmpty() ? dialog->windowTitle() : dialog->objectName();
@@ -38,11 +35,12 @@ QList<QPointer<QObject>>& dialogsDone()
 
 } // namespace
 
-DialogAnswerer::DialogAnswerer(QObject* parent)
+DialogAnswerer::DialogAnswerer(QObject* parent, int lookEveryMs)
     : QObject(parent)
+    , m_lookEveryMs(lookEveryMs)
 {
     answerers().append(this);
-    m_timer.start(lookEveryMs, this);
+    m_timer.start(m_lookEveryMs, this);
 }
 
 DialogAnswerer::DialogAnswerer(QAnyStringView name, const Answer& answer)
@@ -152,7 +150,7 @@ void DialogAnswerer::take(QWidget* dialog)
     dialog->installEventFilter(this);
     // While a timer's event is being handled it does not fire again, also not in the event loop of
     // another dialog that comes up meanwhile and wants its answer first: so a new timer goes on.
-    m_timer.start(lookEveryMs, this);
+    m_timer.start(m_lookEveryMs, this);
 }
 
 void DialogAnswerer::note(const QWidget* dialog)

@@ -27,8 +27,8 @@ public:
     /// Whether a dialog in front is to be answered yet; asked again and again until it is.
     using Ready = std::function<bool(QWidget*)>;
 
-    /// Knows no dialog yet.
-    explicit DialogAnswerer(QObject* parent = nullptr);
+    /// Knows no dialog yet. Looks for dialogs at this interval, so long may each be seen.
+    explicit DialogAnswerer(QObject* parent = nullptr, int lookEveryMs = 1);
     /// Expects one dialog, as expect() does.
     DialogAnswerer(QAnyStringView name, const Answer& answer);
     ~DialogAnswerer() override;
@@ -69,6 +69,7 @@ private:
     void note(const QWidget* dialog);
 
     QBasicTimer m_timer;
+    int m_lookEveryMs;
     QList<Known> m_known;
     QString m_text;
     QStringList m_buttons;

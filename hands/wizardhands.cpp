@@ -95,8 +95,12 @@ void WizardHands::place(QTreeWidgetItem* device, int room) const
 
 void WizardHands::link(int room, int other) const
 {
-    Hands::click(
-        namedWidget(*page(), QStringLiteral("Link room %1 and room %2").arg(room).arg(other)));
+    const QString name = QStringLiteral("Link room %1 and room %2").arg(room).arg(other);
+    QWidget* box = namedWidget(*page(), name);
+    if (box == nullptr) {
+        qFatal("There is no \"%s\"", qPrintable(name));
+    }
+    Hands::click(box);
 }
 
 void WizardHands::removeLayout(int number) const

@@ -7,11 +7,11 @@
 #include "sessionqueries.h"
 #include "tablefixtures.h"
 #include "testcase.h"
+#include "wizardhands.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -103,23 +103,22 @@ struct Wizard
     void goBackTo(int index) const
     {
         while (stack()->currentIndex() > index) {
-            press(buttonOf(*stack()->currentWidget(), "backButton"));
+            QVERIFY(hands().back());
         }
     }
     void goForth() const
     {
         while (stack()->currentIndex() < installIndex) {
-            press(buttonOf(*stack()->currentWidget(), "nextButton"));
+            QVERIFY(hands().next());
         }
     }
     /// Step 7 with the cursor in the first name.
     void namePreset(const QString& name) const
     {
         goBackTo(installIndex - 1);
-        auto* field = stack()->currentWidget()->findChild<QLineEdit*>();
-        field->selectAll();
-        QTest::keyClicks(field, name);
+        QCOMPARE(hands().namePreset(1, name), name);
     }
+    WizardHands hands() const { return WizardHands(window.get()); }
     /// Closes the window; true when it asks, which is answered with "Cancel".
     bool asksOnClosing() const
     {

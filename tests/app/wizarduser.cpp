@@ -105,12 +105,12 @@ void WizardUser::click(QPoint cell) const
 
 void WizardUser::place(const QString& label, int room) const
 {
-    hands().place(hands().device(label), room);
+    hands().place(row(label), room);
 }
 
 QString WizardUser::shownRoom(const QString& label) const
 {
-    return qobject_cast<QComboBox*>(widgetIn(hands().device(label), "Room"))->currentText();
+    return qobject_cast<QComboBox*>(widgetIn(row(label), "Room"))->currentText();
 }
 
 void WizardUser::link(int one, int other) const
@@ -126,13 +126,13 @@ void WizardUser::removeLayout(int number) const
 void WizardUser::toggleInSet(int group, const QString& label) const
 {
     hands().showGroup(group);
-    hands().toggle(hands().device(label));
+    hands().toggle(row(label));
 }
 
 void WizardUser::chooseSide(int group, const QString& label, const QString& side) const
 {
     hands().showGroup(group);
-    hands().chooseSide(hands().device(label), side);
+    hands().chooseSide(row(label), side);
 }
 
 void WizardUser::namePreset(int group, const QString& name) const
@@ -184,6 +184,15 @@ void WizardUser::work(int number) const
     default:
         break;
     }
+}
+
+QTreeWidgetItem* WizardUser::row(const QString& label) const
+{
+    QTreeWidgetItem* found = hands().device(label);
+    if (found == nullptr) {
+        qFatal("%s is not listed", qPrintable(label));
+    }
+    return found;
 }
 
 WizardHands WizardUser::hands() const

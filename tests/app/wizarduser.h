@@ -10,6 +10,7 @@
 #include <memory>
 
 class MainWindow;
+class QTreeWidgetItem;
 class QWidget;
 
 using Cells = QList<QPoint>;
@@ -70,5 +71,7 @@ public:
 
 private:
     WizardHands hands() const;
+    /// The row of a device on the page shown, which must list it.
+    QTreeWidgetItem* row(const QString& label) const;
     void work(int number) const;
 };

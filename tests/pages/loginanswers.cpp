@@ -1,10 +1,9 @@
 #include "loginanswers.h"
 
 #include "finding.h"
+#include "hands.h"
 
 #include <QLineEdit>
-#include <QTest>
-#include <QTreeWidget>
 
 namespace {
 
@@ -13,13 +12,6 @@ constexpr int longestHoldMs = 60000;
 QString hubOf(const QWidget* dialog)
 {
     return columnTexts(*tableOf(*dialog, "hubList"), "IP Address").first();
-}
-
-void typeInto(QLineEdit* field, const QString& text)
-{
-    field->selectAll();
-    QTest::keyClick(field, Qt::Key_Delete);
-    QTest::keyClicks(field, text);
 }
 
 } // namespace
@@ -78,14 +70,13 @@ void LoginAnswers::answer(QWidget* dialog)
     const bool isTired =
         m_mostAnswers.contains(hub) && m_prompts.count(hub) > m_mostAnswers.value(hub);
     if (isTired || m_cancelled.removeOne(hub)) {
-        QTest::keyClick(dialog, Qt::Key_Escape);
+        Hands::pressKey(dialog, Qt::Key_Escape);
         return;
     }
     QStringList& passwords = m_passwords[hub];
     const QString password = passwords.isEmpty() ? m_password : passwords.takeFirst();
-    const auto fields = dialog->findChildren<QLineEdit*>();
-    for (QLineEdit* field : fields) {
-        typeInto(field, password);
+    for (QLineEdit* field : dialog->findChildren<QLineEdit*>()) {
+        Hands::typeInto(field, password);
     }
-    QTest::keyClick(fields.first(), Qt::Key_Return);
+    Hands::pressKey(dialog, Qt::Key_Return);
 }
