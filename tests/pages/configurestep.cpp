@@ -1,5 +1,6 @@
 #include "configurestep.h"
 
+#include "hands.h"
 #include "pagefixtures.h"
 #include "removebutton.h"
 #include "setqueries.h"
@@ -54,6 +55,7 @@ QTreeWidgetItem* ConfigureStep::row(int device) const
 RemoveButton* ConfigureStep::button(int device) const
 {
     QTreeWidgetItem* item = row(device);
+    Hands::reach(item);
     QWidget* remove = namedWidgetIn(item, "Remove");
     return qobject_cast<RemoveButton*>(remove ? remove : namedWidgetIn(item, "Revert"));
 }
