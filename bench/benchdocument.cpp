@@ -1,6 +1,7 @@
 #include "benchdocument.h"
 
 #include "devicequeries.h"
+#include "documentfixtures.h"
 #include "layoutqueries.h"
 #include "presetqueries.h"
 #include "roomqueries.h"
@@ -11,9 +12,6 @@
 namespace {
 
 constexpr int rooms = 4;
-constexpr int rowsOfGrid = 8;
-constexpr int columnsPerRoom = 2;
-constexpr int thumbnailSide = 64;
 
 QString modelOf(int device, const HallSize& size)
 {
@@ -38,23 +36,6 @@ DeviceData deviceRecord(int device, const HallSize& size)
     // A changed label makes the preset files as long as they can be.
     record.labelModified = true;
     return record;
-}
-
-RoomInfo roomRecord(int room)
-{
-    RoomInfo record{room, {}};
-    for (int cell = 0; cell < columnsPerRoom * rowsOfGrid; ++cell) {
-        record.positionList.append(
-            {(room - 1) * columnsPerRoom + cell / rowsOfGrid, cell % rowsOfGrid});
-    }
-    return record;
-}
-
-SceneInfo layoutRecord(int layout)
-{
-    QPixmap thumbnail(thumbnailSide, thumbnailSide);
-    thumbnail.fill(Qt::darkGray);
-    return {layout, QStringLiteral("1/2/3/4"), thumbnail};
 }
 
 void appendSets(HallRecords& records, int layout)
@@ -94,10 +75,10 @@ HallRecords hallRecords(const HallSize& size)
         records.deviceAt.insert(benchAddress(device), records.devices.last());
     }
     for (int room = 1; room <= rooms; ++room) {
-        records.rooms.append(roomRecord(room));
+        records.rooms.append(testRoom(room));
     }
     for (int layout = 1; layout <= size.layouts; ++layout) {
-        records.layouts.append(layoutRecord(layout));
+        records.layouts.append(testLayout(layout, QStringLiteral("1/2/3/4")));
         appendSets(records, layout);
     }
     return records;

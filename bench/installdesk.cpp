@@ -1,31 +1,18 @@
 #include "installdesk.h"
 
-#include <QApplication>
+#include "finding.h"
+
 #include <QLineEdit>
 #include <QPushButton>
 
-namespace {
-
-constexpr int lookEveryMs = 1;
-
-} // namespace
-
 void InstallDesk::answerDialogs()
 {
-    m_timer.start(lookEveryMs, this);
+    m_dialogs = std::make_unique<DialogAnswerer>();
+    // Typing is no part of what is measured.
+    m_dialogs->onDialog("loginDialog", [](QWidget* dialog) {
+        dialog->findChild<QLineEdit*>()->setText(QStringLiteral("hall2026"));
+        buttonOf(*dialog, "loginButton")->click();
+    });
 }
 
 void InstallDesk::identifyButtonClicked(const QString& /*ipAddress*/) {}
-
-void InstallDesk::timerEvent(QTimerEvent* /*event*/)
-{
-    const QWidget* dialog = QApplication::activeModalWidget();
-    auto* button = dialog != nullptr
-                       ? dialog->findChild<QPushButton*>(QStringLiteral("loginButton"))
-                       : nullptr;
-    if (button != nullptr) {
-        dialog->findChild<QLineEdit*>(QStringLiteral("passwordEdit"))
-            ->setText(QStringLiteral("hall2026"));
-        button->click();
-    }
-}

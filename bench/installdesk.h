@@ -1,24 +1,24 @@
 #pragma once
 
-#include <QBasicTimer>
+#include "dialoganswerer.h"
+
 #include <QWidget>
 
-/// The page that an installation's dialogs open over; it answers each with a password.
+#include <memory>
+
+/// The page that an installation's dialogs open over; it answers each log-in with a password.
 class InstallDesk : public QWidget
 {
     Q_OBJECT
 
 public:
     void answerDialogs();
-    void stopAnswering() { m_timer.stop(); }
+    void stopAnswering() { m_dialogs.reset(); }
 
 public Q_SLOTS:
     /// The dialogs want to be connected to it.
     void identifyButtonClicked(const QString& ipAddress);
 
-protected:
-    void timerEvent(QTimerEvent* event) override;
-
 private:
-    QBasicTimer m_timer;
+    std::unique_ptr<DialogAnswerer> m_dialogs;
 };

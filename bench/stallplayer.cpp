@@ -1,15 +1,12 @@
 #include "stallplayer.h"
 
-#include "demouser.h"
+#include "finding.h"
+#include "hands.h"
 #include "samplelog.h"
-#include "treerows.h"
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QComboBox>
-#include <QLineEdit>
+#include <QPushButton>
 #include <QScopedValueRollback>
-#include <QStackedWidget>
 #include <QTextStream>
 #include <QTreeWidget>
 
@@ -18,34 +15,19 @@ namespace {
 constexpr int tickMs = 12;
 constexpr int rooms = 4;
 constexpr int roomSide = 4;
-constexpr int cellPitch = 50;
-constexpr QPoint cellMiddle(26, 26);
 constexpr int devicesOfAKind = 8;
-constexpr int roomColumn = 4;
-constexpr int widgetColumn = 5;
-constexpr int nameColumn = 3;
 
-QWidget* wizardWindow()
-{
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->inherits("MainWindow") && widget->isVisible()) {
-            return widget;
-        }
-    }
-    return nullptr;
-}
-
-QList<QPoint> strokeOver(int room)
+QList<QPoint> cellsOf(int room)
 {
     const QPoint corner((room - 1) % 2 * roomSide, (room - 1) / 2 * roomSide);
-    QList<QPoint> path;
+    QList<QPoint> cells;
     for (int row = 0; row < roomSide; ++row) {
         for (int step = 0; step < roomSide; ++step) {
             const int column = row % 2 == 0 ? step : roomSide - 1 - step;
-            path.append((corner + QPoint(column, row)) * cellPitch + cellMiddle);
+            cells.append(corner + QPoint(column, row));
         }
     }
-    return path;
+    return cells;
 }
 
 } // namespace
@@ -54,6 +36,10 @@ StallPlayer::StallPlayer(QObject* parent)
     : QObject(parent)
     , m_heartbeat(this)
 {
+    m_dialogs.onDialog("loginDialog", [](QWidget* dialog) {
+        Hands::typeInto(widgetOf(*dialog, "passwordEdit"), QStringLiteral("hall2026"));
+        Hands::click(buttonOf(*dialog, "loginButton"));
+    });
 }
 
 void StallPlayer::start()
@@ -67,14 +53,14 @@ void StallPlayer::timerEvent(QTimerEvent* /*event*/)
         return;
     }
     const QScopedValueRollback acting(m_acting, true);
-    if (m_window == nullptr) {
-        m_window = wizardWindow();
-        if (m_window != nullptr) {
+    if (!m_hands) {
+        if (QWidget* window = wizardWindow()) {
+            m_hands.emplace(window);
             // The start has figures of its own.
             QApplication::processEvents();
             m_heartbeat.start();
         }
-    } else if (!answerDialog()) {
+    } else if (QApplication::activeModalWidget() == nullptr) {
         if (m_actions.isEmpty()) {
             planPage();
         } else {
@@ -97,8 +83,7 @@ void StallPlayer::planPage()
         &StallPlayer::planInstallation,
         &StallPlayer::finish,
     };
-    const auto* stack = m_window->findChild<QStackedWidget*>(QStringLiteral("pageStack"));
-    const int index = stack->currentIndex();
+    const int index = m_hands->pageNumber() - 1;
     if (index == m_plannedPage) {
         return;
     }
@@ -110,7 +95,7 @@ void StallPlayer::planPage()
     if (index < 7) {
         plan([this, index] {
             m_heartbeat.setActivity(QStringLiteral("going to step %1").arg(index + 2));
-            press(QStringLiteral("nextButton"));
+            press("nextButton");
         });
     }
 }
@@ -118,64 +103,50 @@ void StallPlayer::planPage()
 void StallPlayer::planDrawing()
 {
     for (int room = 1; room <= rooms; ++room) {
-        plan([this, room] {
-            DemoUser::drag(page()->findChild<QWidget*>(QStringLiteral("roomEditor")),
-                           strokeOver(room));
-        });
+        plan([this, room] { m_hands->draw(cellsOf(room)); });
     }
 }
 
 void StallPlayer::planPlacing()
 {
-    QTreeWidget* hubs = tree(QStringLiteral("hubTable"));
+    const QTreeWidget* hubs = m_hands->table("hubTable");
     for (int row = 0; row < hubs->topLevelItemCount(); ++row) {
-        choose(hubs, row, roomColumn, QString::number(row % rooms + 1));
+        planPlace(hubs->topLevelItem(row), row % rooms + 1);
     }
-    QTreeWidget* peripherals = tree(QStringLiteral("peripheralTable"));
+    const QTreeWidget* peripherals = m_hands->table("peripheralTable");
     for (const QString& kind : {QStringLiteral("Boundary"), QStringLiteral("Speaker")}) {
         const auto found = peripherals->findItems(kind, Qt::MatchStartsWith);
         for (int index = 0; index < devicesOfAKind; ++index) {
-            choose(peripherals, peripherals->indexOfTopLevelItem(found.at(index)), roomColumn,
-                   QString::number(index % rooms + 1));
+            planPlace(found.at(index), index % rooms + 1);
         }
     }
 }
 
-void StallPlayer::choose(QTreeWidget* tree, int row, int column, const QString& text)
+void StallPlayer::planPlace(QTreeWidgetItem* device, int room)
 {
-    plan([=] { tree->scrollToItem(tree->topLevelItem(row)); });
-    plan([=] {
-        auto* widget = tree->itemWidget(tree->topLevelItem(row), column);
-        DemoUser::choose(qobject_cast<QComboBox*>(widget), text);
-    });
+    plan([device] { Hands::reach(device); });
+    plan([=, this] { m_hands->place(device, room); });
 }
 
 void StallPlayer::planLayouts()
 {
-    const QStringList links{{},
-                            QStringLiteral("Link room 1 and room 2"),
-                            QStringLiteral("Link room 3 and room 4"),
-                            QStringLiteral("Link room 1 and room 2")};
-    for (const QString& link : links) {
-        plan([this, link] {
-            if (!link.isEmpty()) {
-                DemoUser::click(findByAccessibleName(page(), link));
-            }
-        });
-        plan([this] { press(QStringLiteral("addLayoutButton")); });
+    const auto add = [this] { press("addLayoutButton"); };
+    plan(add);
+    for (const int room : {1, 3, 1}) {
+        plan([this, room] { m_hands->link(room, room + 1); });
+        plan(add);
     }
 }
 
 void StallPlayer::planSets()
 {
-    QTreeWidget* groups = tree(QStringLiteral("roomGroupList"));
-    for (int group = 0; group < groups->topLevelItemCount(); ++group) {
-        plan([=] { DemoUser::clickRow(groups, groups->topLevelItem(group)); });
+    for (int group = 1; group <= groups(); ++group) {
+        plan([=, this] { m_hands->showGroup(group); });
         // A combined room keeps one of its hubs.
         plan([this] {
-            QTreeWidget* hubs = tree(QStringLiteral("hubTable"));
+            const QTreeWidget* hubs = m_hands->table("hubTable");
             for (int row = 1; row < hubs->topLevelItemCount(); ++row) {
-                DemoUser::click(hubs->itemWidget(hubs->topLevelItem(row), widgetColumn));
+                m_hands->toggle(hubs->topLevelItem(row));
             }
         });
     }
@@ -183,26 +154,19 @@ void StallPlayer::planSets()
 
 void StallPlayer::planPositions()
 {
-    QTreeWidget* groups = tree(QStringLiteral("roomGroupList"));
-    for (int group = 0; group < groups->topLevelItemCount(); ++group) {
-        plan([=] { DemoUser::clickRow(groups, groups->topLevelItem(group)); });
+    for (int group = 1; group <= groups(); ++group) {
+        plan([=, this] { m_hands->showGroup(group); });
         plan([this] {
-            QTreeWidget* speakers = tree(QStringLiteral("speakerTable"));
-            auto* widget = speakers->itemWidget(speakers->topLevelItem(0), widgetColumn);
-            DemoUser::choose(qobject_cast<QComboBox*>(widget), QStringLiteral("R"));
+            m_hands->chooseSide(m_hands->table("speakerTable")->topLevelItem(0),
+                                QStringLiteral("R"));
         });
     }
 }
 
 void StallPlayer::planNames()
 {
-    QTreeWidget* groups = tree(QStringLiteral("roomGroupList"));
-    for (int group = 0; group < groups->topLevelItemCount(); ++group) {
-        plan([=] { groups->scrollToItem(groups->topLevelItem(group)); });
-        plan([=, this] {
-            DemoUser::click(groups->itemWidget(groups->topLevelItem(group), nameColumn));
-            DemoUser::type(m_window, QStringLiteral("Hall"));
-        });
+    for (int group = 1; group <= groups(); ++group) {
+        plan([=, this] { m_hands->namePreset(group, QStringLiteral("Hall")); });
     }
 }
 
@@ -210,10 +174,10 @@ void StallPlayer::planInstallation()
 {
     plan([this] {
         m_heartbeat.setActivity(QStringLiteral("the installation"));
-        press(QStringLiteral("executeButton"));
+        press("executeButton");
     });
     // Comes back for itself until every hub is done.
-    plan([this] { press(QStringLiteral("executeButton")); });
+    plan([this] { press("executeButton"); });
 }
 
 void StallPlayer::finish()
@@ -221,45 +185,18 @@ void StallPlayer::finish()
     recordSample(QStringLiteral("stall/ours"), m_heartbeat.longestMs());
     QTextStream(stdout) << "Longest stall: " << m_heartbeat.longestMs() << " ms, "
                         << m_heartbeat.longestDuring() << Qt::endl;
-    plan([this] { press(QStringLiteral("closeButton")); });
+    plan([this] { press("closeButton"); });
 }
 
-bool StallPlayer::answerDialog()
+int StallPlayer::groups() const
 {
-    QWidget* dialog = QApplication::activeModalWidget();
-    if (dialog == nullptr) {
-        return false;
-    }
-    auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("passwordEdit"));
-    if (edit != nullptr && dialog->isVisible()) {
-        edit->setText(QStringLiteral("hall2026"));
-        dialog->findChild<QAbstractButton*>(QStringLiteral("loginButton"))->click();
-    }
-    return true;
+    return m_hands->table("roomGroupList")->topLevelItemCount();
 }
 
-QWidget* StallPlayer::page() const
+void StallPlayer::press(const char* button)
 {
-    return m_window->findChild<QStackedWidget*>(QStringLiteral("pageStack"))->currentWidget();
-}
-
-QTreeWidget* StallPlayer::tree(const QString& name) const
-{
-    for (auto* found : page()->findChildren<QTreeWidget*>(name)) {
-        if (found->isVisible()) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
-void StallPlayer::press(const QString& name)
-{
-    auto* button = page()->findChild<QAbstractButton*>(name);
-    if (button != nullptr && button->isEnabled()) {
-        DemoUser::click(button);
-    } else {
+    if (!m_hands->press(button)) {
         // Not yet: tried again at the next tick.
-        m_actions.prepend([this, name] { press(name); });
+        m_actions.prepend([this, button] { press(button); });
     }
 }

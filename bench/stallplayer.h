@@ -1,16 +1,17 @@
 #pragma once
 
+#include "dialoganswerer.h"
 #include "heartbeat.h"
+#include "wizardhands.h"
 
 #include <QBasicTimer>
 #include <QList>
 #include <QObject>
 
 #include <functional>
+#include <optional>
 
-class QComboBox;
-class QTreeWidget;
-class QWidget;
+class QTreeWidgetItem;
 
 /// Plays the nine steps on the wizard's window, one action of the user per tick, while a heartbeat
 /// listens for stalls. Every page waits for the one before: actions are planned page by page.
@@ -33,22 +34,21 @@ private:
     void planPage();
     void planDrawing();
     void planPlacing();
+    void planPlace(QTreeWidgetItem* device, int room);
     void planLayouts();
     void planSets();
     void planPositions();
     void planNames();
-    void choose(QTreeWidget* tree, int row, int column, const QString& text);
     void planInstallation();
     void finish();
 
-    bool answerDialog();
-    QWidget* page() const;
-    QTreeWidget* tree(const QString& name) const;
-    void press(const QString& button);
+    int groups() const;
+    void press(const char* button);
 
     QBasicTimer m_ticks;
     Heartbeat m_heartbeat;
-    QWidget* m_window = nullptr;
+    DialogAnswerer m_dialogs;
+    std::optional<WizardHands> m_hands;
     int m_plannedPage = -1;
     bool m_acting = false;
     QList<Action> m_actions;

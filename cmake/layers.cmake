@@ -23,19 +23,29 @@ function(tessel_program name)
 endfunction()
 
 # A Qt Test program, run by CTest on the offscreen platform with a home folder of its own.
-# Its source is NAME.cpp in the calling folder; EXTRA lists further sources.
+# Its source is NAME.cpp in the calling folder; EXTRA lists further sources. With SHARES each of the
+# test functions named there is a test of its own, so that they run side by side.
 #
-#   tessel_test(NAME [EXTRA file...] [USES target...] [QT module...] [TIMEOUT seconds])
+#   tessel_test(NAME [EXTRA file...] [USES target...] [QT module...] [TIMEOUT seconds]
+#               [SHARES function...])
 function(tessel_test name)
-    cmake_parse_arguments(arg "" "TIMEOUT" "EXTRA;USES;QT" ${ARGN})
+    cmake_parse_arguments(arg "" "TIMEOUT" "EXTRA;USES;QT;SHARES" ${ARGN})
     list(TRANSFORM arg_QT PREPEND "Qt6::")
     if(NOT arg_TIMEOUT)
         set(arg_TIMEOUT 180)
     endif()
     add_executable(${name} ${name}.cpp ${arg_EXTRA})
     target_link_libraries(${name} PRIVATE tessel_options tessel_testsupport ${arg_USES} ${arg_QT} Qt6::Test)
-    add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES
+    set(tests ${name})
+    if(arg_SHARES)
+        list(TRANSFORM arg_SHARES PREPEND "${name}." OUTPUT_VARIABLE tests)
+        foreach(share ${arg_SHARES})
+            add_test(NAME ${name}.${share} COMMAND ${name} ${share})
+        endforeach()
+    else()
+        add_test(NAME ${name} COMMAND ${name})
+    endif()
+    set_tests_properties(${tests} PROPERTIES
         TIMEOUT ${arg_TIMEOUT}
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QPA_PLATFORMTHEME=;LC_ALL=C.UTF-8"
         FAIL_REGULAR_EXPRESSION "No such (slot|signal|method);QObject::connect;QObject::disconnect;runtime error:")

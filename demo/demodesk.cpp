@@ -1,14 +1,12 @@
 #include "demodesk.h"
 
-#include "demoscenario.h"
-#include "demouser.h"
 #include "dialoganswerer.h"
-#include "treerows.h"
+#include "finding.h"
+#include "hands.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
-#include <QStackedWidget>
+#include <QPushButton>
 #include <QTest>
 #include <QTextStream>
 #include <QTreeWidget>
@@ -17,10 +15,11 @@
 
 namespace {
 
-constexpr int interfaceAddressColumn = 1;
 constexpr int windowWaitMs = 10000;
 // Within this the interface dialog is up, where one is due.
 constexpr int dialogWaitMs = 300;
+// Long enough for a dialog to be laid out and painted, short enough not to be waited for.
+constexpr int dialogShownMs = 40;
 // No step of the demo takes this long on a slow machine.
 constexpr int stuckAfterMs = 150000;
 
@@ -29,7 +28,7 @@ constexpr int stuckAfterMs = 150000;
 DemoDesk::DemoDesk(const QString& pictureFolder, QObject* parent)
     : QObject(parent)
     , m_pictureFolder(pictureFolder)
-    , m_dialogs(new DialogAnswerer(this))
+    , m_dialogs(new DialogAnswerer(this, dialogShownMs))
 {
     QDir().mkpath(m_pictureFolder);
     m_watchdog.start(stuckAfterMs, this);
@@ -40,13 +39,11 @@ bool DemoDesk::waitForWindow()
     QTest::qWait(dialogWaitMs);
     const bool shown = QTest::qWaitFor(
         [this] {
-            for (QWidget* widget : QApplication::topLevelWidgets()) {
-                if (widget->inherits("MainWindow")) {
-                    m_window = widget;
-                }
+            if (QWidget* window = wizardWindow()) {
+                m_hands.emplace(window);
             }
             // The interface dialog, when one comes up, is answered meanwhile.
-            return m_window && m_window->isVisible() && !QApplication::activeModalWidget();
+            return m_hands && !QApplication::activeModalWidget();
         },
         windowWaitMs);
     return shown || failed(QStringLiteral("the window did not come up"));
@@ -54,56 +51,32 @@ bool DemoDesk::waitForWindow()
 
 void DemoDesk::answerInterfaceDialog()
 {
-    m_dialogs->onDialog(QStringLiteral("networkDialog"), [this](QWidget* dialog) {
-        auto* list = dialog->findChild<QTreeWidget*>(QStringLiteral("nicList"));
+    m_dialogs->onDialog("networkDialog", [this](QWidget* dialog) {
+        const QTreeWidget* list = tableOf(*dialog, "nicList");
+        QStringList addresses = columnTexts(*list, "IP Address");
         // A machine may have idle interfaces beside the one that leads to the hall.
-        DemoUser::clickRow(list, firstRowWithText(list, interfaceAddressColumn));
+        addresses.removeAll(QString());
+        Hands::clickRow(rowWith(*list, "IP Address", addresses.value(0)));
         pictureOf(dialog, QStringLiteral("dialog-interface"));
-        DemoUser::click(dialog->findChild<QWidget*>(QStringLiteral("okButton")));
+        Hands::click(buttonOf(*dialog, "okButton"));
     });
 }
 
-bool DemoDesk::press(const QString& buttonName)
+bool DemoDesk::press(QAnyStringView button)
 {
-    auto* button = page()->findChild<QAbstractButton*>(buttonName);
-    if (!button || !button->isEnabled()) {
-        return failed(QStringLiteral("%1 cannot be pressed").arg(buttonName));
-    }
-    DemoUser::click(button);
-    letPaint();
-    return true;
+    return m_hands->press(button) ||
+           failed(QStringLiteral("%1 cannot be pressed").arg(button.toString()));
 }
 
-QWidget* DemoDesk::page() const
+bool DemoDesk::goOnTo(int number)
 {
-    return m_window->findChild<QStackedWidget*>(QStringLiteral("pageStack"))->currentWidget();
-}
-
-bool DemoDesk::isOnPage(int number) const
-{
-    return m_window->findChild<QStackedWidget*>(QStringLiteral("pageStack"))->currentIndex() ==
-           number - 1;
-}
-
-QTreeWidget* DemoDesk::tree(const QString& name) const
-{
-    for (auto* found : page()->findChildren<QTreeWidget*>(name)) {
-        if (found->isVisible()) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
-QTreeWidget* DemoDesk::tableOf(const DemoDevice& device) const
-{
-    return tree(device.isHub() ? QStringLiteral("hubTable") : QStringLiteral("peripheralTable"));
+    return press("nextButton") && m_hands->pageNumber() == number;
 }
 
 void DemoDesk::picture(const QString& name)
 {
     letPaint();
-    pictureOf(m_window, name);
+    pictureOf(window(), name);
 }
 
 void DemoDesk::pictureOf(QWidget* window, const QString& name)
@@ -120,7 +93,7 @@ bool DemoDesk::done(int step, const QString& what)
 bool DemoDesk::failed(const QString& why)
 {
     say(QStringLiteral("FAILED: ") + why);
-    if (m_window) {
+    if (m_hands) {
         picture(QStringLiteral("failed"));
     }
     return false;

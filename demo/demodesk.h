@@ -1,16 +1,17 @@
 #pragma once
 
+#include "wizardhands.h"
+
 #include <QBasicTimer>
 #include <QObject>
 
-class DialogAnswerer;
-class QTreeWidget;
-class QWidget;
-struct DemoDevice;
+#include <optional>
 
-/// The player's view of the wizard: its window, what the current page shows, the lines that report
-/// and the pictures that are kept. Widgets are found by their object names, as a stranger to the
-/// code would look for them on the screen.
+class DialogAnswerer;
+class QWidget;
+
+/// The player's desk: the wizard's window, whoever answers its dialogs, the lines that report and
+/// the pictures that are kept.
 class DemoDesk : public QObject
 {
     Q_OBJECT
@@ -24,17 +25,13 @@ public:
     DialogAnswerer& dialogs() const { return *m_dialogs; }
     /// From now on the interface dialog is answered with the interface that leads to the hall.
     void answerInterfaceDialog();
-    QWidget* window() const { return m_window; }
-    /// The page that is shown.
-    QWidget* page() const;
-    /// Whether the page that is shown is step `number`.
-    bool isOnPage(int number) const;
-    /// The visible table or list of this name on the current page.
-    QTreeWidget* tree(const QString& name) const;
-    /// The table that lists this device on the current page.
-    QTreeWidget* tableOf(const DemoDevice& device) const;
-    /// Clicks a button of the page; false when it is missing or disabled.
-    bool press(const QString& buttonName);
+    /// The wizard's window, once it was waited for, and hands on it.
+    QWidget* window() const { return m_hands->window(); }
+    const WizardHands& hands() const { return *m_hands; }
+    /// Clicks a button of the page; false when it is disabled.
+    bool press(QAnyStringView button);
+    /// The same for "Next", which has to lead to step `number`.
+    bool goOnTo(int number);
 
     /// Keeps a picture of the wizard's window, or of another one.
     void picture(const QString& name);
@@ -58,5 +55,5 @@ private:
     QBasicTimer m_watchdog;
     QString m_pictureFolder;
     DialogAnswerer* m_dialogs;
-    QWidget* m_window = nullptr;
+    std::optional<WizardHands> m_hands;
 };

@@ -2,12 +2,11 @@
 
 #include "demodesk.h"
 #include "demoscenario.h"
-#include "demouser.h"
 #include "dialoganswerer.h"
-#include "treerows.h"
+#include "finding.h"
+#include "hands.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDeadlineTimer>
 #include <QMenu>
@@ -17,11 +16,6 @@
 namespace {
 
 constexpr int discoveryWaitMs = 20000;
-constexpr int addressColumn = 3;
-constexpr int roomColumn = 4;
-// The room grid of step 2: 2 pixels between cells of 48.
-constexpr int cellPitch = 50;
-constexpr QPoint cellMiddle(26, 26);
 
 } // namespace
 
@@ -41,50 +35,43 @@ bool DemoFirstRun::play()
 void DemoFirstRun::answerDialogs()
 {
     m_desk.answerInterfaceDialog();
-    m_desk.dialogs().onDialog(QStringLiteral("Confirmation"), [this](QWidget* dialog) {
+    m_desk.dialogs().onDialog("Confirmation", [this](QWidget* dialog) {
         m_desk.pictureOf(dialog, QStringLiteral("dialog-confirmation"));
-        DemoUser::pressKey(dialog, Qt::Key_Return);
+        Hands::pressKey(dialog, Qt::Key_Return);
     });
-    m_desk.dialogs().onDialog(QStringLiteral("Save Information?"), [this](QWidget* dialog) {
+    m_desk.dialogs().onDialog("Save Information?", [this](QWidget* dialog) {
         m_desk.pictureOf(dialog, QStringLiteral("dialog-save"));
-        DemoUser::pressKey(dialog, Qt::Key_Y, Qt::AltModifier);
+        Hands::pressKey(dialog, Qt::Key_Y, Qt::AltModifier);
     });
 }
 
 bool DemoFirstRun::introduction()
 {
     m_desk.picture(QStringLiteral("step-1"));
-    return m_desk.press(QStringLiteral("nextButton")) && m_desk.isOnPage(2) &&
-           m_desk.done(1, QStringLiteral("introduction read"));
+    return m_desk.goOnTo(2) && m_desk.done(1, QStringLiteral("introduction read"));
 }
 
 bool DemoFirstRun::drawRooms()
 {
-    auto* editor = m_desk.page()->findChild<QWidget*>(QStringLiteral("roomEditor"));
     for (int room = 1; room <= 4; ++room) {
-        QList<QPoint> path;
-        for (const QPoint& cell : m_scenario.cellsOfRoom(room)) {
-            path.append(cell * cellPitch + cellMiddle);
-        }
-        DemoUser::drag(editor, path);
+        m_desk.hands().draw(m_scenario.cellsOfRoom(room));
     }
     m_desk.picture(QStringLiteral("step-2"));
-    return m_desk.press(QStringLiteral("nextButton")) && m_desk.isOnPage(3) &&
-           m_desk.done(2, QStringLiteral("4 rooms drawn"));
+    return m_desk.goOnTo(3) && m_desk.done(2, QStringLiteral("4 rooms drawn"));
 }
 
 bool DemoFirstRun::findDevices()
 {
     const int expected = int(m_scenario.devices().size());
     const auto listed = [this] {
-        return m_desk.tree(QStringLiteral("hubTable"))->topLevelItemCount() +
-               m_desk.tree(QStringLiteral("peripheralTable"))->topLevelItemCount();
+        return m_desk.hands().table("hubTable")->topLevelItemCount() +
+               m_desk.hands().table("peripheralTable")->topLevelItemCount();
     };
     // Devices found since are listed when the page is entered again.
     QDeadlineTimer patience(discoveryWaitMs);
     while (listed() < expected && !patience.hasExpired()) {
-        m_desk.press(QStringLiteral("backButton"));
-        m_desk.press(QStringLiteral("nextButton"));
+        m_desk.press("backButton");
+        m_desk.press("nextButton");
         QTest::qWait(200);
     }
     if (listed() != expected) {
@@ -97,76 +84,65 @@ bool DemoFirstRun::findDevices()
 bool DemoFirstRun::placeDevices()
 {
     for (const DemoDevice& device : m_scenario.devices()) {
-        QTreeWidget* table = m_desk.tableOf(device);
-        QTreeWidgetItem* row = findRow(table, addressColumn, device.address);
+        QTreeWidgetItem* row = m_desk.hands().device(device.address);
         if (!row) {
             return m_desk.failed(QStringLiteral("%1 is not listed").arg(device.address));
         }
-        table->scrollToItem(row);
-        DemoDesk::letPaint();
-        auto* combo = qobject_cast<QComboBox*>(table->itemWidget(row, roomColumn));
-        DemoUser::choose(combo, QString::number(device.room));
-        if (combo->currentIndex() != device.room) {
+        m_desk.hands().place(row, device.room);
+        if (textIn(*row, "Room") != QString::number(device.room)) {
             return m_desk.failed(
                 QStringLiteral("%1 is not in room %2").arg(device.address).arg(device.room));
         }
-        if (m_scenario.renames().contains(device.address) && !renameDevice(table, device)) {
+        if (m_scenario.renames().contains(device.address) && !renameDevice(row, device)) {
             return false;
         }
     }
     m_desk.picture(QStringLiteral("step-3"));
-    return m_desk.press(QStringLiteral("nextButton")) && m_desk.isOnPage(4) &&
-           m_desk.done(3, QStringLiteral("every device placed, two renamed"));
+    return m_desk.goOnTo(4) && m_desk.done(3, QStringLiteral("every device placed, two renamed"));
 }
 
-bool DemoFirstRun::renameDevice(QTreeWidget* table, const DemoDevice& device)
+bool DemoFirstRun::renameDevice(QTreeWidgetItem* row, const DemoDevice& device)
 {
     const QString label = m_scenario.labelOf(device);
-    m_desk.dialogs().onDialog(QStringLiteral("Change Name"), [this, label](QWidget* dialog) {
-        DemoUser::click(dialog->findChild<QWidget*>(QStringLiteral("nameEdit")));
-        DemoUser::pressKey(dialog, Qt::Key_A, Qt::ControlModifier);
-        DemoUser::type(dialog, label);
+    m_desk.dialogs().onDialog("Change Name", [this, label](QWidget* dialog) {
+        Hands::typeInto(widgetOf(*dialog, "nameEdit"), label);
         m_desk.pictureOf(dialog, QStringLiteral("dialog-name"));
-        DemoUser::click(dialog->findChild<QWidget*>(QStringLiteral("okButton")));
+        Hands::click(widgetOf(*dialog, "okButton"));
     });
-    DemoUser::doubleClickCell(table, findRow(table, addressColumn, device.address), 0);
-    const QTreeWidgetItem* row = findRow(table, addressColumn, device.address);
-    return row->text(0) == label ||
+    Hands::doubleClick(row, "Hostname");
+    return textIn(*row, "Hostname") == label ||
            m_desk.failed(QStringLiteral("%1 kept its name").arg(device.address));
 }
 
 bool DemoFirstRun::makeLayouts()
 {
-    auto* picker = m_desk.page()->findChild<QWidget*>(QStringLiteral("tessel"));
     for (const DemoLayout& layout : m_scenario.layouts()) {
         for (const auto& [room, other] : layout.linkBoxes) {
-            DemoUser::click(findByAccessibleName(
-                picker, QStringLiteral("Link room %1 and room %2").arg(room).arg(other)));
+            m_desk.hands().link(room, other);
         }
         for (const auto& [room, other] : layout.menuLinks) {
             if (!linkByMenu(room, other)) {
                 return false;
             }
         }
-        m_desk.press(QStringLiteral("addLayoutButton"));
+        m_desk.press("addLayoutButton");
     }
     // Once more what is listed already: a notice comes up, and the list stays as it is.
-    m_desk.press(QStringLiteral("addLayoutButton"));
-    if (m_desk.dialogs().answered(QStringLiteral("Confirmation")) != 1) {
+    m_desk.press("addLayoutButton");
+    if (m_desk.dialogs().answered("Confirmation") != 1) {
         return m_desk.failed(QStringLiteral("the same layout was added twice"));
     }
-    const int listed = m_desk.tree(QStringLiteral("layoutList"))->topLevelItemCount();
+    const int listed = m_desk.hands().table("layoutList")->topLevelItemCount();
     if (listed != m_scenario.layouts().size()) {
         return m_desk.failed(QStringLiteral("%1 layouts listed").arg(listed));
     }
     m_desk.picture(QStringLiteral("step-4"));
-    return m_desk.press(QStringLiteral("nextButton")) && m_desk.isOnPage(5) &&
-           m_desk.done(4, QStringLiteral("%1 layouts made").arg(listed));
+    return m_desk.goOnTo(5) && m_desk.done(4, QStringLiteral("%1 layouts made").arg(listed));
 }
 
 bool DemoFirstRun::linkByMenu(int room, int other)
 {
-    auto* picker = m_desk.page()->findChild<QWidget*>(QStringLiteral("tessel"));
+    QWidget* picker = widgetOf(*m_desk.hands().page(), "tessel");
     // Room 1 lies in the upper left corner; a right click anywhere in it opens its menu.
     QTest::mouseClick(picker->window()->windowHandle(), Qt::RightButton, Qt::NoModifier,
                       picker->mapTo(picker->window(), QPoint(20, 20)));
@@ -184,7 +160,7 @@ bool DemoFirstRun::linkByMenu(int room, int other)
     const QString text = QStringLiteral("Room %1 + %2").arg(room).arg(other);
     for (QAction* action : menu->actions()) {
         if (action->text() == text) {
-            DemoUser::click(menu, menu->actionGeometry(action).center());
+            Hands::click(menu, menu->actionGeometry(action).center());
             return true;
         }
     }
@@ -199,7 +175,7 @@ bool DemoFirstRun::saveAndClose()
     if (!m_desk.window()->close()) {
         return m_desk.failed(QStringLiteral("the window stayed open"));
     }
-    if (m_desk.dialogs().answered(QStringLiteral("Save Information?")) != 1) {
+    if (m_desk.dialogs().answered("Save Information?") != 1) {
         return m_desk.failed(QStringLiteral("closing did not ask"));
     }
     m_desk.say(QStringLiteral("  saved and closed on step 5"));

@@ -2,8 +2,7 @@
 
 class DemoDesk;
 class DemoScenario;
-class QTreeWidget;
-class QWidget;
+class QTreeWidgetItem;
 struct DemoDevice;
 
 /// The first run of the wizard: from the empty grid to the layouts, then saved and closed on the
@@ -22,7 +21,7 @@ private:
     bool drawRooms();
     bool findDevices();
     bool placeDevices();
-    bool renameDevice(QTreeWidget* table, const DemoDevice& device);
+    bool renameDevice(QTreeWidgetItem* row, const DemoDevice& device);
     bool makeLayouts();
     bool linkByMenu(int room, int other);
     bool saveAndClose();

@@ -3,7 +3,9 @@
 #include "deviceclass.h"
 #include "devicequeries.h"
 #include "devicetable.h"
+#include "installwords.h"
 #include "presetfilesender.h"
+#include "progressdelegate.h"
 #include "textlabel.h"
 
 #include <QDebug>
@@ -56,6 +58,7 @@ void Install::install()
     }
     for (const auto& [ipAddress, label] : hubs) {
         setStatus(ipAddress, tr("Installing..."));
+        setReason(ipAddress, QString());
         startSender(ipAddress, label);
     }
 }
@@ -67,6 +70,7 @@ void Install::startSender(const QString& ipAddress, const QString& label)
         sender = new PresetFileSender(ipAddress, label, &doc(), this);
         connect(sender, SIGNAL(finished(QString, int)), this,
                 SLOT(presetSendFinished(QString, int)));
+        connect(sender, SIGNAL(progressed(QString)), this, SLOT(senderProgressed(QString)));
         connect(sender, SIGNAL(completedLogin()), this, SLOT(senderLogin()));
         connect(sender, SIGNAL(cancelledLogin()), this, SLOT(senderLogin()));
     }
@@ -100,6 +104,9 @@ void Install::createWidgets()
     m_hubTable->setColumnWidth(DeviceTable::LabelColumn, labelWidth);
     m_hubTable->setColumnWidth(DeviceTable::IdentifyColumn, identifyWidth);
     m_hubTable->setSortingEnabled(true);
+    m_hubTable->setItemDelegateForColumn(StatusColumn, new ProgressDelegate(m_hubTable));
+    connect(m_hubTable, SIGNAL(currentItemChanged(QTreeWidgetItem*, QTreeWidgetItem*)), this,
+            SIGNAL(noteChanged()));
 }
 
 void Install::buildLayout()
@@ -126,8 +133,13 @@ void Install::load()
                          running ? tr("Installing...") : QString()});
         }
     }
+    m_reasons.clear();
     m_hubTable->setRows(rows);
     m_awaited.clear();
+    for (auto sender = m_senders.cbegin(); sender != m_senders.cend(); ++sender) {
+        senderProgressed(sender.key());
+    }
+    Q_EMIT noteChanged();
 }
 
 bool Install::isRunning(const QString& ipAddress) const
@@ -143,10 +155,26 @@ void Install::presetSendFinished(const QString& ipAddress, int status)
         qDebug("Error!");
     }
     m_awaited.remove(ipAddress);
+    const PresetFileSender* sender = m_senders.value(ipAddress);
+    setReason(ipAddress, sender ? reasonWords(sender->outcome()) : QString());
     setStatus(ipAddress, succeeded ? tr("Done") : tr("Error"));
     Q_EMIT statusChanged();
     // A hub that failed before its log-in was answered must not hold the others back.
     senderLogin();
+}
+
+void Install::senderProgressed(const QString& ipAddress)
+{
+    const PresetFileSender* sender = m_senders.value(ipAddress);
+    const InstallProgress progress = sender->progress();
+    if (!sender->isRunning() || progress.filesToStore == 0) {
+        return;
+    }
+    explainStatus(ipAddress, progressWords(progress));
+    for (QTreeWidgetItem* row : m_hubTable->rowsOf(ipAddress)) {
+        row->setData(StatusColumn, ProgressDelegate::partRole,
+                     double(progress.filesStored) / progress.filesToStore);
+    }
 }
 
 void Install::senderLogin()
@@ -172,4 +200,54 @@ void Install::setStatus(const QString& ipAddress, const QString& text)
     for (QTreeWidgetItem* row : m_hubTable->rowsOf(ipAddress)) {
         row->setText(StatusColumn, text);
     }
+}
+
+/// A reason takes the place of what was told of the progress; without one nothing is told.
+void Install::setReason(const QString& ipAddress, const QString& reason)
+{
+    m_reasons.insert(ipAddress, reason);
+    explainStatus(ipAddress, reason);
+    for (QTreeWidgetItem* row : m_hubTable->rowsOf(ipAddress)) {
+        row->setData(StatusColumn, ProgressDelegate::partRole, QVariant());
+    }
+    if (!reason.isEmpty()) {
+        qDebug().noquote() << ipAddress + QStringLiteral(": ") + reason;
+    }
+    Q_EMIT noteChanged();
+}
+
+void Install::explainStatus(const QString& ipAddress, const QString& words)
+{
+    for (QTreeWidgetItem* row : m_hubTable->rowsOf(ipAddress)) {
+        row->setToolTip(StatusColumn, words);
+        row->setData(StatusColumn, Qt::AccessibleDescriptionRole, words);
+    }
+}
+
+QStringList Install::missing() const
+{
+    return m_hubTable->topLevelItemCount() > 0
+               ? QStringList()
+               : QStringList{tr("No PX-HB stands in a room: there is nothing to install.")};
+}
+
+QString Install::note() const
+{
+    if (const QTreeWidgetItem* current = m_hubTable->currentItem()) {
+        return noteOf(current);
+    }
+    for (int index = 0; index < m_hubTable->topLevelItemCount(); ++index) {
+        const QString note = noteOf(m_hubTable->topLevelItem(index));
+        if (!note.isEmpty()) {
+            return note;
+        }
+    }
+    return {};
+}
+
+QString Install::noteOf(const QTreeWidgetItem* row) const
+{
+    const QString reason = m_reasons.value(row->text(AddressColumn));
+    return reason.isEmpty() ? QString()
+                            : tr("%1: %2").arg(row->text(DeviceTable::LabelColumn), reason);
 }

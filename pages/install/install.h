@@ -39,7 +39,18 @@ public:
     /// True when hubs are listed and all are done.
     bool isDone() const;
 
+    /// While nothing can be installed, what is missing for it.
+    QStringList missing() const override;
+
+    /// What is to be said of the current hub, or of the first one that there is something to say
+    /// of while none is current: the reason of its "Error", or what it refused although it is
+    /// "Done". Empty when all is well.
+    QString note() const;
+
 Q_SIGNALS:
+    /// note() may have changed.
+    void noteChanged();
+
     /// The status of a hub, listed or not, may have changed.
     void statusChanged();
 
@@ -48,6 +59,8 @@ public Q_SLOTS:
     void identifyButtonClicked(const QString& ipAddress);
     /// Shows how the installation of the hub at `ipAddress` ended: 1 for success.
     void presetSendFinished(const QString& ipAddress, int status);
+    /// Shows how far the transfer to the hub at `ipAddress` is.
+    void senderProgressed(const QString& ipAddress);
     /// Starts the transfers once every hub's log-in is answered.
     void senderLogin();
 
@@ -58,8 +71,12 @@ private:
     bool isRunning(const QString& ipAddress) const;
     QString status(int index) const;
     void setStatus(const QString& ipAddress, const QString& text);
+    void setReason(const QString& ipAddress, const QString& reason);
+    void explainStatus(const QString& ipAddress, const QString& words);
+    QString noteOf(const QTreeWidgetItem* row) const;
 
     DeviceTable* m_hubTable = nullptr;
     QHash<QString, PresetFileSender*> m_senders; ///< by address; children of this widget
+    QHash<QString, QString> m_reasons;           ///< by address: of an "Error", or of a refusal
     QSet<QString> m_awaited;                     ///< addresses of the hubs that this list waits for
 };

@@ -2,6 +2,8 @@
 
 #include "install.h"
 #include "ipagecontroller.h"
+#include "pagekeys.h"
+#include "quietline.h"
 #include "wizardpage.h"
 
 #include <QHBoxLayout>
@@ -12,6 +14,7 @@ PageInstall::PageInstall(IPageController* controller, IDocAccessor* doc, QWidget
     : BasePage(tr("8. Install Presets"), stepNumber(WizardPage::Install), controller, doc, parent)
     , m_content(new Install(doc, this))
     , m_backButton(new QPushButton(tr("Back"), this))
+    , m_quietLine(new QuietLine(this))
     , m_executeButton(new QPushButton(tr("Execute"), this))
 {
     m_backButton->setObjectName(QStringLiteral("backButton"));
@@ -20,13 +23,16 @@ PageInstall::PageInstall(IPageController* controller, IDocAccessor* doc, QWidget
     connect(m_backButton, SIGNAL(clicked()), this, SLOT(backButtonClicked()));
     connect(m_executeButton, SIGNAL(clicked()), this, SLOT(executeButtonClicked()));
     connect(m_content, SIGNAL(statusChanged()), this, SLOT(installStatusChanged()));
+    connect(m_content, SIGNAL(noteChanged()), this, SLOT(showNote()));
+    pressOnBackKey(this, m_backButton);
+    callOnNextKey(this, SLOT(nextKeyPressed()));
 }
 
 void PageInstall::buildLayout()
 {
     auto* row = new QHBoxLayout;
     row->addWidget(m_backButton);
-    row->addStretch();
+    row->addWidget(m_quietLine, 1);
     row->addWidget(m_executeButton);
 
     auto* layout = new QVBoxLayout(this);
@@ -60,6 +66,7 @@ void PageInstall::backButtonClicked()
 {
     controller().back();
     m_executeButton->setText(tr("Execute"));
+    explainButton();
 }
 
 void PageInstall::executeButtonClicked()
@@ -84,6 +91,22 @@ void PageInstall::installStatusChanged()
     setExecuteEnabled(!m_content->isBusy());
 }
 
+/// What a hub has to say stands in for what is missing: there is one only without the other.
+void PageInstall::showNote()
+{
+    const QString note = m_content->note();
+    m_quietLine->say(note.isEmpty() ? m_content->missing() : QStringList{note});
+}
+
+/// Hubs are changed by a press on the button that says so, and by no key that leads from page to
+/// page.
+void PageInstall::nextKeyPressed()
+{
+    if (m_executeButton->text() == tr("Next")) {
+        m_executeButton->click();
+    }
+}
+
 /// Hubs get their files one after the other, built from what is entered at the moment. If that
 /// changes meanwhile, nobody knows which of them hold what. It is looked at whenever a hub is done
 /// and whenever this step is entered: what is changed and taken back between two of these moments
@@ -101,6 +124,7 @@ void PageInstall::setExecuteEnabled(bool enable)
 {
     const bool hadFocus = window()->focusWidget() == m_executeButton;
     m_executeButton->setEnabled(enable);
+    explainButton();
     if (enable) {
         if (m_focusMeanwhile && m_focusMeanwhile == window()->focusWidget() && isVisible()) {
             m_executeButton->setFocus();
@@ -109,4 +133,13 @@ void PageInstall::setExecuteEnabled(bool enable)
     } else if (hadFocus) {
         m_focusMeanwhile = window()->focusWidget();
     }
+}
+
+void PageInstall::explainButton()
+{
+    const bool waits = !m_executeButton->isEnabled();
+    const QString reason = waits ? tr("Wait until every hub is done or has failed.") : QString();
+    const bool leadsOn = m_executeButton->text() == tr("Next");
+    m_executeButton->setToolTip(leadsOn && !waits ? nextKeyHint() : reason);
+    m_executeButton->setAccessibleDescription(reason);
 }

@@ -9,6 +9,7 @@
 
 class Install;
 class QPushButton;
+class QuietLine;
 
 /// Frame of the installation step: its button installs until every hub is done, and then leads on.
 class PageInstall : public BasePage
@@ -29,14 +30,20 @@ public Q_SLOTS:
     /// Sets the button and tells the wizard whether every listed hub is done with what is entered.
     void installStatusChanged();
 
+private Q_SLOTS:
+    void showNote();
+    void nextKeyPressed();
+
 private:
     void load();
     void buildLayout();
     void watchForChanges();
     void setExecuteEnabled(bool enable);
+    void explainButton();
 
     Install* m_content;
     QPushButton* m_backButton;
+    QuietLine* m_quietLine;
     QPushButton* m_executeButton;
     std::optional<EnteredWork> m_executedWork; ///< as of "Execute"; nothing once it was changed
     QPointer<QWidget> m_focusMeanwhile;        ///< has the focus that the disabled button had

@@ -1,25 +1,21 @@
 #include "secretrun.h"
 
+#include "dialoganswerer.h"
+#include "documentfixtures.h"
 #include "hall.h"
 #include "hallreport.h"
 #include "hallstore.h"
 #include "loginanswers.h"
 #include "mainwindow.h"
-#include "modalanswer.h"
-#include "pagefixtures.h"
-#include "presetqueries.h"
 #include "recordingrelay.h"
 #include "sessionqueries.h"
-#include "setqueries.h"
-#include "tablefixtures.h"
 #include "tesseldoc.h"
+#include "wizardhands.h"
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
-#include <QPushButton>
 #include <QTest>
-#include <QTreeWidget>
 
 #include <memory>
 #include <vector>
@@ -32,7 +28,7 @@ namespace {
 
 constexpr int hubCount = 3;
 constexpr int installPage = 7;
-constexpr int statusColumn = 3;
+constexpr int anyInterface = 1;
 constexpr int longestWaitMs = 20'000;
 
 QString hubAddress(int hub)
@@ -59,27 +55,25 @@ HallDescription describe()
 /// Every hub in a room of its own, and one layout.
 void fill(TesselDoc& doc)
 {
-    setNicIndex(doc, installPage); // any interface: the window must not ask for one
-    drawRooms(doc, hubCount);
+    setNicIndex(doc, anyInterface); // the window must not ask for one
+    QList<TestDevice> hubs;
     for (int hub = 1; hub <= hubCount; ++hub) {
-        addTestDevice(doc, QStringLiteral("Hub-%1").arg(hub), QStringLiteral("PX-HB"),
-                      relayAddress(hub), hub);
-        addToDeviceSet(doc, hub, 1, relayAddress(hub), false);
-        addPreset(doc, hub, 1, QStringLiteral("Room %1").arg(hub));
+        hubs.append({.label = QStringLiteral("Hub-%1").arg(hub),
+                     .model = QStringLiteral("PX-HB"),
+                     .address = relayAddress(hub)});
     }
-    addTestLayout(doc, 1, QStringLiteral("1/2/3"));
+    enterHubs(doc, hubs);
 }
 
-void install(const MainWindow& window)
+void install(MainWindow& window)
 {
     LoginAnswers answers(QString::fromLatin1(firstPassword));
     answers.type(relayAddress(1),
                  {QString::fromLatin1(wrongPassword), QString::fromLatin1(rightPassword)});
     answers.cancel(relayAddress(3));
-    press(buttonOf(window, "executeButton"));
-    const auto* list = window.findChild<QTreeWidget*>(QStringLiteral("hubList"));
-    QTRY_COMPARE_WITH_TIMEOUT(columnTexts(*list, statusColumn).join(u' '),
-                              QStringLiteral("Done Done Error"), longestWaitMs);
+    const WizardHands hands(&window);
+    QVERIFY(hands.press("executeButton"));
+    QTRY_COMPARE_WITH_TIMEOUT(hands.statuses(), QStringLiteral("Done Done Error"), longestWaitMs);
 }
 
 void installAndSave(TesselDoc& doc)
@@ -90,9 +84,8 @@ void installAndSave(TesselDoc& doc)
         window.next();
     }
     install(window);
-    const ModalAnswer question(QStringLiteral("Yes"));
+    const DialogAnswerer question("Save Information?", pressing("Yes"));
     QVERIFY(window.close());
-    QVERIFY(question.wasShown());
 }
 
 /// The program's own file is gone once it has been resumed; a copy stays to be searched.

@@ -1,10 +1,9 @@
 #include "wizarduser.h"
 
-#include "pagefixtures.h"
+#include "finding.h"
 #include "removebutton.h"
 #include "roomeditor.h"
 #include "sceneitem.h"
-#include "tablefixtures.h"
 
 #include <QComboBox>
 #include <QLineEdit>

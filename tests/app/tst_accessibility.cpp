@@ -1,7 +1,5 @@
-#include "devicequeries.h"
-#include "layoutqueries.h"
+#include "documentfixtures.h"
 #include "mainwindow.h"
-#include "roomqueries.h"
 #include "sessionqueries.h"
 #include "tesseldoc.h"
 #include "testcase.h"
@@ -27,21 +25,17 @@ void fillHall(TesselDoc& doc)
     setNicIndex(doc, 7); // handed over, so that nothing is looked for
     const QStringList models{QStringLiteral("PX-HB"), QStringLiteral("PX-DL8"),
                              QStringLiteral("LQA4-08S"), QStringLiteral("PNB-QE7")};
-    int number = 0;
-    for (int room = 1; room <= 2; ++room) {
-        setRoomCells(doc, room, {{room - 1, 0}, {room - 1, 1}});
+    TestHall hall{.rooms = 2, .layouts = {QStringLiteral("1/2"), QStringLiteral("1+2")}};
+    for (int room = 1; room <= hall.rooms; ++room) {
         for (const QString& model : models) {
-            const QString address = QStringLiteral("127.62.0.%1").arg(++number);
-            const QString mac = QStringLiteral("00:A0:DE:00:00:0%1").arg(number);
-            const QString label = QStringLiteral("%1-%2").arg(model).arg(room);
-            addDevice(doc, {label, model, QStringLiteral("2.1.0"), address, mac, {}, {}});
-            setDeviceRoom(doc, address, room);
+            hall.devices.append(
+                {.label = QStringLiteral("%1-%2").arg(model).arg(room),
+                 .model = model,
+                 .address = QStringLiteral("127.62.0.%1").arg(hall.devices.size() + 1),
+                 .room = room});
         }
     }
-    QPixmap thumbnail(64, 64);
-    thumbnail.fill(Qt::darkGreen);
-    addLayout(doc, {1, QStringLiteral("1/2"), thumbnail});
-    addLayout(doc, {2, QStringLiteral("1+2"), thumbnail});
+    enterHall(doc, hall);
 }
 
 // The wizard's window on one of its pages.
@@ -301,8 +295,11 @@ void TestAccessibility::textsBeginUnderTheTitle()
     QFETCH(const int, page);
     const Wizard wizard(page);
     const auto* title = wizard.window->findChild<QLabel*>(QStringLiteral("titleLabel"));
-    const auto* text = wizard.stack()->currentWidget()->findChild<QLabel*>();
-    QCOMPARE(wizard.placeOf(text).left(), wizard.placeOf(title).left());
+    int leftmost = wizard.window->width();
+    for (const QLabel* text : wizard.stack()->currentWidget()->findChildren<QLabel*>()) {
+        leftmost = std::min(leftmost, wizard.placeOf(text).left());
+    }
+    QCOMPARE(leftmost, wizard.placeOf(title).left());
 }
 
 void TestAccessibility::returnPressesTheButtonThatHasTheFocus()

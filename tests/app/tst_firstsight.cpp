@@ -1,16 +1,17 @@
+#include "documentfixtures.h"
+#include "finding.h"
 #include "gridcolor.h"
 #include "gridgeometry.h"
+#include "hands.h"
 #include "mainwindow.h"
-#include "pagefixtures.h"
 #include "roomcolor.h"
 #include "sessionqueries.h"
 #include "tesseldoc.h"
 #include "testcase.h"
+#include "wizardhands.h"
 
 #include <QApplication>
 #include <QPainter>
-#include <QPushButton>
-#include <QStackedWidget>
 #include <QTest>
 
 #include <memory>
@@ -37,30 +38,15 @@ struct Wizard
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
     }
 
-    QWidget* page() const
-    {
-        return window->findChild<QStackedWidget*>(QStringLiteral("pageStack"))->currentWidget();
-    }
-
     void clickNext(int times) const
     {
         for (int i = 0; i < times; ++i) {
             QCoreApplication::processEvents();
-            QWidget* next = buttonOf(*page(), "nextButton");
-            const QPoint position = next->mapTo(window.get(), next->rect().center());
-            QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, position);
+            QVERIFY(WizardHands(window.get()).next());
         }
     }
 
-    void pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
-    {
-        QTest::keyClick(window->windowHandle(), key, modifiers);
-    }
-
-    QWidget* grid(const char* name) const
-    {
-        return page()->findChild<QWidget*>(QLatin1String(name));
-    }
+    QWidget* grid(QAnyStringView name) const { return widgetOf(*shownPage(*window), name); }
 
     TesselDoc doc{nullptr};
     std::unique_ptr<MainWindow> window;
@@ -190,10 +176,10 @@ void TestFirstSight::keysShowWhereTheyAre()
     QFETCH(const Qt::Key, back);
     const Wizard wizard;
     wizard.clickNext(pagesOn);
-    QWidget* shown = wizard.grid(grid.toLatin1().constData());
+    QWidget* shown = wizard.grid(grid);
     const QImage unmarked = shown->grab().toImage();
-    wizard.pressKey(there);
-    wizard.pressKey(back);
+    Hands::pressKey(wizard.window.get(), there);
+    Hands::pressKey(wizard.window.get(), back);
     QVERIFY(shown->hasFocus());
     QVERIFY(shown->grab().toImage() != unmarked);
     // A click beside the rooms changes nothing but takes the mark away.

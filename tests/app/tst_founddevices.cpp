@@ -121,10 +121,13 @@ void TestFoundDevices::aDeviceThatWasHandedOverIsNotEnteredAgain()
     QVERIFY(hub.open() && microphone.open());
     SearchingWizard installer;
     // The search type and the password are what the web API needs; the network knows neither.
-    const FoundDevice handedOver{QStringLiteral("Handed"),      QStringLiteral("PX-DL"),
-                                 QStringLiteral("2.1.0"),       microphoneAddress,
-                                 QStringLiteral("a0:00:00:01"), QStringLiteral("HTTP"),
-                                 QStringLiteral("secret")};
+    const FoundDevice handedOver{.label = QStringLiteral("Handed"),
+                                 .modelName = QStringLiteral("PX-DL"),
+                                 .version = QStringLiteral("2.1.0"),
+                                 .ipAddress = microphoneAddress,
+                                 .macAddress = QStringLiteral("a0:00:00:01"),
+                                 .searchType = QStringLiteral("HTTP"),
+                                 .password = QStringLiteral("secret")};
     QVERIFY(addDevice(installer.doc, handedOver));
     installer.search();
     const auto* detector = installer.window->findChild<DeviceDetector*>();

@@ -1,17 +1,17 @@
+#include "dialoganswerer.h"
+#include "hands.h"
 #include "installhall.h"
 #include "installwatch.h"
 #include "mainwindow.h"
-#include "modalanswer.h"
 #include "pagefixtures.h"
 #include "sessionqueries.h"
 #include "tablefixtures.h"
 #include "testcase.h"
+#include "wizardhands.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -47,7 +47,6 @@ namespace {
 const QString base = QStringLiteral("127.71.1.1");
 constexpr int slowMs = 150;
 constexpr int installIndex = 7;
-constexpr int statusColumn = 3;
 
 HallDescription describe(Exchange exchange)
 {
@@ -92,7 +91,7 @@ struct Wizard
     QPushButton* button(const char* name) const { return buttonOf(page(), name); }
     QString statuses() const
     {
-        return columnTexts(*tableOf(page(), "hubList"), statusColumn).join(u' ');
+        return columnTexts(*tableOf(page(), "hubList"), "Status").join(u' ');
     }
     const QWidget& page() const { return *stack()->widget(installIndex); }
     QStackedWidget* stack() const
@@ -104,29 +103,29 @@ struct Wizard
     void goBackTo(int index) const
     {
         while (stack()->currentIndex() > index) {
-            press(buttonOf(*stack()->currentWidget(), "backButton"));
+            QVERIFY(hands().back());
         }
     }
     void goForth() const
     {
         while (stack()->currentIndex() < installIndex) {
-            press(buttonOf(*stack()->currentWidget(), "nextButton"));
+            QVERIFY(hands().next());
         }
     }
     /// Step 7 with the cursor in the first name.
     void namePreset(const QString& name) const
     {
         goBackTo(installIndex - 1);
-        auto* field = stack()->currentWidget()->findChild<QLineEdit*>();
-        field->selectAll();
-        QTest::keyClicks(field, name);
+        QCOMPARE(hands().namePreset(1, name), name);
     }
+    WizardHands hands() const { return WizardHands(window.get()); }
     /// Closes the window; true when it asks, which is answered with "Cancel".
     bool asksOnClosing() const
     {
-        const ModalAnswer answer(QStringLiteral("Cancel"));
+        DialogAnswerer question;
+        question.onDialog("Save Information?", pressing("Cancel"));
         const bool isClosed = window->close();
-        return answer.wasShown() && !isClosed;
+        return question.answered("Save Information?") == 1 && !isClosed;
     }
 
     /// "Execute", until the first hub is at this request.
@@ -213,9 +212,8 @@ void TestInterruptedInstall::closedDuringAnyRequestNothingBreaksAndTheNextWindow
     wizard.installUntil(exchange);
     waitUntilQuiet(wizard.step);
     {
-        const ModalAnswer answer(QStringLiteral("No"));
+        const DialogAnswerer answer("Save Information?", pressing("No"));
         QVERIFY(wizard.window->close());
-        QVERIFY(answer.wasShown());
     }
     wizard.window.reset();
     waitUntilQuiet(wizard.step);
@@ -242,9 +240,8 @@ void TestInterruptedInstall::aHubThatPreparesForEverKeepsNobodyFromLeavingOrTryi
     QTRY_COMPARE(timesAsked(*wizard.step.hub(1), Exchange::LogIn), 2);
     QTRY_COMPARE(wizard.statuses(), QStringLiteral("Installing... Done"));
 
-    const ModalAnswer answer(QStringLiteral("No"));
+    const DialogAnswerer answer("Save Information?", pressing("No"));
     QVERIFY(wizard.window->close());
-    QVERIFY(answer.wasShown());
     const qsizetype polls = timesAsked(*wizard.step.hub(1), Exchange::ReadExport);
     wizard.window.reset();
     // The next window installs into the same hubs at once; the first one's wait is gone.
@@ -264,13 +261,12 @@ void TestInterruptedInstall::theInstallationGoesOnBehindTheQuestionAndAfterCance
                          {.exchange = Exchange::Recall, .kind = FaultKind::Slow, .number = slowMs});
     wizard.installUntil(Exchange::StartExport);
     int heldBehind = 0;
-    const ModalAnswer answer([&](QWidget* question) {
+    const DialogAnswerer answer("Save Information?", [&](QWidget* question) {
         QTRY_COMPARE(timesAsked(*wizard.step.hub(1), Exchange::Recall), 1);
         heldBehind = int(wizard.step.hub(1)->presets().size());
-        clickButton(question, QStringLiteral("Cancel"));
+        Hands::clickButton(question, "Cancel");
     });
     QVERIFY(!wizard.window->close());
-    QVERIFY(answer.wasShown());
     QCOMPARE(heldBehind, 2);
     QVERIFY(wizard.window->isVisible());
     QVERIFY(waitUntilOver(wizard.page()));
@@ -295,14 +291,12 @@ void TestInterruptedInstall::aHubMayAskForItsPasswordOverTheQuestion()
     // Closed before the first hub could say a word, so that its question comes over the one of the
     // window.
     press(wizard.button("executeButton"));
-    const ModalAnswer answer([&](QWidget*) {
-        auto* question = wizard.window->findChild<QMessageBox*>();
+    const DialogAnswerer answer("Save Information?", [&](QWidget* question) {
         QTRY_COMPARE(wizard.step.answers.prompts().size(), 2);
         QTRY_VERIFY(QApplication::activeModalWidget() == question);
-        clickButton(question, button);
+        Hands::clickButton(question, button);
     });
     QCOMPARE(wizard.window->close(), isClosed);
-    QVERIFY(answer.wasShown());
     QVERIFY(waitUntilOver(wizard.page()));
     QCOMPARE(wizard.statuses(), QStringLiteral("Done Done"));
 }
@@ -312,7 +306,7 @@ void TestInterruptedInstall::workSavedDuringAnInstallationIsInstalledAtTheNextSt
     Wizard wizard(Exchange::HubFile);
     wizard.step.setFault(1, {.exchange = Exchange::HubFile, .kind = FaultKind::Silence});
     wizard.installUntil(Exchange::HubFile);
-    const ModalAnswer answer(QStringLiteral("Yes"));
+    const DialogAnswerer answer("Save Information?", pressing("Yes"));
     QVERIFY(wizard.window->close());
     QVERIFY(QFile::exists(resumePath()));
     wizard.window.reset();

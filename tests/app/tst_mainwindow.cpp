@@ -1,7 +1,9 @@
 #include "devicequeries.h"
+#include "dialoganswerer.h"
+#include "documentfixtures.h"
+#include "hands.h"
 #include "layoutqueries.h"
 #include "mainwindow.h"
-#include "modalanswer.h"
 #include "pagefactory.h"
 #include "roomqueries.h"
 #include "sessionqueries.h"
@@ -46,26 +48,16 @@ struct Wizard
     {
         setNicIndex(doc, 7);
         for (int room = 1; room <= 2; ++room) {
-            addDevice(doc, {QStringLiteral("Hub-%1").arg(room),
-                            QStringLiteral("PX-HB"),
-                            QStringLiteral("2.1.0"),
-                            QStringLiteral("127.60.0.%1").arg(room),
-                            QStringLiteral("00:A0:DE:00:00:0%1").arg(room),
-                            {},
-                            {}});
+            addTestDevice(doc, QStringLiteral("Hub-%1").arg(room), QStringLiteral("PX-HB"),
+                          QStringLiteral("127.60.0.%1").arg(room));
         }
     }
 
     void draw()
     {
-        setRoomCells(doc, 1, {{0, 0}, {0, 1}});
-        setRoomCells(doc, 2, {{1, 0}, {1, 1}});
+        enterHall(doc, {.rooms = 2, .layouts = {QStringLiteral("1/2"), QStringLiteral("1+2")}});
         setDeviceRoom(doc, QStringLiteral("127.60.0.1"), 1);
         setDeviceRoom(doc, QStringLiteral("127.60.0.2"), 2);
-        QPixmap picture(64, 64);
-        picture.fill(Qt::white);
-        addLayout(doc, {1, QStringLiteral("1/2"), picture});
-        addLayout(doc, {2, QStringLiteral("1+2"), picture});
     }
 
     void open()
@@ -235,10 +227,8 @@ void TestMainWindow::closingOnTheStepsBetweenAsks()
     wizard.draw();
     wizard.open();
     wizard.goTo(index);
-    const ModalAnswer answer(QStringLiteral("Yes"));
+    const DialogAnswerer answer("Save Information?", pressing("Yes"));
     QVERIFY(wizard.window->close());
-    QVERIFY(answer.wasShown());
-    QCOMPARE(answer.title(), QStringLiteral("Save Information?"));
     QCOMPARE(answer.text(),
              QStringLiteral("Would you like to save the information gathered so far and continue "
                             "the configuration at the next startup?"));
@@ -280,9 +270,8 @@ void TestMainWindow::closingOnAnEarlierStepAsksAlsoAfterAnInstallation()
         wizard.window->back();
     }
     {
-        const ModalAnswer answer(QStringLiteral("Cancel"));
+        const DialogAnswerer answer("Save Information?", pressing("Cancel"));
         QVERIFY(!wizard.window->close());
-        QVERIFY(answer.wasShown());
     }
     // There and back alone leave nothing to save.
     wizard.goTo(7);
@@ -300,9 +289,8 @@ void TestMainWindow::whatWasChangedAfterAnInstallationIsAskedFor()
     wizard.window->resize(1000, 800);
     setDeviceRoom(wizard.doc, QStringLiteral("127.60.0.2"), 1);
     {
-        const ModalAnswer answer(QStringLiteral("Cancel"));
+        const DialogAnswerer answer("Save Information?", pressing("Cancel"));
         QVERIFY(!wizard.window->close());
-        QVERIFY(answer.wasShown());
     }
     setDeviceRoom(wizard.doc, QStringLiteral("127.60.0.2"), 2);
     QVERIFY(wizard.window->close());
@@ -316,9 +304,8 @@ void TestMainWindow::anInstallationThatWasTakenBackIsAskedFor()
     wizard.goTo(7);
     wizard.window->setInstallDone(true);
     wizard.window->setInstallDone(false);
-    const ModalAnswer answer(QStringLiteral("Cancel"));
+    const DialogAnswerer answer("Save Information?", pressing("Cancel"));
     QVERIFY(!wizard.window->close());
-    QVERIFY(answer.wasShown());
 }
 
 void TestMainWindow::cancelKeepsTheWindowOpen()
@@ -326,7 +313,7 @@ void TestMainWindow::cancelKeepsTheWindowOpen()
     Wizard wizard;
     wizard.open();
     wizard.goTo(1);
-    const ModalAnswer answer(QStringLiteral("Cancel"));
+    const DialogAnswerer answer("Save Information?", pressing("Cancel"));
     QVERIFY(!wizard.window->close());
     QVERIFY(wizard.window->isVisible());
     QVERIFY(!QFile::exists(resumePath()));
@@ -337,7 +324,7 @@ void TestMainWindow::noClosesWithoutSaving()
     Wizard wizard;
     wizard.open();
     wizard.goTo(1);
-    const ModalAnswer answer(QStringLiteral("No"));
+    const DialogAnswerer answer("Save Information?", pressing("No"));
     QVERIFY(wizard.window->close());
     QVERIFY(!QFile::exists(resumePath()));
 }
@@ -347,12 +334,10 @@ void TestMainWindow::quitFromAStepAsksAsClosingDoes()
     Wizard wizard;
     wizard.open();
     wizard.goTo(1);
-    const ModalAnswer answer(QStringLiteral("No"));
+    const DialogAnswerer answer("Save Information?", pressing("No"));
     QMetaObject::invokeMethod(
         this, [&wizard] { wizard.window->quit(); }, Qt::QueuedConnection);
     QCOMPARE(QApplication::exec(), 0);
-    QVERIFY(answer.wasShown());
-    QCOMPARE(answer.title(), QStringLiteral("Save Information?"));
 }
 
 void TestMainWindow::withAnInterfaceHandedOverSavedWorkIsLoadedAtOnce()
@@ -361,7 +346,7 @@ void TestMainWindow::withAnInterfaceHandedOverSavedWorkIsLoadedAtOnce()
     saved.draw();
     saved.open();
     saved.goTo(2);
-    const ModalAnswer answer(QStringLiteral("Yes"));
+    const DialogAnswerer answer("Save Information?", pressing("Yes"));
     QVERIFY(saved.window->close());
 
     Wizard resumed;
@@ -379,7 +364,7 @@ void TestMainWindow::workSavedOnPageFiveIsShownThereAgain()
     saved.open();
     saved.goTo(4);
     saved.window->resize(900, 700);
-    const ModalAnswer answer(QStringLiteral("Yes"));
+    const DialogAnswerer answer("Save Information?", pressing("Yes"));
     QVERIFY(saved.window->close());
 
     Wizard resumed;
@@ -414,10 +399,8 @@ void TestMainWindow::anUnreadableFileIsRemovedOnlyOnYes()
     file.close();
 
     Wizard wizard;
-    const ModalAnswer answer(button);
+    const DialogAnswerer answer("Error", pressing(button));
     wizard.open();
-    QVERIFY(answer.wasShown());
-    QCOMPARE(answer.title(), QStringLiteral("Error"));
     QCOMPARE(answer.text(), QStringLiteral("We could not resume the configuration. Do you want to "
                                            "remove the information?"));
     QCOMPARE(answer.buttons(), QStringList({QStringLiteral("No"), QStringLiteral("Yes")}));
@@ -434,9 +417,9 @@ void TestMainWindow::returnKeepsAnUnreadableFile()
     file.close();
 
     Wizard wizard;
-    const ModalAnswer answer([](QWidget* box) { QTest::keyClick(box, Qt::Key_Return); });
+    const DialogAnswerer answer("Error",
+                                [](QWidget* box) { QTest::keyClick(box, Qt::Key_Return); });
     wizard.open();
-    QVERIFY(answer.wasShown());
     QVERIFY(QFile::exists(resumePath()));
 }
 
@@ -445,22 +428,16 @@ void TestMainWindow::workThatCannotBeSavedIsToldAndTheWindowCloses()
     // A folder in the file's place cannot be written to, whoever runs the test.
     QVERIFY(QDir().mkpath(resumePath()));
     Wizard wizard;
-    const ModalAnswer atStart(QStringLiteral("No"));
-    wizard.open();
-    QVERIFY(atStart.wasShown());
+    {
+        const DialogAnswerer atStart("Error", pressing("No"));
+        wizard.open();
+    }
     wizard.goTo(1);
 
-    QStringList texts;
-    const ModalAnswer question([&texts](QWidget* dialog) {
-        auto* told = new ModalAnswer([&texts](QWidget* box) {
-            texts.append(box->property("text").toString());
-            clickButton(box, QStringLiteral("OK"));
-        });
-        told->setParent(dialog->parent());
-        clickButton(dialog, QStringLiteral("Yes"));
-    });
+    const DialogAnswerer question("Save Information?", pressing("Yes"));
+    const DialogAnswerer told("Error", pressing("OK"));
     QVERIFY(wizard.window->close());
-    QCOMPARE(texts, QStringList({QStringLiteral("Information could not be saved.")}));
+    QCOMPARE(told.text(), QStringLiteral("Information could not be saved."));
 }
 
 void TestMainWindow::anUncreatableFolderSavesNothingAndSaysNothing()
@@ -471,9 +448,8 @@ void TestMainWindow::anUncreatableFolderSavesNothingAndSaysNothing()
     Wizard wizard;
     wizard.open();
     wizard.goTo(1);
-    const ModalAnswer answer(QStringLiteral("Yes"));
+    const DialogAnswerer answer("Save Information?", pressing("Yes"));
     QVERIFY(wizard.window->close());
-    QVERIFY(answer.wasShown());
     QVERIFY(inTheWay.remove());
 }
 
@@ -482,11 +458,13 @@ void TestMainWindow::withoutAnInterfaceTheDialogOpensAndCancelQuits()
     TesselDoc doc(nullptr);
     MainWindow window(nullptr, &doc);
     window.show();
-    const ModalAnswer answer(QStringLiteral("Cancel"));
-    QVERIFY(!answer.wasShown());
+    QString title;
+    const DialogAnswerer answer("networkDialog", [&title](QWidget* dialog) {
+        title = dialog->windowTitle();
+        Hands::clickButton(dialog, "Cancel");
+    });
     QCOMPARE(QApplication::exec(), 0);
-    QVERIFY(answer.wasShown());
-    QCOMPARE(answer.title(), QStringLiteral("Select Network Interface Card"));
+    QCOMPARE(title, QStringLiteral("Select Network Interface Card"));
 }
 
 void TestMainWindow::savedWorkWaitsForDiscoveryBehindPleaseWait()

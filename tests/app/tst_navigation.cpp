@@ -1,6 +1,6 @@
 #include "basepage.h"
+#include "dialoganswerer.h"
 #include "mainwindow.h"
-#include "modalanswer.h"
 #include "pagefixtures.h"
 #include "sessionqueries.h"
 #include "tesseldoc.h"
@@ -122,9 +122,8 @@ void TestNavigation::savingStoresTheCurrentPageOnly()
     const ProbedWindow wizard;
     wizard.window->next();
     wizard.window->next();
-    const ModalAnswer answer(QStringLiteral("Yes"));
+    const DialogAnswerer answer("Save Information?", pressing("Yes"));
     QVERIFY(wizard.window->close());
-    QVERIFY(answer.wasShown());
     QCOMPARE(wizard.probes.at(1)->calls, strings({"from 1"}));
     QCOMPARE(wizard.probes.at(2)->calls, strings({"from 2", "store"}));
     QCOMPARE(wizard.probes.at(3)->calls, QStringList());
@@ -148,12 +147,11 @@ void TestNavigation::closeOnTheFirstAndTheLastPageEndsTheProgramWithoutADialog()
     while (stack->currentIndex() < index) {
         window.next();
     }
-    const ModalAnswer answer(QStringLiteral("Cancel"));
+    const DialogAnswerer nothingIsAsked;
     QMetaObject::invokeMethod(
         this, [stack] { press(buttonOf(*stack->currentWidget(), "closeButton")); },
         Qt::QueuedConnection);
     QCOMPARE(QApplication::exec(), 0);
-    QVERIFY(!answer.wasShown());
     QVERIFY(!window.isVisible());
 }
 

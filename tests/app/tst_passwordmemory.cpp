@@ -1,26 +1,21 @@
 // What of a password is in the wizard's memory, as a core file would show it. The hall is a program
 // of its own, and the password is typed letter by letter from a masked text: whatever is found, the
 // wizard has left there.
+#include "dialoganswerer.h"
 #include "fakecontroller.h"
+#include "finding.h"
 #include "memorysnapshot.h"
 #include "pagefixtures.h"
 #include "pageinstall.h"
-#include "presetqueries.h"
-#include "setqueries.h"
-#include "tablefixtures.h"
 #include "tesseldoc.h"
 #include "testcase.h"
 
-#include <QApplication>
-#include <QBasicTimer>
-#include <QDialog>
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
 
-#include <algorithm>
 #include <memory>
 #include <optional>
 
@@ -28,41 +23,35 @@ namespace {
 
 const QString address = QStringLiteral("127.84.1.1");
 constexpr int stepBefore = 7;
-constexpr int statusColumn = 3;
 constexpr int longestWaitMs = 20'000;
-constexpr int lookForDialogMs = 50;
 
 /// A password of twelve letters and digits, and the hexadecimal MD5 of it, both masked.
 const QByteArray password = QByteArray::fromHex("316d2c0b20636b370d38690e");
 const QByteArray digest =
     QByteArray::fromHex("393f623c6b3b3c6d3b3f636e6a62686939693b696962396d39636a6c38696a6e");
 
-/// Gives a new hub its password and logs in, in the dialogs that come up.
-class Installer : public QObject
+/// Types the password into every field of the dialog that has come up.
+void typePassword(QWidget* dialog)
 {
-public:
-    Installer() { m_timer.start(lookForDialogMs, this); }
-
-protected:
-    void timerEvent(QTimerEvent* /*event*/) override
-    {
-        const QWidget* dialog = QApplication::activeModalWidget();
-        if (dialog == nullptr) {
-            return;
+    for (QLineEdit* field : dialog->findChildren<QLineEdit*>()) {
+        for (const char letter : password) {
+            QTest::keyClick(field, char(letter ^ MemorySnapshot::mask));
         }
-        for (QLineEdit* field : dialog->findChildren<QLineEdit*>()) {
-            for (const char letter : password) {
-                QTest::keyClick(field, char(letter ^ MemorySnapshot::mask));
-            }
-        }
-        const auto buttons = dialog->findChildren<QPushButton*>();
-        const auto isDefault = [](const QPushButton* button) { return button->isDefault(); };
-        QTest::mouseClick(*std::find_if(buttons.begin(), buttons.end(), isDefault), Qt::LeftButton);
     }
+}
 
-private:
-    QBasicTimer m_timer;
-};
+/// Gives a new hub its password and logs in.
+void answerDialogs(DialogAnswerer& answers)
+{
+    answers.onDialog("initialPasswordDialog", [](QWidget* dialog) {
+        typePassword(dialog);
+        press(buttonOf(*dialog, "submitButton"));
+    });
+    answers.onDialog("loginDialog", [](QWidget* dialog) {
+        typePassword(dialog);
+        press(buttonOf(*dialog, "loginButton"));
+    });
+}
 
 /// The bytes of a digest as they are, worked out without unmasking it as a whole.
 QByteArray rawDigest()
@@ -125,19 +114,18 @@ void TestPasswordMemory::initTestCase()
 void TestPasswordMemory::install()
 {
     TesselDoc doc(nullptr);
-    drawRooms(doc, 1);
-    addTestDevice(doc, QStringLiteral("Hub"), QStringLiteral("PX-HB"), address, 1);
-    addToDeviceSet(doc, 1, 1, address, false);
-    addPreset(doc, 1, 1, QStringLiteral("Room 1"));
-    addTestLayout(doc, 1, QStringLiteral("1"));
+    enterHubs(
+        doc,
+        {{.label = QStringLiteral("Hub"), .model = QStringLiteral("PX-HB"), .address = address}});
     FakeController controller;
     PageInstall page(&controller, &doc, nullptr);
     page.enterFrom(stepBefore);
     page.show();
-    const Installer installer;
+    DialogAnswerer answers;
+    answerDialogs(answers);
     press(buttonOf(page, "executeButton"));
-    const auto* list = page.findChild<QTreeWidget*>(QStringLiteral("hubList"));
-    QTRY_COMPARE_WITH_TIMEOUT(columnTexts(*list, statusColumn), QStringList(QStringLiteral("Done")),
+    const QTreeWidget* list = tableOf(page, "hubList");
+    QTRY_COMPARE_WITH_TIMEOUT(columnTexts(*list, "Status"), QStringList(QStringLiteral("Done")),
                               longestWaitMs);
     m_during.emplace();
 }

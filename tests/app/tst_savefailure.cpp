@@ -1,12 +1,12 @@
 // Saving where the disk is full or may not be written, through the window as the user meets it.
 // The program gets mounts of its own, which nobody else sees and which end with it.
-#include "devicequeries.h"
+#include "dialoganswerer.h"
+#include "documentfixtures.h"
+#include "hands.h"
 #include "layoutqueries.h"
 #include "mainwindow.h"
-#include "modalanswer.h"
 #include "presetqueries.h"
 #include "privatemounts.h"
-#include "roomqueries.h"
 #include "sessionqueries.h"
 #include "tesseldoc.h"
 #include "testcase.h"
@@ -14,7 +14,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QMessageBox>
 #include <QTest>
 
 #include <memory>
@@ -54,22 +53,14 @@ struct Wizard
     explicit Wizard(int presetNameLength)
     {
         setNicIndex(doc, 7);
+        drawRooms(doc, 2);
         for (int room = 1; room <= 2; ++room) {
-            const QString hub = QStringLiteral("127.81.0.%1").arg(room);
-            addDevice(doc, {QStringLiteral("Hub-%1").arg(room),
-                            QStringLiteral("PX-HB"),
-                            QStringLiteral("2.1.0"),
-                            hub,
-                            QStringLiteral("00:A0:DE:00:00:0%1").arg(room),
-                            {},
-                            {}});
-            setDeviceRoom(doc, hub, room);
-            setRoomCells(doc, room, {{room, 0}, {room, 1}});
+            addTestDevice(doc, QStringLiteral("Hub-%1").arg(room), QStringLiteral("PX-HB"),
+                          QStringLiteral("127.81.0.%1").arg(room), room);
         }
         for (int number = 1; number <= 10; ++number) {
-            QPixmap picture(64, 64);
-            picture.fill(QColor::fromHsv(number * 30, 200, 200));
-            addLayout(doc, {number, QStringLiteral("1+2"), picture});
+            addColouredLayout(doc, number, QStringLiteral("1+2"),
+                              QColor::fromHsv(number * 30, 200, 200));
             addPreset(doc, number, number, QString(presetNameLength, QLatin1Char('p')));
         }
     }
@@ -84,17 +75,21 @@ struct Wizard
     std::unique_ptr<MainWindow> window;
 };
 
+/// The file that it finds is no configuration; the button answers whether to remove it.
+void openOverUnreadableFile(Wizard& wizard, const char* button)
+{
+    const DialogAnswerer question("Error", pressing(button));
+    wizard.open();
+}
+
 /// Closes the window and saves; returns what the user is told, title and text of each box.
 QStringList closeAndSave(MainWindow& window)
 {
     QStringList told;
-    std::unique_ptr<ModalAnswer> second;
-    const ModalAnswer question([&](QWidget* dialog) {
-        second = std::make_unique<ModalAnswer>([&](QWidget* box) {
-            told = QStringList{box->windowTitle(), box->property("text").toString()};
-            clickButton(box, QStringLiteral("OK"));
-        });
-        clickButton(dialog, QStringLiteral("Yes"));
+    DialogAnswerer answers("Save Information?", pressing("Yes"));
+    answers.onDialog("Error", [&](QWidget* box) {
+        told = QStringList{box->windowTitle(), box->property("text").toString()};
+        Hands::clickButton(box, "OK");
     });
     if (!window.close()) {
         told.append(QStringLiteral("the window stays open"));
@@ -107,9 +102,8 @@ QStringList closeAndSaveOnFullDisk(Wizard& wizard, int freePages)
 {
     QStringList told;
     const QString other = folder() + QStringLiteral("/other");
-    const ModalAnswer atStart(QStringLiteral("No"));
     if (writeBytes(resumePath(), earlier)) {
-        wizard.open();
+        openOverUnreadableFile(wizard, "No");
         wizard.window->next();
         const QByteArray rest((diskPages - freePages) * pageOfMemory, 'x');
         told = writeBytes(other, rest) ? closeAndSave(*wizard.window)
@@ -191,9 +185,7 @@ void TestSaveFailure::aDiskWithoutRoomForAnotherFileIsTold()
     QVERIFY(mountDisk(folder(), diskPages * pageOfMemory, 2));
     Wizard wizard(0);
     QVERIFY(writeBytes(resumePath(), earlier));
-    const ModalAnswer atStart(QStringLiteral("No"));
-    wizard.open();
-    QVERIFY(atStart.wasShown());
+    openOverUnreadableFile(wizard, "No");
     wizard.window->next();
     QCOMPARE(closeAndSave(*wizard.window), couldNotBeSaved);
     QCOMPARE(bytesOf(resumePath()), earlier);
@@ -205,9 +197,7 @@ void TestSaveFailure::aFolderThatMayNotBeWrittenIsTold()
     QVERIFY(writeBytes(resumePath(), earlier));
     QVERIFY(forbidWriting(folder()));
     Wizard wizard(0);
-    const ModalAnswer atStart(QStringLiteral("Yes"));
-    wizard.open();
-    QVERIFY(atStart.wasShown());
+    openOverUnreadableFile(wizard, "Yes");
     wizard.window->next();
     QCOMPARE(closeAndSave(*wizard.window), couldNotBeSaved);
     QVERIFY(!wizard.window->isVisible());

@@ -1,27 +1,17 @@
 #include "wizarduser.h"
 
-#include "basepage.h"
-#include "devicequeries.h"
-#include "gridgeometry.h"
+#include "dialoganswerer.h"
+#include "finding.h"
 #include "mainwindow.h"
-#include "modalanswer.h"
 #include "pagefixtures.h"
 #include "sessionqueries.h"
-#include "tablefixtures.h"
 
 #include <QComboBox>
-#include <QLineEdit>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTest>
-#include <QTreeWidget>
 
 namespace {
-
-constexpr GridGeometry grid{2, 48};
-constexpr int removeColumn = 5;
-constexpr int positionColumn = 5;
 
 struct HandedOver
 {
@@ -31,28 +21,6 @@ struct HandedOver
 
 constexpr HandedOver devices[] = {{"Hub-A", "PX-HB"}, {"Hub-B", "PX-HB"},   {"Left", "LQA4-08S"},
                                   {"Right", "DSK4M"}, {"Ceiling", "PX-DL"}, {"Table", "PX-BK"}};
-
-QPoint middle(QPoint cell)
-{
-    return grid.cellRect(cell).center();
-}
-
-void moveTo(QWidget* editor, QPoint position)
-{
-    QMouseEvent event(QEvent::MouseMove, position, editor->mapToGlobal(position), Qt::NoButton,
-                      Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(editor, &event);
-}
-
-/// Chooses as the keyboard does: Home, then down.
-void choose(QComboBox* box, int index)
-{
-    box->setFocus();
-    QTest::keyClick(box, Qt::Key_Home);
-    for (int i = 0; i < index; ++i) {
-        QTest::keyClick(box, Qt::Key_Down);
-    }
-}
 
 } // namespace
 
@@ -87,32 +55,28 @@ void WizardUser::open()
 
 void WizardUser::closeAndSave()
 {
-    const ModalAnswer yes(QStringLiteral("Yes"));
+    const DialogAnswerer yes("Save Information?", pressing("Yes"));
     QVERIFY(window->close());
-    QVERIFY(yes.wasShown());
 }
 
 int WizardUser::pageNumber() const
 {
-    return stack()->currentIndex() + 1;
+    return hands().pageNumber();
 }
 
 QWidget* WizardUser::page(int number) const
 {
-    return stack()->widget(number - 1);
+    return window->findChild<QStackedWidget*>(QStringLiteral("pageStack"))->widget(number - 1);
 }
 
 QWidget* WizardUser::button(const char* name) const
 {
-    return buttonOf(*stack()->currentWidget(), name);
+    return hands().button(name);
 }
 
 void WizardUser::press(const char* name) const
 {
-    QVERIFY2(button(name)->isEnabled(), name);
-    QTest::mouseClick(button(name), Qt::LeftButton);
-    // The widgets of rows that a page has replaced go with the event loop's next turn.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY2(hands().press(name), name);
 }
 
 void WizardUser::next(int pages) const
@@ -131,81 +95,49 @@ void WizardUser::back(int pages) const
 
 void WizardUser::draw(const Cells& stroke) const
 {
-    auto* editor = page(2)->findChild<QWidget*>(QStringLiteral("roomEditor"));
-    QTest::mousePress(editor, Qt::LeftButton, {}, middle(stroke.first()));
-    moveTo(editor, middle(stroke.first()) + QPoint(1, 1));
-    for (const QPoint cell : stroke.mid(1)) {
-        moveTo(editor, middle(cell));
-    }
-    QTest::mouseRelease(editor, Qt::LeftButton, {}, middle(stroke.last()) + QPoint(2, 2));
+    hands().draw(stroke);
 }
 
 void WizardUser::click(QPoint cell) const
 {
-    auto* editor = page(2)->findChild<QWidget*>(QStringLiteral("roomEditor"));
-    QTest::mouseClick(editor, Qt::LeftButton, {}, middle(cell));
+    hands().clickCell(cell);
 }
 
 void WizardUser::place(const QString& label, int room) const
 {
-    choose(page(3)->findChild<QComboBox*>(QStringLiteral("roomCombo_") + address(label)), room);
+    hands().place(row(label), room);
 }
 
 QString WizardUser::shownRoom(const QString& label) const
 {
-    return page(3)
-        ->findChild<QComboBox*>(QStringLiteral("roomCombo_") + address(label))
-        ->currentText();
+    return qobject_cast<QComboBox*>(widgetIn(row(label), "Room"))->currentText();
 }
 
 void WizardUser::link(int one, int other) const
 {
-    const QString name = QStringLiteral("Link room %1 and room %2").arg(one).arg(other);
-    for (QWidget* box : page(4)->findChildren<QWidget*>()) {
-        if (box->accessibleName() == name) {
-            QTest::mouseClick(box, Qt::LeftButton);
-            return;
-        }
-    }
-    QFAIL(qPrintable(name));
+    hands().link(one, other);
 }
 
 void WizardUser::removeLayout(int number) const
 {
-    QTreeWidget* list = tableOf(*page(4), "layoutList");
-    QTest::mouseClick(
-        buttonOf(*list->itemWidget(list->topLevelItem(number - 1), 1), "removeButton"),
-        Qt::LeftButton);
+    hands().removeLayout(number);
 }
 
 void WizardUser::toggleInSet(int group, const QString& label) const
 {
-    selectGroup(*page(5), group - 1);
-    for (const char* name : {"hubTable", "peripheralTable"}) {
-        QTreeWidget* table = tableOf(*shownPanel(*page(5)), name);
-        if (QTreeWidgetItem* row = rowWith(*table, 0, label)) {
-            QTest::mouseClick(table->itemWidget(row, removeColumn), Qt::LeftButton);
-            return;
-        }
-    }
-    QFAIL(qPrintable(label));
+    hands().showGroup(group);
+    hands().toggle(row(label));
 }
 
 void WizardUser::chooseSide(int group, const QString& label, const QString& side) const
 {
-    selectGroup(*page(6), group - 1);
-    QTreeWidget* table = tableOf(*shownPanel(*page(6)), "speakerTable");
-    auto* box =
-        qobject_cast<QComboBox*>(table->itemWidget(rowWith(*table, 0, label), positionColumn));
-    choose(box, box->findText(side));
+    hands().showGroup(group);
+    hands().chooseSide(row(label), side);
 }
 
 void WizardUser::namePreset(int group, const QString& name) const
 {
-    auto* field = page(7)->findChildren<QLineEdit*>().at(group - 1);
-    field->setFocus();
-    field->selectAll();
-    QTest::keyClicks(field, name);
+    QCOMPARE(hands().namePreset(group, name), name);
 }
 
 void WizardUser::workThrough(int number) const
@@ -254,7 +186,16 @@ void WizardUser::work(int number) const
     }
 }
 
-QStackedWidget* WizardUser::stack() const
+QTreeWidgetItem* WizardUser::row(const QString& label) const
 {
-    return window->findChild<QStackedWidget*>(QStringLiteral("pageStack"));
+    QTreeWidgetItem* found = hands().device(label);
+    if (found == nullptr) {
+        qFatal("%s is not listed", qPrintable(label));
+    }
+    return found;
+}
+
+WizardHands WizardUser::hands() const
+{
+    return WizardHands(window.get());
 }

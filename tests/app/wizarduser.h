@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tesseldoc.h"
+#include "wizardhands.h"
 
 #include <QList>
 #include <QPoint>
@@ -8,10 +9,8 @@
 
 #include <memory>
 
-class BasePage;
 class MainWindow;
-class QStackedWidget;
-class QTreeWidget;
+class QTreeWidgetItem;
 class QWidget;
 
 using Cells = QList<QPoint>;
@@ -71,6 +70,8 @@ public:
     std::unique_ptr<MainWindow> window;
 
 private:
-    QStackedWidget* stack() const;
+    WizardHands hands() const;
+    /// The row of a device on the page shown, which must list it.
+    QTreeWidgetItem* row(const QString& label) const;
     void work(int number) const;
 };

@@ -1,5 +1,6 @@
 #include "configurestep.h"
 
+#include "hands.h"
 #include "pagefixtures.h"
 #include "removebutton.h"
 #include "setqueries.h"
@@ -7,13 +8,6 @@
 
 #include <QPushButton>
 #include <QTreeWidget>
-
-namespace {
-
-constexpr int addressColumn = 3;
-constexpr int removeColumn = 5;
-
-} // namespace
 
 ConfigureStep::ConfigureStep(const QString& firstThreeNumbers)
     : network(firstThreeNumbers)
@@ -54,14 +48,16 @@ QTreeWidget* ConfigureStep::peripherals() const
 
 QTreeWidgetItem* ConfigureStep::row(int device) const
 {
-    QTreeWidgetItem* hub = rowWith(*hubs(), addressColumn, address(device));
-    return hub ? hub : rowWith(*peripherals(), addressColumn, address(device));
+    QTreeWidgetItem* hub = rowWith(*hubs(), "IP Address", address(device));
+    return hub ? hub : rowWith(*peripherals(), "IP Address", address(device));
 }
 
 RemoveButton* ConfigureStep::button(int device) const
 {
     QTreeWidgetItem* item = row(device);
-    return qobject_cast<RemoveButton*>(item->treeWidget()->itemWidget(item, removeColumn));
+    Hands::reach(item);
+    QWidget* remove = namedWidgetIn(item, "Remove");
+    return qobject_cast<RemoveButton*>(remove ? remove : namedWidgetIn(item, "Revert"));
 }
 
 QString ConfigureStep::counts() const

@@ -33,7 +33,7 @@ struct ConfigureStep
     QTreeWidget* hubs() const;
     QTreeWidget* peripherals() const;
 
-    /// The row and the remove button of a device in the shown panel, which must list it.
+    /// The row and the remove button, in sight, of a device in the shown panel, which must list it.
     QTreeWidgetItem* row(int device) const;
     RemoveButton* button(int device) const;
 

@@ -111,12 +111,3 @@ int DeviceLocationStep::storedRoom(const QString& ip)
 {
     return deviceByAddress(doc, ip)->roomNumber;
 }
-
-QStringList columnTexts(const QTreeWidget* table, int column)
-{
-    QStringList texts;
-    for (int row = 0; row < table->topLevelItemCount(); ++row) {
-        texts.append(table->topLevelItem(row)->text(column));
-    }
-    return texts;
-}

@@ -79,6 +79,3 @@ struct DeviceLocationStep
 };
 
 inline const QString firstAddress = DeviceLocationStep::address(1);
-
-/// The texts of one column from top to bottom.
-QStringList columnTexts(const QTreeWidget* table, int column);

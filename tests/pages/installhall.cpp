@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr int addressColumn = 2;
-constexpr int statusColumn = 3;
 const char* const password = "secret7";
 
 } // namespace
@@ -33,20 +31,19 @@ namespace {
 /// Layout 1 has every room for itself; in layout 2 all rooms are one, with the first hub.
 void fillDocument(IDocAccessor& doc, const QList<HubDescription>& hubs)
 {
-    const int rooms = int(hubs.size());
-    drawRooms(doc, rooms);
-    QStringList numbers;
-    for (int room = 1; room <= rooms; ++room) {
-        const HubDescription& hub = hubs.at(room - 1);
-        addTestDevice(doc, hub.label, hub.model, hub.address, room);
-        addToDeviceSet(doc, room, 1, hub.address, false);
-        addToDeviceSet(doc, rooms + 1, 2, hub.address, room != 1);
-        addPreset(doc, room, 1, QStringLiteral("Room %1").arg(room));
-        numbers.append(QString::number(room));
+    QList<TestDevice> entered;
+    QStringList rooms;
+    for (const HubDescription& hub : hubs) {
+        entered.append({.label = hub.label, .model = hub.model, .address = hub.address});
+        rooms.append(QString::number(entered.size()));
     }
-    addPreset(doc, rooms + 1, 2, QStringLiteral("All \"rooms\""));
-    addTestLayout(doc, 1, numbers.join(u'/'));
-    addTestLayout(doc, 2, numbers.join(u'+'));
+    enterHubs(doc, entered);
+    const int allRooms = int(hubs.size()) + 1;
+    for (const HubDescription& hub : hubs) {
+        addToDeviceSet(doc, allRooms, 2, hub.address, hub.address != hubs.first().address);
+    }
+    addPreset(doc, allRooms, 2, QStringLiteral("All \"rooms\""));
+    addTestLayout(doc, 2, rooms.join(u'+'));
 }
 
 /// The peripherals stand in room 1 and belong to its set in each layout.
@@ -97,13 +94,13 @@ void InstallHall::setFault(int hub, const Fault& fault) const
 
 QString InstallHall::statuses() const
 {
-    return columnTexts(*list(), statusColumn).join(u' ');
+    return columnTexts(*list(), "Status").join(u' ');
 }
 
 QString InstallHall::status(int hub) const
 {
-    const QTreeWidgetItem* row = rowWith(*list(), addressColumn, address(hub));
-    return row ? row->text(statusColumn) : QStringLiteral("not listed");
+    const QTreeWidgetItem* row = rowWith(*list(), "IP Address", address(hub));
+    return row ? textIn(*row, "Status") : QStringLiteral("not listed");
 }
 
 QPushButton* InstallHall::execute() const

@@ -1,33 +1,17 @@
 #include "loginanswers.h"
 
-#include <QApplication>
-#include <QDialog>
+#include "finding.h"
+#include "hands.h"
+
 #include <QLineEdit>
-#include <QTest>
-#include <QTreeWidget>
 
 namespace {
 
-constexpr int lookEveryMs = 5;
 constexpr int longestHoldMs = 60000;
-constexpr int addressColumn = 2;
 
-QDialog* dialogInFront()
+QString hubOf(const QWidget* dialog)
 {
-    return qobject_cast<QDialog*>(QApplication::activeModalWidget());
-}
-
-QString hubOf(const QDialog* dialog)
-{
-    const auto* list = dialog->findChild<QTreeWidget*>(QStringLiteral("hubList"));
-    return list ? list->topLevelItem(0)->text(addressColumn) : QString();
-}
-
-void typeInto(QLineEdit* field, const QString& text)
-{
-    field->selectAll();
-    QTest::keyClick(field, Qt::Key_Delete);
-    QTest::keyClicks(field, text);
+    return columnTexts(*tableOf(*dialog, "hubList"), "IP Address").first();
 }
 
 } // namespace
@@ -35,7 +19,11 @@ void typeInto(QLineEdit* field, const QString& text)
 LoginAnswers::LoginAnswers(const QString& password)
     : m_password(password)
 {
-    m_timer.start(lookEveryMs, this);
+    for (const char* dialog : {"loginDialog", "initialPasswordDialog"}) {
+        m_answerer.onDialog(
+            dialog, [this](QWidget* shown) { answer(shown); },
+            [this](QWidget* shown) { return !isHeld(hubOf(shown)); });
+    }
 }
 
 void LoginAnswers::type(const QString& hub, const QStringList& passwords)
@@ -61,15 +49,6 @@ void LoginAnswers::hold(const QString& hub, std::function<bool()> ready, std::fu
     m_patience.setRemainingTime(longestHoldMs);
 }
 
-void LoginAnswers::timerEvent(QTimerEvent* /*event*/)
-{
-    QDialog* dialog = dialogInFront();
-    const QString hub = dialog && dialog->isVisible() ? hubOf(dialog) : QString();
-    if (!hub.isEmpty() && !isHeld(hub)) {
-        answer(dialog, hub);
-    }
-}
-
 bool LoginAnswers::isHeld(const QString& hub)
 {
     if (hub != m_heldHub) {
@@ -84,20 +63,20 @@ bool LoginAnswers::isHeld(const QString& hub)
     return true;
 }
 
-void LoginAnswers::answer(QDialog* dialog, const QString& hub)
+void LoginAnswers::answer(QWidget* dialog)
 {
+    const QString hub = hubOf(dialog);
     m_prompts.append(hub);
     const bool isTired =
         m_mostAnswers.contains(hub) && m_prompts.count(hub) > m_mostAnswers.value(hub);
     if (isTired || m_cancelled.removeOne(hub)) {
-        QTest::keyClick(dialog, Qt::Key_Escape);
+        Hands::pressKey(dialog, Qt::Key_Escape);
         return;
     }
     QStringList& passwords = m_passwords[hub];
     const QString password = passwords.isEmpty() ? m_password : passwords.takeFirst();
-    const auto fields = dialog->findChildren<QLineEdit*>();
-    for (QLineEdit* field : fields) {
-        typeInto(field, password);
+    for (QLineEdit* field : dialog->findChildren<QLineEdit*>()) {
+        Hands::typeInto(field, password);
     }
-    QTest::keyClick(fields.first(), Qt::Key_Return);
+    Hands::pressKey(dialog, Qt::Key_Return);
 }

@@ -1,21 +1,17 @@
 #pragma once
 
-#include <QBasicTimer>
+#include "dialoganswerer.h"
+
 #include <QDeadlineTimer>
 #include <QHash>
-#include <QObject>
 #include <QStringList>
 
 #include <functional>
 
-class QDialog;
-
 /// Plays the user in front of the dialogs that ask for the hubs' passwords: answers every dialog
 /// that comes up, with keys, as long as this object lives.
-class LoginAnswers : public QObject
+class LoginAnswers
 {
-    Q_OBJECT
-
 public:
     /// Answers with `password` unless told otherwise for a hub.
     explicit LoginAnswers(const QString& password);
@@ -34,14 +30,11 @@ public:
     /// The hubs that a password has been asked for, in the order of the prompts.
     QStringList prompts() const { return m_prompts; }
 
-protected:
-    void timerEvent(QTimerEvent* event) override;
-
 private:
     bool isHeld(const QString& hub);
-    void answer(QDialog* dialog, const QString& hub);
+    void answer(QWidget* dialog);
 
-    QBasicTimer m_timer;
+    DialogAnswerer m_answerer;
     QString m_password;
     QHash<QString, QStringList> m_passwords;
     QStringList m_cancelled;

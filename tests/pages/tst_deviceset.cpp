@@ -41,7 +41,6 @@ private Q_SLOTS:
 namespace {
 
 const QString network = QStringLiteral("127.51.3");
-constexpr int addressColumn = 3;
 constexpr quint16 textCommandPort = 49280;
 
 QStringList storedAddresses(IDocAccessor& doc)
@@ -124,10 +123,11 @@ void TestDeviceSet::hubsAndPeripheralsAreListedByHostname()
     addTestDevice(step.doc, QStringLiteral("nowhere"), QStringLiteral("PX-HB"), step.address(5), 0);
     addColouredLayout(step.doc, 1, QStringLiteral("1+2"), Qt::cyan);
     step.enter();
-    QCOMPARE(columnTexts(*step.hubs(), 0), QStringList{QStringLiteral("hub")});
-    QCOMPARE(columnTexts(*step.peripherals(), 0).join(u' '), QStringLiteral("a-odd b-mic"));
-    QCOMPARE(columnTexts(*step.peripherals(), 2).join(u' '), QStringLiteral("PX-ODD PX-DL"));
-    QCOMPARE(columnTexts(*step.peripherals(), 4).join(u' '), QStringLiteral("1 2"));
+    QCOMPARE(columnTexts(*step.hubs(), "Hostname"), QStringList{QStringLiteral("hub")});
+    QCOMPARE(columnTexts(*step.peripherals(), "Hostname").join(u' '),
+             QStringLiteral("a-odd b-mic"));
+    QCOMPARE(columnTexts(*step.peripherals(), "Model").join(u' '), QStringLiteral("PX-ODD PX-DL"));
+    QCOMPARE(columnTexts(*step.peripherals(), "Room").join(u' '), QStringLiteral("1 2"));
     QCOMPARE(step.hubs()->accessibleName(), QStringLiteral("PX-HB"));
     QCOMPARE(step.peripherals()->accessibleName(), QStringLiteral("Peripheral"));
 }
@@ -290,7 +290,8 @@ void TestDeviceSet::theStoredOrderIsThatOfFillingWhateverTheTableShows()
     addTestDevice(step.doc, QStringLiteral("w"), QStringLiteral("PX-DL"), step.address(4), 2);
     addColouredLayout(step.doc, 1, QStringLiteral("1+2"), Qt::cyan);
     step.enter();
-    step.peripherals()->sortByColumn(addressColumn, Qt::DescendingOrder);
+    step.peripherals()->sortByColumn(columnOf(*step.peripherals(), "IP Address"),
+                                     Qt::DescendingOrder);
     press(buttonOf(step.page, "nextButton"));
     const QStringList filled{step.address(2), step.address(3), step.address(1), step.address(4)};
     QCOMPARE(storedAddresses(step.doc), filled);

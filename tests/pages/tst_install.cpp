@@ -75,10 +75,7 @@ Fault slow(Exchange exchange, int ms)
 void TestInstall::saysWhatToDo()
 {
     const InstallHall step(base, 1);
-    QStringList texts;
-    for (const auto* label : step.page.findChildren<QLabel*>()) {
-        texts.append(label->text());
-    }
+    const QStringList texts = labelTexts(step.page);
     for (const char* text :
          {"Configure the presets on the PX-HBs.",
           "The password for each PX-HB is required to install the presets.", "PX-HB"}) {
@@ -100,10 +97,11 @@ void TestInstall::hubsOfRoomsAreListedByHostname()
     addTestDevice(step.doc, QStringLiteral("microphone"), QStringLiteral("PX-DL"),
                   QStringLiteral("127.51.8.10"), 2);
     step.page.enterFrom(7);
-    QCOMPARE(columnTexts(*step.list(), 0).join(u' '), QStringLiteral("A-variant Hub-1 Hub-2"));
-    QCOMPARE(columnTexts(*step.list(), 2).join(u' '),
+    QCOMPARE(columnTexts(*step.list(), "Hostname").join(u' '),
+             QStringLiteral("A-variant Hub-1 Hub-2"));
+    QCOMPARE(columnTexts(*step.list(), "IP Address").join(u' '),
              QStringLiteral("127.51.8.9 127.51.8.1 127.51.8.2"));
-    QCOMPARE(columnTexts(*step.list(), 3).join(QString()), QString());
+    QCOMPARE(columnTexts(*step.list(), "Status").join(QString()), QString());
 }
 
 void TestInstall::aHubAssignedToNoRoomIsNotListed()
@@ -111,7 +109,7 @@ void TestInstall::aHubAssignedToNoRoomIsNotListed()
     InstallHall step(base, 2);
     setDeviceRoom(step.doc, step.address(1), 0);
     step.page.enterFrom(7);
-    QCOMPARE(columnTexts(*step.list(), 2), QStringList{step.address(2)});
+    QCOMPARE(columnTexts(*step.list(), "IP Address"), QStringList{step.address(2)});
 }
 
 void TestInstall::everyHubEndsDoneAndHoldsItsPresets()
@@ -257,8 +255,8 @@ void TestInstall::theDialogOfALaterRunShowsTheNameOfNowAndWhatWasTyped()
         [&] {
             const QWidget* dialog = QApplication::activeModalWidget();
             const QTreeWidget* hubs = tableOf(*dialog, "hubList");
-            named = hubs->topLevelItem(0)->text(0);
-            identify = hubs->itemWidget(hubs->topLevelItem(0), 1)->accessibleName();
+            named = textIn(*hubs->topLevelItem(0), "Hostname");
+            identify = namedWidgetIn(hubs->topLevelItem(0), "Identify")->accessibleName();
             typed = dialog->findChild<QLineEdit*>()->text();
         });
     press(step.execute());
@@ -340,8 +338,8 @@ void TestInstall::aFinishReportOfAnUnlistedHubChangesNoRow()
 void TestInstall::theIdentifyButtonMakesTheHubIdentifyItself()
 {
     const InstallHall step(base, 2);
-    QTreeWidgetItem* row = rowWith(*step.list(), 2, step.address(2));
-    press(step.list()->itemWidget(row, 1));
+    QTreeWidgetItem* row = rowWith(*step.list(), "IP Address", step.address(2));
+    press(namedWidgetIn(row, "Identify"));
     QTRY_COMPARE(step.hub(2)->identifyCount(), 1);
     QCOMPARE(step.hub(1)->identifyCount(), 0);
 }
@@ -354,7 +352,7 @@ void TestInstall::theIdentifyButtonOfADialogMakesTheHubIdentifyItself()
     const auto pressAndSee = [&] {
         auto* list = tableOf(*QApplication::activeModalWidget(), "hubList");
         if (!std::exchange(pressed, true)) {
-            press(list->itemWidget(list->topLevelItem(0), 1));
+            press(namedWidgetIn(list->topLevelItem(0), "Identify"));
         }
         return step.hub(1)->identifyCount() > 0;
     };

@@ -1,4 +1,5 @@
 #include "fakecontroller.h"
+#include "hands.h"
 #include "layoutqueries.h"
 #include "pagecreatepreset.h"
 #include "pagefixtures.h"
@@ -43,8 +44,6 @@ private Q_SLOTS:
 
 namespace {
 
-constexpr int nameColumn = 3;
-
 struct Shown
 {
     Shown()
@@ -59,7 +58,7 @@ struct Shown
 
     QLineEdit* field(int row) const
     {
-        return qobject_cast<QLineEdit*>(list->itemWidget(list->topLevelItem(row), nameColumn));
+        return qobject_cast<QLineEdit*>(widgetIn(list->topLevelItem(row), "Preset Names"));
     }
 
     QStringList names() const
@@ -84,10 +83,7 @@ void TestPageCreatePreset::saysWhatToDo()
     const Shown shown;
     QCOMPARE(shown.page.title(), QStringLiteral("7. Create presets"));
     QCOMPARE(shown.page.pageNumber(), 7);
-    QStringList texts;
-    for (const auto* label : shown.page.findChildren<QLabel*>()) {
-        texts.append(label->text());
-    }
+    const QStringList texts = labelTexts(shown.page);
     QVERIFY(texts.contains(
         QStringLiteral("Each room combination will be configured as a preset on the PX-HBs.")));
     QVERIFY(texts.contains(QStringLiteral("Please provide a name for the preset.")));
@@ -104,13 +100,13 @@ void TestPageCreatePreset::everyCombinedRoomOfEveryLayoutHasARunningNumber()
     const Shown shown;
     const QStringList numbers{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"),
                               QStringLiteral("4"), QStringLiteral("5")};
-    QCOMPARE(columnTexts(*shown.list, 0), numbers);
+    QCOMPARE(columnTexts(*shown.list, "No."), numbers);
     const QStringList layouts{QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("2"),
                               QStringLiteral("2"), QStringLiteral("2")};
-    QCOMPARE(columnTexts(*shown.list, 1), layouts);
+    QCOMPARE(columnTexts(*shown.list, "Layout"), layouts);
     const QStringList rooms{QStringLiteral("1,2"), QStringLiteral("3"), QStringLiteral("1"),
                             QStringLiteral("2"), QStringLiteral("3")};
-    QCOMPARE(columnTexts(*shown.list, 2), rooms);
+    QCOMPARE(columnTexts(*shown.list, "Rooms"), rooms);
     QCOMPARE(shown.list->currentItem(), shown.list->topLevelItem(0));
 }
 
@@ -239,9 +235,9 @@ void TestPageCreatePreset::thePictureIsThatOfTheSelectedLayout()
 {
     const Shown shown;
     QCOMPARE(shownPicture(shown.page), QColor(Qt::cyan));
-    clickRow(shown.list, 3);
+    Hands::clickRow(shown.list->topLevelItem(3));
     QCOMPARE(shownPicture(shown.page), QColor(Qt::yellow));
-    clickRow(shown.list, 1);
+    Hands::clickRow(shown.list->topLevelItem(1));
     QCOMPARE(shownPicture(shown.page), QColor(Qt::cyan));
 }
 

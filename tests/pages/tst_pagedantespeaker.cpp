@@ -47,7 +47,6 @@ private Q_SLOTS:
 
 namespace {
 
-constexpr int positionColumn = 5;
 constexpr quint16 textCommandPort = 49280;
 const char* const frontLeft = "127.51.1.1";
 const char* const frontRight = "127.51.1.2";
@@ -88,8 +87,8 @@ struct Shown
 
     QComboBox* combo(const char* address) const
     {
-        QTreeWidgetItem* row = rowWith(*table(), 3, text(address));
-        return row ? qobject_cast<QComboBox*>(table()->itemWidget(row, positionColumn)) : nullptr;
+        QTreeWidgetItem* row = rowWith(*table(), "IP Address", text(address));
+        return row ? qobject_cast<QComboBox*>(widgetIn(row, "Position")) : nullptr;
     }
 
     void choose(const char* address, Qt::Key key) const { QTest::keyClick(combo(address), key); }
@@ -114,10 +113,7 @@ void TestPageDanteSpeaker::saysWhatToDo()
     QCOMPARE(shown.page.title(),
              QStringLiteral("6. Assign the speaker locations for each room combination"));
     QCOMPARE(shown.page.pageNumber(), 6);
-    QStringList texts;
-    for (const auto* label : shown.page.findChildren<QLabel*>()) {
-        texts.append(label->text());
-    }
+    const QStringList texts = labelTexts(shown.page);
     QVERIFY(
         texts.contains(QStringLiteral("For each room combination listed on the left, select "
                                       "whether speakers are positioned on the left or right.")));
@@ -137,9 +133,9 @@ void TestPageDanteSpeaker::everyCombinedRoomHasARowInTheColourOfItsFirstRoom()
     const Shown shown;
     const QStringList rooms{QStringLiteral("1,2"), QStringLiteral("3"), QStringLiteral("1"),
                             QStringLiteral("2"), QStringLiteral("3")};
-    QCOMPARE(columnTexts(*shown.list, 2), rooms);
-    QCOMPARE(columnTexts(*shown.list, 0).join(QString()), QStringLiteral("12345"));
-    QCOMPARE(columnTexts(*shown.list, 1).join(QString()), QStringLiteral("11222"));
+    QCOMPARE(columnTexts(*shown.list, "Room"), rooms);
+    QCOMPARE(columnTexts(*shown.list, "No.").join(QString()), QStringLiteral("12345"));
+    QCOMPARE(columnTexts(*shown.list, "Layout").join(QString()), QStringLiteral("11222"));
     QCOMPARE(shown.list->topLevelItem(0)->background(2).color(), QColor(0xB0, 0x68, 0x00));
     QCOMPARE(shown.list->topLevelItem(1)->background(2).color(), QColor(0x14, 0x5C, 0x97));
     QCOMPARE(shown.list->topLevelItem(0)->foreground(2).color(), QColor(Qt::white));
@@ -150,8 +146,8 @@ void TestPageDanteSpeaker::speakersOfAllItsRoomsAreListedByHostname()
     const Shown shown;
     const QStringList labels{QStringLiteral("A-Rear"), QStringLiteral("Front-L"),
                              QStringLiteral("Front-R")};
-    QCOMPARE(columnTexts(*shown.table(), 0), labels);
-    QCOMPARE(columnTexts(*shown.table(), 4).join(QString()), QStringLiteral("212"));
+    QCOMPARE(columnTexts(*shown.table(), "Hostname"), labels);
+    QCOMPARE(columnTexts(*shown.table(), "Room").join(QString()), QStringLiteral("212"));
     selectGroup(shown.page, 1);
     QCOMPARE(shown.table()->topLevelItemCount(), 0);
 }
@@ -161,7 +157,7 @@ void TestPageDanteSpeaker::aRemovedSpeakerIsMissingFromThatLayoutOnly()
     const Shown shown;
     QVERIFY(shown.combo(rear));
     selectGroup(shown.page, 3);
-    QCOMPARE(columnTexts(*shown.table(), 3), QStringList{text(frontRight)});
+    QCOMPARE(columnTexts(*shown.table(), "IP Address"), QStringList{text(frontRight)});
 }
 
 void TestPageDanteSpeaker::devicesOfOtherModelsAreNotListed()
@@ -273,7 +269,7 @@ void TestPageDanteSpeaker::restoringTakesThePositionsFromTheDocument()
     PageDanteSpeaker page(&controller, &doc, nullptr);
     page.restoreFromDocument();
     auto* table = tableOf(*shownPanel(page), "speakerTable");
-    const auto* combo = table->itemWidget(rowWith(*table, 3, text(rear)), positionColumn);
+    const auto* combo = widgetIn(rowWith(*table, "IP Address", text(rear)), "Position");
     QCOMPARE(qobject_cast<const QComboBox*>(combo)->currentText(), QStringLiteral("R"));
 }
 
@@ -283,7 +279,7 @@ void TestPageDanteSpeaker::selectingARowShowsItsPanelAndPicture()
     QCOMPARE(shownPicture(*shownPanel(shown.page)), QColor(Qt::cyan));
     selectGroup(shown.page, 2);
     QCOMPARE(shownPicture(*shownPanel(shown.page)), QColor(Qt::yellow));
-    QCOMPARE(columnTexts(*shown.table(), 3), QStringList{text(frontLeft)});
+    QCOMPARE(columnTexts(*shown.table(), "IP Address"), QStringList{text(frontLeft)});
 }
 
 void TestPageDanteSpeaker::theIdentifyButtonMakesTheSpeakerIdentifyItself()
@@ -291,8 +287,8 @@ void TestPageDanteSpeaker::theIdentifyButtonMakesTheSpeakerIdentifyItself()
     QTcpServer speaker;
     QVERIFY(speaker.listen(QHostAddress(text(frontLeft)), textCommandPort));
     const Shown shown;
-    QTreeWidgetItem* row = rowWith(*shown.table(), 3, text(frontLeft));
-    press(shown.table()->itemWidget(row, 1));
+    QTreeWidgetItem* row = rowWith(*shown.table(), "IP Address", text(frontLeft));
+    press(namedWidgetIn(row, "Identify"));
     QTRY_VERIFY(speaker.hasPendingConnections());
     QTcpSocket* connection = speaker.nextPendingConnection();
     QTRY_COMPARE(connection->bytesAvailable(), qsizetype(sizeof "identify 5"));

@@ -3,13 +3,10 @@
 #include "devicequeries.h"
 #include "pagefixtures.h"
 #include "sessionqueries.h"
-#include "tablefixtures.h"
 #include "windowevents.h"
 
 #include <QApplication>
 #include <QNetworkInterface>
-#include <QPushButton>
-#include <QStackedWidget>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -19,8 +16,6 @@ constexpr quint16 discoveryPort = 54330;
 constexpr int hubs = 2;
 constexpr int peripherals = 6;
 constexpr int configurePage = 4;
-constexpr int removeColumn = 5;
-constexpr int statusColumn = 3;
 constexpr int longestWaitMs = 20'000;
 
 int loopbackIndex()
@@ -118,15 +113,14 @@ void SoakWizard::configure(const SoakHall& hall)
 /// A combined room has one hub; the last room group is that of both rooms.
 void SoakWizard::removeSecondHub()
 {
-    selectGroup(*page(), tableOf(*page(), "roomGroupList")->topLevelItemCount() - 1);
-    QTreeWidget* table = tableOf(*shownPanel(*page()), "hubTable");
-    press(table->itemWidget(table->topLevelItem(1), removeColumn));
+    hands().showGroup(hands().table("roomGroupList")->topLevelItemCount());
+    hands().toggle(hands().table("hubTable")->topLevelItem(1));
 }
 
 void SoakWizard::next()
 {
     const int before = pageIndex();
-    press(buttonOf(*page(), "nextButton"));
+    QVERIFY(hands().next());
     QCOMPARE(pageIndex(), before + 1);
 }
 
@@ -135,24 +129,22 @@ void SoakWizard::back()
     if (pageIndex() == 1) {
         window->back(); // the first working page has no button for it
     } else {
-        press(buttonOf(*page(), "backButton"));
+        QVERIFY(hands().back());
     }
 }
 
 int SoakWizard::pageIndex() const
 {
-    return window->findChild<QStackedWidget*>(QStringLiteral("pageStack"))->currentIndex();
+    return hands().pageNumber() - 1;
 }
 
 void SoakWizard::install()
 {
-    press(buttonOf(*page(), "executeButton"));
-    const QTreeWidget* list = tableOf(*page(), "hubList");
-    QTRY_COMPARE_WITH_TIMEOUT(columnTexts(*list, statusColumn).join(u' '),
-                              QStringLiteral("Done Done"), longestWaitMs);
+    QVERIFY(hands().press("executeButton"));
+    QTRY_COMPARE_WITH_TIMEOUT(hands().statuses(), QStringLiteral("Done Done"), longestWaitMs);
 }
 
-QWidget* SoakWizard::page() const
+WizardHands SoakWizard::hands() const
 {
-    return window->findChild<QStackedWidget*>(QStringLiteral("pageStack"))->currentWidget();
+    return WizardHands(window.get());
 }

@@ -4,6 +4,7 @@
 #include "loginanswers.h"
 #include "mainwindow.h"
 #include "tesseldoc.h"
+#include "wizardhands.h"
 
 #include <QUdpSocket>
 
@@ -59,5 +60,5 @@ public:
 
 private:
     void removeSecondHub();
-    QWidget* page() const;
+    WizardHands hands() const;
 };

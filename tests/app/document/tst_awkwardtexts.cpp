@@ -1,4 +1,5 @@
 #include "devicequeries.h"
+#include "documentfixtures.h"
 #include "presetqueries.h"
 #include "resumefile.h"
 #include "roomqueries.h"
@@ -136,13 +137,8 @@ void TestAwkwardTexts::labelsAndPresetNamesComeBack()
 {
     QFETCH(const QString, text);
     QFETCH(const QString, expected);
-    const FoundDevice hub{QStringLiteral("hub"),
-                          QStringLiteral("PX-HB"),
-                          QStringLiteral("2.1"),
-                          QStringLiteral("10.0.0.1"),
-                          QStringLiteral("a0"),
-                          QString(),
-                          QString()};
+    const FoundDevice hub =
+        testDevice(QStringLiteral("hub"), QStringLiteral("PX-HB"), QStringLiteral("10.0.0.1"));
     TesselDoc before(nullptr);
     QVERIFY(addDevice(before, hub) && setDeviceLabel(before, hub.ipAddress, text));
     QVERIFY(addPreset(before, 1, 1, text) && addPreset(before, 2, 1, QStringLiteral("next")));
@@ -167,13 +163,9 @@ void TestAwkwardTexts::devicesAreKnownAgainByTheirAddressesAndModels_data()
 void TestAwkwardTexts::devicesAreKnownAgainByTheirAddressesAndModels()
 {
     QFETCH(const QString, text);
-    const FoundDevice odd{QStringLiteral("odd"),
-                          QStringLiteral("PX-DL") + text,
-                          QStringLiteral("2.1"),
-                          text + QStringLiteral("10.0.0.1"),
-                          QStringLiteral("a0") + text,
-                          QString(),
-                          QString()};
+    FoundDevice odd = testDevice(QStringLiteral("odd"), QStringLiteral("PX-DL") + text,
+                                 text + QStringLiteral("10.0.0.1"));
+    odd.macAddress = QStringLiteral("a0") + text;
     TesselDoc before(nullptr);
     QVERIFY(addDevice(before, odd) && setDeviceRoom(before, odd.ipAddress, 3));
     QVERIFY(addToDeviceSet(before, 2, 1, odd.ipAddress, true));
@@ -192,8 +184,7 @@ void TestAwkwardTexts::devicesAreKnownAgainByTheirAddressesAndModels()
 void TestAwkwardTexts::twoAddressesThatAreSavedAlikeDoNotStopTheLoad()
 {
     const auto add = [](TesselDoc& doc, const QString& address) {
-        return addDevice(doc, {QStringLiteral("x"), QStringLiteral("PX-DL"), QStringLiteral("2.1"),
-                               address, QStringLiteral("a0"), QString(), QString()});
+        return addDevice(doc, testDevice(QStringLiteral("x"), QStringLiteral("PX-DL"), address));
     };
     const QString odd = around({1});
     TesselDoc before(nullptr);

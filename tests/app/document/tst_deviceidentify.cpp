@@ -2,6 +2,7 @@
 #include "datakind.h"
 #include "deviceidentify.h"
 #include "devicequeries.h"
+#include "documentfixtures.h"
 #include "tesseldoc.h"
 #include "testcase.h"
 
@@ -66,10 +67,10 @@ private:
 
 FoundDevice device(const QString& address, const QString& searchType)
 {
-    return {QStringLiteral("A"),   QStringLiteral("PX-HB"),
-            QStringLiteral("2.1"), address,
-            QStringLiteral("mac"), searchType,
-            QStringLiteral("pä")};
+    FoundDevice found = testDevice(QStringLiteral("A"), QStringLiteral("PX-HB"), address);
+    found.searchType = searchType;
+    found.password = QStringLiteral("pä");
+    return found;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "datakey.h"
 #include "datakind.h"
 #include "devicequeries.h"
+#include "documentfixtures.h"
 #include "enteredwork.h"
 #include "layoutqueries.h"
 #include "presetqueries.h"
@@ -23,16 +24,10 @@ using Change = std::function<void(TesselDoc&)>;
 const QString hub = QStringLiteral("10.0.0.1");
 const QString speaker = QStringLiteral("10.0.0.2");
 
-void addNamedDevice(TesselDoc& doc, const QString& model, const QString& address)
-{
-    QVERIFY(addDevice(doc, {QStringLiteral("device"), model, QStringLiteral("2.1"), address,
-                            QStringLiteral("a0:00"), QString(), QString()}));
-}
-
 void fill(TesselDoc& doc)
 {
-    addNamedDevice(doc, QStringLiteral("PX-HB"), hub);
-    addNamedDevice(doc, QStringLiteral("DSK4M"), speaker);
+    addTestDevice(doc, QStringLiteral("device"), QStringLiteral("PX-HB"), hub);
+    addTestDevice(doc, QStringLiteral("device"), QStringLiteral("DSK4M"), speaker);
     QVERIFY(setDeviceRoom(doc, hub, 1) && setDeviceRoom(doc, speaker, 1));
     setRoomCells(doc, 1, {{0, 0}, {1, 0}});
     setRoomCells(doc, 2, {{0, 1}});
@@ -64,7 +59,8 @@ void row(const char* name, const Change& change)
 void addDeviceRows()
 {
     row("a device more", [](TesselDoc& doc) {
-        addNamedDevice(doc, QStringLiteral("PX-DL"), QStringLiteral("10.0.0.9"));
+        addTestDevice(doc, QStringLiteral("device"), QStringLiteral("PX-DL"),
+                      QStringLiteral("10.0.0.9"));
     });
     row("another room", [](TesselDoc& doc) { setDeviceRoom(doc, speaker, 2); });
     row("no room", [](TesselDoc& doc) { setDeviceRoom(doc, speaker, 0); });

@@ -1,6 +1,7 @@
 #include "datakey.h"
 #include "datakind.h"
 #include "devicequeries.h"
+#include "documentfixtures.h"
 #include "presetqueries.h"
 #include "setqueries.h"
 #include "tesseldoc.h"
@@ -26,13 +27,8 @@ QVariantMap ofDevice(const QString& address, int scene)
 /// A hub and a speaker, together in set 1 of layout 1 and in set 2 of layout 2.
 void fill(TesselDoc& doc)
 {
-    FoundDevice device{QStringLiteral("Hub"),
-                       QStringLiteral("PX-HB"),
-                       QStringLiteral("2.1"),
-                       hub,
-                       QStringLiteral("a0:00:01"),
-                       QString(),
-                       QString()};
+    FoundDevice device = testDevice(QStringLiteral("Hub"), QStringLiteral("PX-HB"), hub);
+    device.macAddress = QStringLiteral("a0:00:01");
     QVERIFY(addDevice(doc, device));
     device.modelName = QStringLiteral("DSK4M");
     device.ipAddress = speaker;

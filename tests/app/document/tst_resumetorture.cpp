@@ -1,6 +1,8 @@
 // What befalls a resume file between two starts: bytes that change on the disk, and a program that
 // dies while it saves.
 #include "devicequeries.h"
+#include "dialoganswerer.h"
+#include "documentfixtures.h"
 #include "layoutqueries.h"
 #include "presetqueries.h"
 #include "roomqueries.h"
@@ -8,9 +10,6 @@
 #include "tesseldoc.h"
 #include "testcase.h"
 
-#include <QApplication>
-#include <QBasicTimer>
-#include <QDialog>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
@@ -48,13 +47,9 @@ QString addressOf(int number)
 void addDevices(TesselDoc& doc)
 {
     for (int number = 1; number <= 6; ++number) {
-        QVERIFY(addDevice(doc, {QStringLiteral("device %1").arg(number),
-                                number <= 2 ? QStringLiteral("PX-HB") : QStringLiteral("PX-DL"),
-                                QStringLiteral("2.1.0"),
-                                addressOf(number),
-                                QStringLiteral("00:A0:DE:00:00:0%1").arg(number),
-                                {},
-                                {}}));
+        addTestDevice(doc, QStringLiteral("device %1").arg(number),
+                      number <= 2 ? QStringLiteral("PX-HB") : QStringLiteral("PX-DL"),
+                      addressOf(number));
     }
 }
 
@@ -69,9 +64,8 @@ void fill(TesselDoc& doc, int layouts)
         QVERIFY(setDeviceRoom(doc, addressOf(number), 1 + number % 2));
     }
     for (int layout = 1; layout <= layouts; ++layout) {
-        QPixmap picture(64, 64);
-        picture.fill(QColor::fromHsv(layout * 30, 200, 200));
-        QVERIFY(addLayout(doc, {layout, QStringLiteral("1+2"), picture}));
+        addColouredLayout(doc, layout, QStringLiteral("1+2"),
+                          QColor::fromHsv(layout * 30, 200, 200));
         QVERIFY(addPreset(doc, layout, layout, QStringLiteral("Preset %1").arg(layout)));
         QVERIFY(addToDeviceSet(doc, layout, layout, addressOf(layout), layout % 2 == 0));
     }
@@ -111,24 +105,6 @@ QByteArray damaged(QByteArray bytes, int changes, std::mt19937& random)
     }
     return bytes;
 }
-
-/// Closes every dialog that comes up, as soon as it does.
-class DialogCloser : public QObject
-{
-public:
-    DialogCloser() { m_timer.start(0, this); }
-
-protected:
-    void timerEvent(QTimerEvent* /*event*/) override
-    {
-        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-            dialog->reject();
-        }
-    }
-
-private:
-    QBasicTimer m_timer;
-};
 
 /// How long an undamaged file takes to load, in milliseconds.
 qint64 wholeLoad(const QString& path)
@@ -224,7 +200,8 @@ void TestResumeTorture::changedBytesCostNeitherTimeNorMemory()
     fill(before, 2);
     QVERIFY(before.saveResume(m_path));
     const QByteArray bytes = bytesOf(m_path);
-    const DialogCloser closer;
+    DialogAnswerer answers;
+    answers.onDialog("Missing device", pressing("OK"));
     const qint64 limit = std::max(longestLoadMs, maxWholeLoads * wholeLoad(m_path));
     std::mt19937 random(seed + quint32(changes));
     int loaded = 0;

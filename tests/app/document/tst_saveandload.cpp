@@ -1,6 +1,8 @@
 #include "datakey.h"
 #include "datakind.h"
 #include "devicequeries.h"
+#include "dialoganswerer.h"
+#include "hands.h"
 #include "layoutqueries.h"
 #include "missingdevices.h"
 #include "presetqueries.h"
@@ -11,15 +13,12 @@
 #include "tesseldoc.h"
 #include "testcase.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextDocument>
-#include <QTimer>
 
 namespace {
 
@@ -42,13 +41,13 @@ QString macOf(int number)
 
 FoundDevice foundDevice(int number)
 {
-    return {QStringLiteral("device %1").arg(number),
-            number % 10 == 0 ? QStringLiteral("PX-HB") : QStringLiteral("PX-DL"),
-            QStringLiteral("2.1"),
-            addressOf(number),
-            macOf(number),
-            QStringLiteral("HTTP"),
-            QStringLiteral("secret")};
+    return {.label = QStringLiteral("device %1").arg(number),
+            .modelName = number % 10 == 0 ? QStringLiteral("PX-HB") : QStringLiteral("PX-DL"),
+            .version = QStringLiteral("2.1"),
+            .ipAddress = addressOf(number),
+            .macAddress = macOf(number),
+            .searchType = QStringLiteral("HTTP"),
+            .password = QStringLiteral("secret")};
 }
 
 void addDevices(TesselDoc& doc, int count)
@@ -104,46 +103,20 @@ int pageIndex(TesselDoc& doc)
     return data.value(DataKey::index()).toInt();
 }
 
-/// Presses "OK" in the message box that opens next and notes what it says.
-class BoxReader : public QObject
+/// The box of missing devices must come up, and gets its "OK".
+struct MissingBox
 {
-    Q_OBJECT
-
-public:
-    BoxReader()
-    {
-        m_timer.setInterval(10);
-        connect(&m_timer, SIGNAL(timeout()), this, SLOT(look()));
-        m_timer.start();
-    }
-
-    int boxes = 0;
-    QString title;
-    QString text;
+    DialogAnswerer answerer{"Missing device", [this](QWidget* dialog) {
+                                auto* box = qobject_cast<QMessageBox*>(dialog);
+                                icon = box->icon();
+                                hasParent = box->parent() != nullptr;
+                                const QRect screen = box->screen()->availableGeometry();
+                                fitsOnScreen = screen.contains(box->frameGeometry());
+                                Hands::clickButton(box, "OK");
+                            }};
     QMessageBox::Icon icon = QMessageBox::NoIcon;
-    QMessageBox::StandardButtons buttons;
     bool hasParent = false;
     bool fitsOnScreen = false;
-
-private Q_SLOTS:
-    void look()
-    {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box == nullptr) {
-            return;
-        }
-        ++boxes;
-        title = box->windowTitle();
-        text = box->text();
-        icon = box->icon();
-        buttons = box->standardButtons();
-        hasParent = box->parent() != nullptr;
-        fitsOnScreen = box->screen()->availableGeometry().contains(box->frameGeometry());
-        QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
-    }
-
-private:
-    QTimer m_timer;
 };
 
 const QString missingIntroduction =
@@ -344,10 +317,9 @@ void TestSaveAndLoad::changedMacAddressCountsAsMissing()
     FoundDevice exchanged = foundDevice(0);
     exchanged.macAddress = macOf(9);
     QVERIFY(addDevice(after, exchanged));
-    const BoxReader reader;
+    MissingBox box;
     QVERIFY(!after.loadResume(m_path));
-    QCOMPARE(reader.boxes, 1);
-    QCOMPARE(reader.text,
+    QCOMPARE(box.answerer.text(),
              missingIntroduction +
                  QStringLiteral("Hostname:device 0,Model:PX-HB,IP=%1\n").arg(addressOf(0)));
     QCOMPARE(deviceByAddress(after, addressOf(0))->roomNumber, 0);
@@ -363,9 +335,8 @@ void TestSaveAndLoad::changedModelCountsAsMissing()
     FoundDevice exchanged = foundDevice(0);
     exchanged.modelName = QStringLiteral("PX-HB2");
     QVERIFY(addDevice(after, exchanged));
-    const BoxReader reader;
+    MissingBox box;
     QVERIFY(!after.loadResume(m_path));
-    QCOMPARE(reader.boxes, 1);
 }
 
 void TestSaveAndLoad::secondDeviceOfAnAddressIsFoundByItsMac()
@@ -424,16 +395,14 @@ void TestSaveAndLoad::missingDevicesAreListedInFileOrder()
     QVERIFY(before.saveResume(m_path));
     TesselDoc after(nullptr);
     QVERIFY(addDevice(after, foundDevice(2)));
-    const BoxReader reader;
+    MissingBox box;
     QVERIFY(!after.loadResume(m_path));
-    QCOMPARE(reader.boxes, 1);
-    QCOMPARE(reader.title, QStringLiteral("Missing device"));
-    QCOMPARE(reader.text,
+    QCOMPARE(box.answerer.text(),
              missingIntroduction + QStringLiteral("Hostname:device 0,Model:PX-HB,IP=10.0.0.1\n"
                                                   "Hostname:device 3,Model:PX-DL,IP=10.0.0.4\n"));
-    QCOMPARE(reader.icon, QMessageBox::Warning);
-    QCOMPARE(reader.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
-    QVERIFY(!reader.hasParent);
+    QCOMPARE(box.icon, QMessageBox::Warning);
+    QCOMPARE(box.answerer.buttons(), QStringList(QStringLiteral("OK")));
+    QVERIFY(!box.hasParent);
     QCOMPARE(deviceByAddress(after, addressOf(2))->roomNumber, 1);
 }
 
@@ -445,9 +414,8 @@ void TestSaveAndLoad::missingDeviceInNoRoomIsForgotten()
     QVERIFY(before.saveResume(m_path));
     TesselDoc after(nullptr);
     QVERIFY(addDevice(after, foundDevice(0)));
-    const BoxReader reader;
+    const DialogAnswerer nothingIsTold;
     QVERIFY(after.loadResume(m_path));
-    QCOMPARE(reader.boxes, 0);
     QCOMPARE(deviceCount(after), 1);
 }
 
@@ -477,11 +445,10 @@ void TestSaveAndLoad::aHallFullOfMissingDevicesIsListedOnTheScreen()
     }
     QVERIFY(before.saveResume(m_path));
     TesselDoc after(nullptr);
-    const BoxReader reader;
+    MissingBox box;
     QVERIFY(!after.loadResume(m_path));
-    QCOMPARE(reader.boxes, 1);
-    QCOMPARE(reader.text.count(QStringLiteral("Hostname:")), 250);
-    QVERIFY(reader.fitsOnScreen);
+    QCOMPARE(box.answerer.text().count(QStringLiteral("Hostname:")), 250);
+    QVERIFY(box.fitsOnScreen);
 }
 
 void TestSaveAndLoad::missingDevicesStopTheLoadThere()
@@ -489,12 +456,11 @@ void TestSaveAndLoad::missingDevicesStopTheLoadThere()
     TesselDoc doc(nullptr);
     setRoomCells(doc, 4, {{0, 0}});
     QVERIFY(addPreset(doc, 9, 9, QStringLiteral("mine")));
-    const BoxReader reader;
+    MissingBox box;
     QVERIFY(!doc.loadResume(writeInside(
         QStringLiteral("<RoomInfoList><RoomInfo Number='1' PosList='{1,1}'/></RoomInfoList>"
                        "<DeviceDataList><DeviceData IP='10.9.9.9' Room='1'/></DeviceDataList>"
                        "<PresetInfoList/>"))));
-    QCOMPARE(reader.boxes, 1);
     QCOMPARE(roomCount(doc), 1);
     QCOMPARE(presetName(doc, 9, 9), QStringLiteral("mine"));
     QCOMPARE(pageIndex(doc), 3);

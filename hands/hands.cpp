@@ -1,8 +1,8 @@
-#include "demouser.h"
+#include "hands.h"
 
-#include <QAbstractItemView>
+#include "finding.h"
+
 #include <QApplication>
-#include <QComboBox>
 #include <QTest>
 #include <QTreeWidget>
 #include <QWindow>
@@ -14,32 +14,41 @@ QWindow* windowOf(const QWidget* widget)
     return widget->window()->windowHandle();
 }
 
-QPoint inWindow(const QWidget* widget, const QPoint& at)
+QPoint inWindow(const QWidget* widget, QPoint at)
 {
     return widget->mapTo(widget->window(), at);
 }
 
-QPoint middleOfCell(QTreeWidget* tree, QTreeWidgetItem* item, int column)
+QPoint middleOfCell(const QTreeWidgetItem* row, int column)
 {
-    tree->scrollToItem(item);
-    const QRect row = tree->visualItemRect(item);
-    const int left = tree->columnViewportPosition(column);
+    const QTreeWidget* table = row->treeWidget();
+    const int left = table->columnViewportPosition(column);
     // Left of the middle: item widgets such as the pencil stand at the right end of a cell.
-    return {left + qMin(20, tree->columnWidth(column) / 2), row.center().y()};
+    return {left + qMin(20, table->columnWidth(column) / 2),
+            table->visualItemRect(row).center().y()};
 }
 
 } // namespace
 
-namespace DemoUser {
+namespace Hands {
 
 void click(QWidget* widget)
 {
     click(widget, widget->rect().center());
 }
 
-void click(QWidget* widget, const QPoint& at)
+void click(QWidget* widget, QPoint at)
 {
     QTest::mouseClick(windowOf(widget), Qt::LeftButton, Qt::NoModifier, inWindow(widget, at));
+}
+
+void clickButton(const QWidget* parent, QAnyStringView text)
+{
+    QWidget* button = buttonWithText(*parent, text);
+    if (button == nullptr) {
+        qFatal("There is no button \"%s\"", qPrintable(text.toString()));
+    }
+    click(button);
 }
 
 void drag(QWidget* widget, const QList<QPoint>& path)
@@ -48,26 +57,35 @@ void drag(QWidget* widget, const QList<QPoint>& path)
     QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, inWindow(widget, path.front()));
     // A hand moves within the first cell before it leaves it.
     QTest::mouseMove(window, inWindow(widget, path.front() + QPoint(3, 3)));
-    for (const QPoint& at : path) {
+    for (const QPoint at : path) {
         QTest::mouseMove(window, inWindow(widget, at));
         QCoreApplication::processEvents();
     }
     QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, inWindow(widget, path.back()));
 }
 
-void doubleClickCell(QTreeWidget* tree, QTreeWidgetItem* item, int column)
+void reach(QTreeWidgetItem* row)
 {
-    QWidget* viewport = tree->viewport();
+    row->treeWidget()->scrollToItem(row);
+    QCoreApplication::processEvents();
+}
+
+void clickRow(QTreeWidgetItem* row)
+{
+    row->treeWidget()->scrollToItem(row);
+    click(row->treeWidget()->viewport(), middleOfCell(row, 0));
+}
+
+void doubleClick(QTreeWidgetItem* row, QAnyStringView header)
+{
+    row->treeWidget()->scrollToItem(row);
+    const QWidget* viewport = row->treeWidget()->viewport();
+    const QPoint middle = middleOfCell(row, columnOf(*row->treeWidget(), header));
     QTest::mouseDClick(windowOf(viewport), Qt::LeftButton, Qt::NoModifier,
-                       inWindow(viewport, middleOfCell(tree, item, column)));
+                       inWindow(viewport, middle));
 }
 
-void clickRow(QTreeWidget* tree, QTreeWidgetItem* item)
-{
-    click(tree->viewport(), middleOfCell(tree, item, 0));
-}
-
-void choose(QComboBox* combo, const QString& text)
+void choose(QWidget* combo, const QString& text)
 {
     click(combo);
     QWidget* popup = QApplication::activePopupWidget();
@@ -83,9 +101,16 @@ void type(QWidget* widget, const QString& text)
     }
 }
 
+void typeInto(QWidget* field, const QString& text)
+{
+    click(field);
+    pressKey(field, Qt::Key_A, Qt::ControlModifier);
+    type(field, text);
+}
+
 void pressKey(QWidget* widget, Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QTest::keyClick(windowOf(widget), key, modifiers);
 }
 
-} // namespace DemoUser
+} // namespace Hands
