@@ -9,8 +9,10 @@ namespace {
 
 /// Added to both luminances of a ratio: light that every screen reflects.
 constexpr double ambient = 0.05;
-/// What a gray that is mixed here aims at: rounding must not take it below what can be read.
-constexpr double aim = 1.1 * readableContrast;
+/// A gray that is mixed here aims higher than it must: rounding must not take it below.
+constexpr double reserve = 1.1;
+/// Per cent of brightness from one ground to the next that is tried.
+constexpr int shade = 103;
 
 double linear(double channel)
 {
@@ -40,12 +42,28 @@ double contrast(const QColor& one, const QColor& other)
     return (lighter + ambient) / (darker + ambient);
 }
 
-QColor readableGray(const QColor& wanted, const QColor& ground)
+QColor readableGray(const QColor& wanted, const QColor& ground, double needed)
 {
-    if (contrast(wanted, ground) >= readableContrast) {
+    if (contrast(wanted, ground) >= needed) {
         return wanted;
     }
+    const double aim = reserve * needed;
     const double light = luminance(ground) + ambient;
     const bool darker = contrast(ground, Qt::black) > contrast(ground, Qt::white);
     return grayOf((darker ? light / aim : light * aim) - ambient);
+}
+
+QColor readableGround(const QColor& wanted, const QColor& text)
+{
+    const bool darker = contrast(text, Qt::black) > contrast(text, Qt::white);
+    const QColor last = darker ? Qt::black : Qt::white;
+    QColor ground = wanted;
+    while (contrast(ground, text) < textContrast) {
+        const QColor next = darker ? ground.darker(shade) : ground.lighter(shade);
+        if (next == ground) {
+            return last; // the hue has no darker or lighter one
+        }
+        ground = next;
+    }
+    return ground;
 }

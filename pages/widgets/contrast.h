@@ -8,7 +8,14 @@ double contrast(const QColor& one, const QColor& other);
 
 /// What a text needs at least to be read.
 inline constexpr double readableContrast = 3.0;
+/// What a text needs to be read with ease, in any size and by most eyes.
+inline constexpr double textContrast = 4.5;
 
-/// The colour for a text that is to be gray on `ground`: `wanted` if that can be read there, else
-/// a gray that can, as far from black and white as that allows.
-QColor readableGray(const QColor& wanted, const QColor& ground);
+/// The colour for a text that is to be gray on `ground`: `wanted` if that has contrast enough
+/// there, else a gray that has, as far from black and white as that allows. Contrasts of up to
+/// `textContrast` can be had on every ground.
+QColor readableGray(const QColor& wanted, const QColor& ground, double needed = readableContrast);
+
+/// The colour for the ground of a given text: `wanted` if the text can be read there with ease,
+/// else the same hue, as much darker or lighter as it takes.
+QColor readableGround(const QColor& wanted, const QColor& text);

@@ -17,7 +17,11 @@ private Q_SLOTS:
     void aGrayThatCanBeReadIsKept();
     void aGrayThatCannotBeReadGivesWayToOneThatCan_data();
     void aGrayThatCannotBeReadGivesWayToOneThatCan();
+    void onEveryGroundTheGrayCanBeRead_data();
     void onEveryGroundTheGrayCanBeRead();
+    void aGroundOnWhichATextCanBeReadIsKept();
+    void anyGroundGivesWayToATextWithoutLosingItsHue_data();
+    void anyGroundGivesWayToATextWithoutLosingItsHue();
 };
 
 void TestContrast::blackStandsOutFromWhiteTheMost()
@@ -76,19 +80,55 @@ void TestContrast::aGrayThatCannotBeReadGivesWayToOneThatCan()
     QVERIFY(gray != QColor(Qt::black) && gray != QColor(Qt::white));
 }
 
+void TestContrast::onEveryGroundTheGrayCanBeRead_data()
+{
+    QTest::addColumn<double>("needed");
+    QTest::newRow("at all") << readableContrast;
+    QTest::newRow("with ease") << textContrast;
+}
+
 void TestContrast::onEveryGroundTheGrayCanBeRead()
 {
+    QFETCH(const double, needed);
     constexpr int step = 15;
     for (int red = 0; red <= 255; red += step) {
         for (int green = 0; green <= 255; green += step) {
             for (int blue = 0; blue <= 255; blue += step) {
                 const QColor ground(red, green, blue);
-                const QColor gray = readableGray(Qt::darkGray, ground);
+                const QColor gray = readableGray(Qt::darkGray, ground, needed);
                 QCOMPARE(gray.hsvSaturation(), 0);
-                QVERIFY2(contrast(gray, ground) >= readableContrast, qPrintable(ground.name()));
+                QVERIFY2(contrast(gray, ground) >= needed, qPrintable(ground.name()));
             }
         }
     }
+}
+
+void TestContrast::aGroundOnWhichATextCanBeReadIsKept()
+{
+    QCOMPARE(readableGround(Qt::darkBlue, Qt::white), QColor(Qt::darkBlue));
+    QCOMPARE(readableGround(Qt::yellow, Qt::black), QColor(Qt::yellow));
+}
+
+void TestContrast::anyGroundGivesWayToATextWithoutLosingItsHue_data()
+{
+    QTest::addColumn<QColor>("ground");
+    QTest::addColumn<QColor>("text");
+    QTest::newRow("white on light blue") << QColor(0x30, 0x8C, 0xC6) << QColor(Qt::white);
+    QTest::newRow("white on yellow") << QColor(Qt::yellow) << QColor(Qt::white);
+    QTest::newRow("black on deep blue") << QColor(0x14, 0x5C, 0x97) << QColor(Qt::black);
+    QTest::newRow("white on white") << QColor(Qt::white) << QColor(Qt::white);
+    QTest::newRow("black on black") << QColor(Qt::black) << QColor(Qt::black);
+}
+
+void TestContrast::anyGroundGivesWayToATextWithoutLosingItsHue()
+{
+    QFETCH(const QColor, ground);
+    QFETCH(const QColor, text);
+    const QColor readable = readableGround(ground, text);
+    QVERIFY(contrast(readable, text) >= textContrast);
+    QVERIFY(qAbs(readable.hsvHue() - ground.hsvHue()) <= 1);
+    // By no more than it takes.
+    QVERIFY(contrast(readable, text) < 1.2 * textContrast || ground == text);
 }
 
 TESSEL_TEST_MAIN(TestContrast)
