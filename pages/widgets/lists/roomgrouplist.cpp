@@ -1,5 +1,6 @@
 #include "roomgrouplist.h"
 
+#include "contrast.h"
 #include "roomcolor.h"
 #include "rowdelegate.h"
 
@@ -22,7 +23,7 @@ protected:
 };
 
 /// Keeps the colour that a page gave a row's texts visible while the row is selected, as the
-/// colour of the selection itself.
+/// colour of the selection itself. Black, as which no colour reads too, is the list's own colour.
 class NumberDelegate : public RowDelegate
 {
 public:
@@ -31,10 +32,13 @@ public:
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
+        const QPalette own = option->palette;
         RowDelegate::initStyleOption(option, index);
-        const QColor color = option->palette.color(QPalette::Text);
-        if (index.data(Qt::ForegroundRole).isValid() && color != QColor(Qt::black)) {
-            option->palette.setColor(QPalette::Highlight, color);
+        const QColor given = index.data(Qt::ForegroundRole).value<QBrush>().color();
+        if (given == QColor(Qt::black)) {
+            option->palette = own;
+        } else {
+            option->palette.setColor(QPalette::Highlight, readableGround(given, Qt::white));
             option->palette.setColor(QPalette::HighlightedText, Qt::white);
         }
     }
