@@ -30,7 +30,7 @@ QRect inner(const QWidget& widget)
 
 double neededInCell(const QTreeWidget& table, const QModelIndex& cell)
 {
-    const QPalette palette = table.palette();
+    const QPalette& palette = table.palette();
     const QBrush given = cell.data(Qt::ForegroundRole).value<QBrush>();
     const QBrush ground = cell.data(Qt::BackgroundRole).value<QBrush>();
     if (ground.style() != Qt::NoBrush) {
