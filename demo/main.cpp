@@ -3,9 +3,12 @@
 //   tessel-demo --part=1|2 --hall=FILE --pictures=FOLDER [the wizard's own arguments]
 //   tessel-demo --check=FOLDER --hall=FILE
 //
+// Where the environment says TESSEL_DARK, it plays in the colours of a dark desktop.
+//
 // The wizard is the one that the entry function builds: it ignores arguments it does not know, and
 // the player is started by the application object, not by the wizard.
 
+#include "darkpalette.h"
 #include "demodesk.h"
 #include "demofirstrun.h"
 #include "demoscenario.h"
@@ -15,6 +18,7 @@
 #include "hubcheck.h"
 
 #include <QApplication>
+#include <QPalette>
 #include <QTextStream>
 #include <QTimer>
 
@@ -85,6 +89,9 @@ bool play(const DemoScenario& scenario)
 
 void walk()
 {
+    if (qEnvironmentVariableIsSet("TESSEL_DARK")) {
+        QApplication::setPalette(darkPalette());
+    }
     const std::optional<DemoScenario> scenario = readScenario();
     walkSucceeded = scenario && play(*scenario);
     if (!walkSucceeded) {

@@ -108,8 +108,10 @@ void DeviceSet::addRows()
 
 void DeviceSet::paintRow(QTreeWidgetItem* row, bool removed)
 {
+    // A device in the set has no colour of ours: its texts are in that of the list.
+    const QVariant color = removed ? QBrush(RemovedTextDelegate::textColor) : QVariant();
     for (const int column : textColumns) {
-        row->setForeground(column, removed ? RemovedTextDelegate::textColor : QColor(Qt::black));
+        row->setData(column, Qt::ForegroundRole, color);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "createscene.h"
 
+#include "focusedcelldelegate.h"
 #include "focusedrow.h"
 #include "layoutqueries.h"
 #include "roomqueries.h"
@@ -143,6 +144,7 @@ void CreateScene::createWidgets()
     m_list->setAccessibleName(tr("Room layouts"));
     m_list->setHeaderLabels({tr("No."), tr("Layout")});
     m_list->setRootIsDecorated(false);
+    m_list->setItemDelegate(new FocusedCellDelegate(m_list));
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setColumnWidth(NumberColumn, numberWidth);
     m_focusedRow = new FocusedRow(m_list);

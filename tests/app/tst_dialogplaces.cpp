@@ -63,7 +63,7 @@ void TestDialogPlaces::theInterfaceDialogOpensOverTheMiddleOfTheWizard()
     TesselDoc doc(nullptr);
     MainWindow window(nullptr, &doc);
     window.show();
-    const DialogAnswerer answer("Select Network Interface Card", [&window](QWidget* dialog) {
+    const DialogAnswerer answer("networkDialog", [&window](QWidget* dialog) {
         // A system that places windows late.
         window.move(window.pos() + QPoint(-40, 60));
         checkIsOverMiddle(*dialog, window);

@@ -22,7 +22,7 @@ IdentifyButton::IdentifyButton(const QString& ipAddress, QWidget* parent)
 void IdentifyButton::paintFace(QPainter& painter)
 {
     painter.fillRect(rect(), isPressed() ? Qt::darkGray : Qt::lightGray);
-    paintSvgIcon(painter, rect(), QStringLiteral(":/image/icon_identify_bk.svg"));
+    paintSvgIcon(painter, rect(), QStringLiteral(":/image/icon_identify_bk.svg"), Qt::black);
 }
 
 void IdentifyButton::activate()

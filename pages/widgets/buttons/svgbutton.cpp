@@ -1,5 +1,7 @@
 #include "svgbutton.h"
 
+#include "contrast.h"
+#include "ground.h"
 #include "svgicon.h"
 
 #include <QPainter>
@@ -19,10 +21,12 @@ SvgButton::SvgButton(const QString& iconPath, QWidget* parent)
 
 void SvgButton::paintFace(QPainter& painter)
 {
+    const QColor ground = isPressed() ? QColor(Qt::lightGray) : groundOf(this);
     if (isPressed()) {
-        painter.fillRect(rect(), Qt::lightGray);
+        painter.fillRect(rect(), ground);
     }
-    paintSvgIcon(painter, rect(), m_iconPath);
+    const QColor text = palette().color(QPalette::Text);
+    paintSvgIcon(painter, rect(), m_iconPath, readableGray(text, ground, textContrast));
 }
 
 void SvgButton::activate()

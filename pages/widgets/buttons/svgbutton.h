@@ -4,7 +4,8 @@
 
 #include <QString>
 
-/// A 20 x 20 button that is nothing but an SVG icon; its ground shows only while it is held.
+/// A 20 x 20 button that is nothing but an SVG icon, in the colour of texts or, where that cannot
+/// be told from what lies behind, in a gray that can; its ground shows only while it is held.
 /// Its user sets the accessible name and the tool tip.
 class SvgButton : public PressButton
 {

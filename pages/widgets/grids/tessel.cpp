@@ -1,6 +1,7 @@
 #include "tessel.h"
 
 #include "arrowkey.h"
+#include "menustyle.h"
 #include "roomborder.h"
 #include "roomgroup.h"
 #include "tesselbutton.h"
@@ -212,6 +213,7 @@ void Tessel::openMenuAt(int room, QPoint globalPosition)
         return;
     }
     m_menu = new QMenu(this);
+    m_menu->setStyle(new MenuStyle(m_menu));
     connect(m_menu, SIGNAL(aboutToHide()), m_menu, SLOT(deleteLater()));
     for (int other = 1; other <= maxRoomNumber(); ++other) {
         if (other == room) {

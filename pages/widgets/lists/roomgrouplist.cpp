@@ -1,5 +1,6 @@
 #include "roomgrouplist.h"
 
+#include "contrast.h"
 #include "roomcolor.h"
 #include "rowdelegate.h"
 
@@ -32,9 +33,10 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
         RowDelegate::initStyleOption(option, index);
-        const QColor color = option->palette.color(QPalette::Text);
-        if (index.data(Qt::ForegroundRole).isValid() && color != QColor(Qt::black)) {
-            option->palette.setColor(QPalette::Highlight, color);
+        const QVariant given = index.data(Qt::ForegroundRole);
+        if (given.isValid()) {
+            const QColor color = given.value<QBrush>().color();
+            option->palette.setColor(QPalette::Highlight, readableGround(color, Qt::white));
             option->palette.setColor(QPalette::HighlightedText, Qt::white);
         }
     }

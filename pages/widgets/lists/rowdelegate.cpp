@@ -10,7 +10,7 @@ constexpr int minRowHeight = 26;
 
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    return QStyledItemDelegate::sizeHint(option, index).expandedTo({0, minRowHeight});
+    return FocusedCellDelegate::sizeHint(option, index).expandedTo({0, minRowHeight});
 }
 
 void RowDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,

@@ -5,7 +5,9 @@
 #include "testcase.h"
 
 #include <QFile>
+#include <QPainter>
 #include <QSignalSpy>
+#include <QSvgRenderer>
 #include <QTest>
 
 class TestButtonFaces : public TestCase
@@ -20,6 +22,9 @@ private Q_SLOTS:
     void identifyButtonShowsItsIcon();
     void svgButtonClicks();
     void svgButtonShowsItsIconAndAGroundWhileHeld();
+    void svgButtonLooksAsItsFileOnALightDesktop();
+    void svgButtonIsInTheColorOfTexts();
+    void svgButtonDiffersFromItsGroundWhateverTheColorOfTexts();
     void tesselButtonChecksOnEveryRelease();
     void tesselButtonPaintsAPlusSignWhileChecked();
     void setCheckedDoesNotClick();
@@ -38,6 +43,11 @@ const QColor red(0xCC, 0x33, 0x33);
 QString identifyIcon()
 {
     return QStringLiteral(":/image/icon_identify_bk.svg");
+}
+
+QString pencilIcon()
+{
+    return QStringLiteral(":/image/icon_edit_24.svg");
 }
 
 QImage picture(QWidget& widget)
@@ -119,6 +129,43 @@ void TestButtonFaces::svgButtonShowsItsIconAndAGroundWhileHeld()
     QCOMPARE(picture(button).pixelColor(0, 0), QColor(Qt::lightGray));
     QTest::mouseRelease(&button, Qt::LeftButton);
     QCOMPARE(picture(button), idle);
+}
+
+void TestButtonFaces::svgButtonLooksAsItsFileOnALightDesktop()
+{
+    SvgButton button(pencilIcon());
+    QPixmap icon(button.size());
+    icon.fill(Qt::transparent);
+    QPainter iconPainter(&icon);
+    QSvgRenderer(pencilIcon()).render(&iconPainter, QRectF(button.rect()));
+    iconPainter.end();
+    QPixmap expected(button.size());
+    expected.fill(button.palette().color(QPalette::Window));
+    QPainter(&expected).drawPixmap(QPoint(), icon);
+    QCOMPARE(picture(button), expected.toImage());
+}
+
+void TestButtonFaces::svgButtonIsInTheColorOfTexts()
+{
+    SvgButton button(pencilIcon());
+    QPalette colors(Qt::black);
+    colors.setColor(QPalette::Text, Qt::yellow);
+    button.setPalette(colors);
+    const QImage image = picture(button);
+    bool found = false;
+    for (int i = 0; i < image.width(); ++i) {
+        found = found || image.pixelColor(i, i) == QColor(Qt::yellow);
+    }
+    QVERIFY(found);
+}
+
+void TestButtonFaces::svgButtonDiffersFromItsGroundWhateverTheColorOfTexts()
+{
+    SvgButton button(pencilIcon());
+    QPalette colors(Qt::black);
+    colors.setColor(QPalette::Text, Qt::black);
+    button.setPalette(colors);
+    QVERIFY(hasColorOtherThan(picture(button), colors.color(QPalette::Window)));
 }
 
 void TestButtonFaces::tesselButtonChecksOnEveryRelease()

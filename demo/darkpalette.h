@@ -1,0 +1,6 @@
+#pragma once
+
+class QPalette;
+
+/// The colours of a dark desktop.
+QPalette darkPalette();
