@@ -1,6 +1,7 @@
 #include "contrast.h"
 #include "darkpalette.h"
 #include "devicequeries.h"
+#include "hands.h"
 #include "layoutqueries.h"
 #include "mainwindow.h"
 #include "pagefixtures.h"
@@ -260,7 +261,7 @@ void TestDesktopColors::thePencilIsSeenInEveryRow()
     start();
     const Wizard wizard(3);
     QTreeWidget* table = wizard.peripherals();
-    clickRow(table, 0);
+    Hands::clickRow(table->topLevelItem(0));
     change();
     const QList<SvgButton*> pencils = table->findChildren<SvgButton*>();
     QCOMPARE(pencils.size(), table->topLevelItemCount());
