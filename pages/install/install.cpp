@@ -233,7 +233,8 @@ QStringList Install::missing() const
 
 QString Install::note() const
 {
-    if (const QTreeWidgetItem* current = m_hubTable->currentItem()) {
+    const QTreeWidgetItem* current = m_hubTable->currentItem();
+    if (current != nullptr && !noteOf(current).isEmpty()) {
         return noteOf(current);
     }
     for (int index = 0; index < m_hubTable->topLevelItemCount(); ++index) {

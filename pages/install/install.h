@@ -42,9 +42,9 @@ public:
     /// While nothing can be installed, what is missing for it.
     QStringList missing() const override;
 
-    /// What is to be said of the current hub, or of the first one that there is something to say
-    /// of while none is current: the reason of its "Error", or what it refused although it is
-    /// "Done". Empty when all is well.
+    /// What is to be said of the current hub or, when that is nothing, of the first one that there
+    /// is something to say of: the reason of its "Error", or what it refused although it is "Done".
+    /// Empty when all is well.
     QString note() const;
 
 Q_SIGNALS:

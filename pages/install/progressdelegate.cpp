@@ -18,11 +18,10 @@ QColor mixed(const QColor& one, const QColor& other, double part)
                             mix(one.blueF(), other.blueF()));
 }
 
-/// The bar's colour up to `part` of the cell, the ground's behind it.
-QBrush barBrush(const QColor& bar, const QColor& ground, double part)
+/// The bar's colour up to `part` of a cell from `left` to `right`, the ground's behind it.
+QBrush barBrush(const QColor& bar, const QColor& ground, double part, int left, int right)
 {
-    QLinearGradient gradient(0, 0, 1, 0);
-    gradient.setCoordinateMode(QGradient::ObjectMode);
+    QLinearGradient gradient(left, 0, right, 0);
     gradient.setColorAt(0, bar);
     gradient.setColorAt(part, bar);
     gradient.setColorAt(std::min(1.0, part + 0.001), ground);
@@ -44,10 +43,12 @@ void ProgressDelegate::initStyleOption(QStyleOptionViewItem* option, const QMode
     const QColor text = palette.color(QPalette::Text);
     const QColor base = palette.color(QPalette::Base);
     const QColor highlight = palette.color(QPalette::Highlight);
+    const QRect& cell = option->rect;
+    // Styles lay the ground from the cell's corner, and the selection from the list's.
     option->backgroundBrush =
-        barBrush(readableGround(mixed(base, highlight, accent), text), base, done);
+        barBrush(readableGround(mixed(base, highlight, accent), text), base, done, 0, cell.width());
     const QColor selectedText = palette.color(QPalette::HighlightedText);
-    palette.setBrush(
-        QPalette::Highlight,
-        barBrush(readableGround(mixed(highlight, text, accent), selectedText), highlight, done));
+    palette.setBrush(QPalette::Highlight,
+                     barBrush(readableGround(mixed(highlight, text, accent), selectedText),
+                              highlight, done, cell.left(), cell.right() + 1));
 }
