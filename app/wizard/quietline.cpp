@@ -39,6 +39,9 @@ QuietLine::QuietLine(QWidget* parent)
 
 void QuietLine::say(const QStringList& sentences)
 {
+    const qsizetype more = sentences.size() - 1;
+    const QString first = sentences.value(0);
     // A label whose text changes tells screen readers of its new name by itself.
-    setText(sentences.join(u' '));
+    setText(more > 0 ? tr("%1 And %2 more.").arg(first, QString::number(more)) : first);
+    setToolTip(more > 0 ? sentences.join(u'\n') : QString());
 }

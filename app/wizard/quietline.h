@@ -13,6 +13,7 @@ class QuietLine : public QLabel
 public:
     explicit QuietLine(QWidget* parent);
 
-    /// Shows `sentences` one after the other; none empties the line.
+    /// Shows the first of `sentences` and how many more there are, which the tool tip tells; none
+    /// empties the line.
     void say(const QStringList& sentences);
 };
