@@ -12,31 +12,42 @@
 
 namespace {
 
+bool put(FILE* stream, const QString& text)
+{
+    return std::fputs(text.toLocal8Bit().constData(), stream) >= 0 && std::fflush(stream) == 0;
+}
+
 #ifdef Q_OS_WIN
 
 // Here a program with windows has no streams, but for those that its starter led into a file or
-// another program. The others are led to the console that it was started from.
-void open(FILE* stream)
+// another program. What would go to the others goes to the console that it was started from. It is
+// let go again at once: whoever closes that console, or presses Ctrl+C in it, ends what is
+// attached.
+bool write(FILE* stream, const QString& text)
 {
     if (::_fileno(stream) >= 0) {
-        return;
+        return put(stream, text);
     }
-    if (::AttachConsole(ATTACH_PARENT_PROCESS) || ::GetLastError() == ERROR_ACCESS_DENIED) {
-        [[maybe_unused]] const FILE* opened = std::freopen("CONOUT$", "w", stream);
+    const bool attached = ::AttachConsole(ATTACH_PARENT_PROCESS) != 0;
+    FILE* console = std::fopen("CONOUT$", "w");
+    const bool written = console != nullptr && put(console, text);
+    if (console != nullptr) {
+        std::fclose(console);
     }
+    if (attached) {
+        ::FreeConsole();
+    }
+    return written;
 }
 
 #else
 
-void open(FILE* /*stream*/) {}
-
-#endif
-
 bool write(FILE* stream, const QString& text)
 {
-    open(stream);
-    return std::fputs(text.toLocal8Bit().constData(), stream) >= 0 && std::fflush(stream) == 0;
+    return put(stream, text);
 }
+
+#endif
 
 } // namespace
 

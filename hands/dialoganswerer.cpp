@@ -26,10 +26,36 @@ QList<DialogAnswerer*>& answerers()
     return list;
 }
 
-/// The dialogs that are open and have had their answer.
-QList<QPointer<QObject>>& dialogsDone()
+/// The dialogs that are open and have had their answer, whoever gave it and whether or not that
+/// answerer is still there. The same dialog object may come up again, after a wrong password for
+/// one: then it has not had its answer yet.
+class DialogsDone : public QObject
 {
-    static QList<QPointer<QObject>> list;
+public:
+    bool contains(const QObject* dialog) const { return m_dialogs.contains(dialog); }
+
+    void add(QObject* dialog)
+    {
+        m_dialogs.append(dialog);
+        dialog->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Hide) {
+            m_dialogs.removeOne(watched);
+            watched->removeEventFilter(this);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QList<QPointer<QObject>> m_dialogs;
+};
+
+DialogsDone& dialogsDone()
+{
+    static DialogsDone list;
     return list;
 }
 
@@ -146,8 +172,7 @@ void DialogAnswerer::refuse(QWidget* dialog)
 
 void DialogAnswerer::take(QWidget* dialog)
 {
-    dialogsDone().append(dialog);
-    dialog->installEventFilter(this);
+    dialogsDone().add(dialog);
     // While a timer's event is being handled it does not fire again, also not in the event loop of
     // another dialog that comes up meanwhile and wants its answer first: so a new timer goes on.
     m_timer.start(m_lookEveryMs, this);
@@ -165,16 +190,6 @@ void DialogAnswerer::note(const QWidget* dialog)
         m_buttons.append(button->text().remove(u'&'));
     }
     m_buttons.sort();
-}
-
-bool DialogAnswerer::eventFilter(QObject* watched, QEvent* event)
-{
-    // The same dialog object may come up again, after a wrong password for one.
-    if (event->type() == QEvent::Hide) {
-        dialogsDone().removeOne(watched);
-        watched->removeEventFilter(this);
-    }
-    return QObject::eventFilter(watched, event);
 }
 
 DialogAnswerer::Answer pressing(QAnyStringView button)

@@ -47,7 +47,6 @@ public:
 
 protected:
     void timerEvent(QTimerEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     struct Known

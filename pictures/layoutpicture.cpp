@@ -1,6 +1,7 @@
 #include "layoutpicture.h"
 
 #include "gridcolor.h"
+#include "records.h"
 #include "roomarea.h"
 #include "roomcolor.h"
 
@@ -38,9 +39,14 @@ void LayoutPicture::setGroups(const QList<QList<int>>& groups)
         room->color = ownColor(room.key());
     }
     for (const QList<int>& group : groups) {
+        // Rooms beyond those that have a colour look like the last one that has.
+        int lowest = RoomInfo::maxRooms;
+        for (const int number : group) {
+            lowest = std::min(lowest, number);
+        }
         for (const int number : group) {
             if (m_rooms.contains(number)) {
-                m_rooms[number].color = ownColor(*std::min_element(group.begin(), group.end()));
+                m_rooms[number].color = ownColor(lowest);
             }
         }
     }

@@ -37,8 +37,8 @@ struct InstallProgress
     bool operator==(const InstallProgress&) const = default;
 };
 
-/// How the installation of one hub ended. A value for every run, whoever drives it; the words for
-/// it are up to whoever shows it.
+/// How the installation of one hub ended. A value for every run, whoever drives it; its words
+/// are in installwords.h.
 struct InstallOutcome
 {
     /// Everything is installed. There may be trouble all the same: a hub that refuses to recall

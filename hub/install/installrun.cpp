@@ -9,6 +9,7 @@
 
 #include <QDebug>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <utility>
@@ -213,7 +214,7 @@ InstallRun::Request InstallRun::hubFileRequest()
 
 InstallMove InstallRun::afterHubFile(const QString& /*reply*/)
 {
-    ++m_progress.filesStored;
+    countFile();
     const auto devices = peripheralsOfHub(*m_doc, m_ipAddress, m_presetNumber);
     m_devices = devices.value_or(QStringList());
     m_deviceIndex = 0;
@@ -239,7 +240,7 @@ InstallRun::Request InstallRun::peripheralFileRequest()
 InstallMove InstallRun::afterPeripheralFile(const QString& /*reply*/)
 {
     ++m_deviceIndex;
-    ++m_progress.filesStored;
+    countFile();
     return m_deviceIndex < m_devices.size() ? InstallMove::Send : goToNextPreset();
 }
 
@@ -292,6 +293,13 @@ int InstallRun::filesOfAllPresets() const
             1 + int(peripheralsOfHub(*m_doc, m_ipAddress, preset).value_or(QStringList()).size());
     }
     return files;
+}
+
+/// A device that was put back into a set meanwhile makes one file more than there were to be.
+void InstallRun::countFile()
+{
+    ++m_progress.filesStored;
+    m_progress.filesToStore = std::max(m_progress.filesToStore, m_progress.filesStored);
 }
 
 QString InstallRun::takeDigest()

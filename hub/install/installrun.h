@@ -84,6 +84,7 @@ private:
     InstallMove goTo(InstallStep step, InstallMove move = InstallMove::Send);
     InstallMove goToNextPreset();
     int filesOfAllPresets() const;
+    void countFile();
     QString takeDigest();
     QString logPrefix() const;
 

@@ -32,7 +32,16 @@ InitialPasswordDialog::InitialPasswordDialog(QWidget* parent, const QString& ipA
     setHeight(dialogHeight);
     connect(passwordEdit(), SIGNAL(textChanged(QString)), this, SLOT(passwordChanged()));
     connect(m_confirmationEdit, SIGNAL(textChanged(QString)), this, SLOT(passwordChanged()));
+    connect(passwordEdit(), SIGNAL(textEdited(QString)), this, SLOT(passwordEdited()));
     passwordChanged();
+}
+
+/// Another password than the one that was refused.
+void InitialPasswordDialog::passwordEdited()
+{
+    if (isRefused()) {
+        setRefused(false);
+    }
 }
 
 void InitialPasswordDialog::passwordChanged()

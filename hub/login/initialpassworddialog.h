@@ -20,6 +20,7 @@ protected:
 
 private Q_SLOTS:
     void passwordChanged();
+    void passwordEdited();
 
 private:
     void restrictPassword();

@@ -40,7 +40,7 @@ Q_SIGNALS:
     /// The set has become valid or stopped being so.
     void deviceRemoveStatusChanged();
 
-    /// faults() may be others, whether or not there still are any.
+    /// There were faults and still are, but others.
     void faultsChanged();
 
 public Q_SLOTS:

@@ -166,10 +166,10 @@ void Install::presetSendFinished(const QString& ipAddress, int status)
 void Install::senderProgressed(const QString& ipAddress)
 {
     const PresetFileSender* sender = m_senders.value(ipAddress);
-    const InstallProgress progress = sender->progress();
-    if (!sender->isRunning() || progress.filesToStore == 0) {
+    if (sender == nullptr || !sender->isRunning() || sender->progress().filesToStore == 0) {
         return;
     }
+    const InstallProgress progress = sender->progress();
     explainStatus(ipAddress, progressWords(progress));
     for (QTreeWidgetItem* row : m_hubTable->rowsOf(ipAddress)) {
         row->setData(StatusColumn, ProgressDelegate::partRole,
@@ -205,12 +205,13 @@ void Install::setStatus(const QString& ipAddress, const QString& text)
 /// A reason takes the place of what was told of the progress; without one nothing is told.
 void Install::setReason(const QString& ipAddress, const QString& reason)
 {
+    const bool isNew = m_reasons.value(ipAddress) != reason;
     m_reasons.insert(ipAddress, reason);
     explainStatus(ipAddress, reason);
     for (QTreeWidgetItem* row : m_hubTable->rowsOf(ipAddress)) {
         row->setData(StatusColumn, ProgressDelegate::partRole, QVariant());
     }
-    if (!reason.isEmpty()) {
+    if (isNew && !reason.isEmpty()) {
         qDebug().noquote() << ipAddress + QStringLiteral(": ") + reason;
     }
     Q_EMIT noteChanged();

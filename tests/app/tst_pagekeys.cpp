@@ -89,13 +89,9 @@ void TestPageKeys::aKeyThatIsHeldTurnsOnePage()
     const Wizard wizard;
     for (const bool repeated : {false, true, true, true}) {
         QKeyEvent event(QEvent::KeyPress, Qt::Key_Right, Qt::AltModifier, QString(), repeated);
-        if (!QCoreApplication::sendEvent(wizard.window.get(), &event)) {
-            continue;
-        }
+        QCoreApplication::sendEvent(wizard.window.get(), &event);
     }
-    QTest::simulateEvent(wizard.window.get(), false, Qt::Key_Right, Qt::AltModifier, QString(),
-                         false);
-    QVERIFY(wizard.page() <= 2);
+    QCOMPARE(wizard.page(), 2);
 }
 
 void TestPageKeys::aDisabledNextStaysWhereItIs()

@@ -13,6 +13,7 @@ private Q_SLOTS:
     void aDialogIsAnsweredByItsNameOrItsTitle();
     void whatAMessageBoxSaidIsKept();
     void aDialogShownAgainIsAnsweredAgain();
+    void aDialogWhoseAnswererWentBeforeItClosedIsAnsweredByTheNext();
     void aDialogStaysOpenUntilItIsReady();
     void anAnswerMayOpenADialogThatIsAnsweredToo();
     void theYoungestThatKnowsADialogAnswersIt();
@@ -74,6 +75,24 @@ void TestDialogAnswerer::aDialogShownAgainIsAnsweredAgain()
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
     QCOMPARE(answerer.answered("Title"), 2);
+}
+
+void TestDialogAnswerer::aDialogWhoseAnswererWentBeforeItClosedIsAnsweredByTheNext()
+{
+    QDialog dialog;
+    dialog.setWindowTitle(QStringLiteral("Title"));
+    dialog.setModal(true);
+    {
+        DialogAnswerer first;
+        first.onDialog("Title", [](QWidget*) {});
+        dialog.show();
+        QTRY_COMPARE(first.answered("Title"), 1);
+    }
+    dialog.hide();
+    DialogAnswerer second;
+    second.onDialog("Title", accept);
+    dialog.show();
+    QTRY_COMPARE(second.answered("Title"), 1);
 }
 
 void TestDialogAnswerer::aDialogStaysOpenUntilItIsReady()

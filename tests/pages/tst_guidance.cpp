@@ -1,4 +1,3 @@
-#include "dialoganswerer.h"
 #include "fakecontroller.h"
 #include "pageconfigure.h"
 #include "pagecreatescene.h"

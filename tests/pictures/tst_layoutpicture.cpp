@@ -13,6 +13,7 @@ class TestLayoutPicture : public TestCase
 private Q_SLOTS:
     void aRoomIsOneAreaInItsColour();
     void combinedRoomsTakeTheColourOfTheLowest();
+    void roomsBeyondTheColouredOnesLookLikeTheLastWhenCombined();
     void roomsThatPartGetTheirColoursBack();
     void numbersAreWrittenInWhite();
     void aPositionTellsItsRoom();
@@ -68,6 +69,17 @@ void TestLayoutPicture::combinedRoomsTakeTheColourOfTheLowest()
     QCOMPARE(colorOf(1, image), roomColor(1, Qt::black));
     QCOMPARE(colorOf(2, image), roomColor(2, Qt::black));
     QCOMPARE(colorOf(3, image), roomColor(2, Qt::black));
+}
+
+void TestLayoutPicture::roomsBeyondTheColouredOnesLookLikeTheLastWhenCombined()
+{
+    LayoutPicture picture = threeRooms();
+    picture.setRoom(5, {{4, 0}});
+    picture.setRoom(6, {{5, 0}});
+    picture.setGroups({{5, 6}});
+    const QImage image = painted(picture);
+    QCOMPARE(colorOf(5, image), roomColor(4, Qt::black));
+    QCOMPARE(colorOf(6, image), roomColor(4, Qt::black));
 }
 
 void TestLayoutPicture::roomsThatPartGetTheirColoursBack()

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void screenReadersAreToldWhatIsMissing();
     void screenReadersAreToldOfEachChange();
     void screenReadersAreToldOfARefusal();
+    void anotherPasswordIsNotSaidToBeRefused();
     void theNextPromptDoesNotRememberHowTheTextsWereTyped();
     void nothingIsCutOff();
     void labelsAndTabOrderFollowReading();
@@ -310,6 +311,18 @@ void TestInitialPasswordDialog::screenReadersAreToldOfEachChange()
     QTest::keyClicks(f.confirmation, QStringLiteral("abcd"));
     // First not equal, in the end equal.
     QCOMPARE(Announcements::count(f.confirmation, QAccessible::DescriptionChanged), 2);
+}
+
+void TestInitialPasswordDialog::anotherPasswordIsNotSaidToBeRefused()
+{
+    Fixture f;
+    f.password->setText(QStringLiteral("refused1"));
+    f.dialog.setRefused(true);
+    f.dialog.show(); // which sets the fields anew
+    QVERIFY(f.password->accessibleDescription().contains(QLatin1String("did not take")));
+    QTest::keyClick(f.password, Qt::Key_2);
+    QVERIFY(!f.password->accessibleDescription().contains(QLatin1String("did not take")));
+    QCOMPARE(f.dialog.accessibleDescription(), QString());
 }
 
 void TestInitialPasswordDialog::screenReadersAreToldOfARefusal()
