@@ -239,7 +239,7 @@ QString Install::note() const
         return noteOf(current);
     }
     for (int index = 0; index < m_hubTable->topLevelItemCount(); ++index) {
-        const QString note = noteOf(m_hubTable->topLevelItem(index));
+        QString note = noteOf(m_hubTable->topLevelItem(index));
         if (!note.isEmpty()) {
             return note;
         }
