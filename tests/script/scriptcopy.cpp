@@ -2,12 +2,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 
 namespace {
 
-constexpr int patience = 30000; // milliseconds
+constexpr int patienceMs = 30000;
 
 QDir scripts()
 {
@@ -64,6 +65,16 @@ void ScriptCopy::givePackages(bool installed)
          QStringLiteral("echo \"$DEBIAN_FRONTEND|$*|$(cat)\" >>\"$LOG\""));
 }
 
+void ScriptCopy::leave(const QString& path, const QByteArray& content) const
+{
+    const QFileInfo place(m_checkout.filePath(path));
+    QDir().mkpath(place.path());
+    QFile file(place.filePath());
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(content);
+    }
+}
+
 ScriptRun ScriptCopy::run(const QString& script, const QStringList& arguments,
                           QProcessEnvironment environment) const
 {
@@ -75,7 +86,7 @@ ScriptRun ScriptCopy::run(const QString& script, const QStringList& arguments,
     process.start(m_checkout.filePath(QStringLiteral("script/") + script), arguments);
     process.write("an answer to a question\n");
     process.closeWriteChannel();
-    if (!process.waitForFinished(patience)) {
+    if (!process.waitForFinished(patienceMs)) {
         return {};
     }
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),

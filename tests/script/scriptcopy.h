@@ -31,6 +31,9 @@ public:
     /// its frontend, its arguments and what it could read.
     void givePackages(bool installed);
 
+    /// Leaves a file in the checkout, as an earlier call may have done.
+    void leave(const QString& path, const QByteArray& content) const;
+
     /// Runs a script to its end, without a terminal; its environment is `environment` and what it
     /// takes to find the programs.
     ScriptRun run(const QString& script, const QStringList& arguments,

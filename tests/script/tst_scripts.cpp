@@ -13,6 +13,34 @@ QStringList words(const char* text)
     return QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts);
 }
 
+/// Whether a log tells of one update and one installation, which read nothing.
+bool installedWithoutAQuestion(const QString& log)
+{
+    const QStringList calls = log.split(u'\n', Qt::SkipEmptyParts);
+    return calls.size() == 2 && calls.first() == u"noninteractive|update -q|" &&
+           calls.last().startsWith(u"noninteractive|install -q -y ") && calls.last().endsWith(u'|');
+}
+
+/// What script/build asks of CMake in a folder that was configured as strict as `earlier` says;
+/// where that is empty, in none.
+QString cmakeCallsOfBuild(const QString& preset, const QString& asked, const QString& earlier)
+{
+    ScriptCopy copy;
+    copy.givePackages(true);
+    copy.give(QStringLiteral("cmake"), QStringLiteral("echo \"cmake $*\" >>\"$LOG\""));
+    if (!earlier.isEmpty()) {
+        copy.leave(QStringLiteral("build/%1/build.ninja").arg(preset), {});
+        copy.leave(QStringLiteral("build/%1/CMakeCache.txt").arg(preset),
+                   "TESSEL_WERROR:BOOL=" + earlier.toUtf8() + '\n');
+    }
+    QProcessEnvironment environment;
+    if (!asked.isEmpty()) {
+        environment.insert(QStringLiteral("TESSEL_WERROR"), asked);
+    }
+    const ScriptRun run = copy.run(QStringLiteral("build"), {preset}, environment);
+    return run.exitCode == 0 ? copy.log() : run.errors;
+}
+
 } // namespace
 
 /// The scripts, with programs that only say that they were called.
@@ -37,7 +65,10 @@ private Q_SLOTS:
     void demoBuildsNothingThatItCouldNotPlay();
     void demoBuildsWhatItPlays();
     void demoKeepsWhatAPersonSaved();
-    void buildTakesWarningsAsErrorsOnDemand();
+    void buildIsAsStrictAsItIsAskedToBe_data();
+    void buildIsAsStrictAsItIsAskedToBe();
+    void buildForgetsHowStrictAnEarlierOneWas();
+    void buildDoesNotConfigureTwice();
 };
 
 void TestScripts::everyScriptSaysWhatItIsForAndStartsNothing_data()
@@ -116,11 +147,7 @@ void TestScripts::rootInstallsWithoutAQuestion()
     copy.give(QStringLiteral("id"), QStringLiteral("echo 0"));
     const ScriptRun run = copy.run(bootstrap, {});
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
-    const QStringList calls = copy.log().split(u'\n', Qt::SkipEmptyParts);
-    QCOMPARE(calls.size(), 2);
-    QCOMPARE(calls.first(), QStringLiteral("noninteractive|update -q|"));
-    QVERIFY(calls.last().startsWith(u"noninteractive|install -q -y "));
-    QVERIFY(calls.last().endsWith(u'|'));
+    QVERIFY2(installedWithoutAQuestion(copy.log()), qPrintable(copy.log()));
 }
 
 void TestScripts::sudoInstallsWithoutAQuestion()
@@ -130,11 +157,7 @@ void TestScripts::sudoInstallsWithoutAQuestion()
     copy.giveUser(true);
     const ScriptRun run = copy.run(bootstrap, {});
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
-    const QStringList calls = copy.log().split(u'\n', Qt::SkipEmptyParts);
-    QCOMPARE(calls.size(), 2);
-    QCOMPARE(calls.first(), QStringLiteral("noninteractive|update -q|"));
-    QVERIFY(calls.last().startsWith(u"noninteractive|install -q -y "));
-    QVERIFY(calls.last().endsWith(u'|'));
+    QVERIFY2(installedWithoutAQuestion(copy.log()), qPrintable(copy.log()));
 }
 
 void TestScripts::checkersComeWithTheirChecks_data()
@@ -253,7 +276,7 @@ void TestScripts::demoBuildsWhatItPlays()
                                                       "[ \"$1\" != --build ]"));
     const ScriptRun run = copy.run(QStringLiteral("demo"), {});
     QVERIFY(run.output.section(u'\n', 0, 0).contains(u"minutes"));
-    QCOMPARE(copy.log(), QStringLiteral("cmake --preset release\n"
+    QCOMPARE(copy.log(), QStringLiteral("cmake --preset release -DTESSEL_WERROR=OFF\n"
                                         "cmake --build --preset release "
                                         "--target tessel tessel-demo tessel-hall\n"));
 }
@@ -282,17 +305,43 @@ void TestScripts::demoKeepsWhatAPersonSaved()
     QCOMPARE(copy.log(), QStringLiteral("saved\n"));
 }
 
-void TestScripts::buildTakesWarningsAsErrorsOnDemand()
+void TestScripts::buildIsAsStrictAsItIsAskedToBe_data()
 {
-    ScriptCopy copy;
-    copy.givePackages(true);
-    QProcessEnvironment environment;
-    environment.insert(QStringLiteral("TESSEL_WERROR"), QStringLiteral("ON"));
-    copy.give(QStringLiteral("cmake"), QStringLiteral("echo \"cmake $*\" >>\"$LOG\""));
-    const ScriptRun run = copy.run(QStringLiteral("build"), {}, environment);
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(copy.log(), QStringLiteral("cmake --preset release -DTESSEL_WERROR=ON\n"
-                                        "cmake --build --preset release\n"));
+    QTest::addColumn<QString>("preset");
+    QTest::addColumn<QString>("asked");
+    QTest::addColumn<QString>("strict");
+    QTest::newRow("release shows warnings") << "release" << QString() << "OFF";
+    QTest::newRow("release on demand") << "release"
+                                       << "ON"
+                                       << "ON";
+    QTest::newRow("dev takes them as errors") << "dev" << QString() << "ON";
+    QTest::newRow("dev whatever is asked") << "dev"
+                                           << "OFF"
+                                           << "ON";
+}
+
+void TestScripts::buildIsAsStrictAsItIsAskedToBe()
+{
+    QFETCH(const QString, preset);
+    QFETCH(const QString, asked);
+    QFETCH(const QString, strict);
+    QCOMPARE(cmakeCallsOfBuild(preset, asked, QString()),
+             QStringLiteral("cmake --preset %1 -DTESSEL_WERROR=%2\n"
+                            "cmake --build --preset %1\n")
+                 .arg(preset, strict));
+}
+
+void TestScripts::buildForgetsHowStrictAnEarlierOneWas()
+{
+    QCOMPARE(cmakeCallsOfBuild(QStringLiteral("release"), {}, QStringLiteral("ON")),
+             QStringLiteral("cmake --preset release -DTESSEL_WERROR=OFF\n"
+                            "cmake --build --preset release\n"));
+}
+
+void TestScripts::buildDoesNotConfigureTwice()
+{
+    QCOMPARE(cmakeCallsOfBuild(QStringLiteral("release"), {}, QStringLiteral("OFF")),
+             QStringLiteral("cmake --build --preset release\n"));
 }
 
 TESSEL_TEST_MAIN(TestScripts)
