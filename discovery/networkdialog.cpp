@@ -23,9 +23,22 @@ enum Column
     MaskColumn
 };
 
-bool isArrow(int key)
+/// The row where a key begins while none is selected; null for keys that lead to no row.
+QTreeWidgetItem* beginning(const QTreeWidget& list, int key)
 {
-    return key == Qt::Key_Up || key == Qt::Key_Down;
+    switch (key) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        return list.currentItem();
+    case Qt::Key_Home:
+    case Qt::Key_PageUp:
+        return list.topLevelItem(0);
+    case Qt::Key_End:
+    case Qt::Key_PageDown:
+        return list.topLevelItem(list.topLevelItemCount() - 1);
+    default:
+        return nullptr;
+    }
 }
 
 } // namespace
@@ -73,11 +86,13 @@ int NetworkDialog::selectedIndex() const
 
 bool NetworkDialog::eventFilter(QObject* watched, QEvent* event)
 {
-    // An arrow key would step past the row that it begins at, and find no way on from the only one.
-    if (event->type() == QEvent::KeyPress && isArrow(static_cast<QKeyEvent*>(event)->key()) &&
-        m_nicList->currentItem() && m_nicList->selectedItems().isEmpty()) {
-        m_nicList->currentItem()->setSelected(true);
-        return true;
+    // A key would step past the row that it begins at, and find no way on from the only one.
+    if (event->type() == QEvent::KeyPress && m_nicList->selectedItems().isEmpty()) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (QTreeWidgetItem* row = beginning(*m_nicList, key)) {
+            m_nicList->setCurrentItem(row);
+            return true;
+        }
     }
     return QDialog::eventFilter(watched, event);
 }

@@ -84,7 +84,7 @@ void CreatePreset::addNameFields()
         PresetNameEdit* field = nameField(m_groups.at(index));
         m_groupList->setItemWidget(m_groupList->topLevelItem(int(index)), NameColumn, field);
         // Fields made after the page's buttons would be reached after them.
-        setTabOrder(previous, field);
+        m_groupList->chain(previous, field);
         previous = field;
         m_nameFields.append(field);
     }

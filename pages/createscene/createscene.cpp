@@ -1,9 +1,9 @@
 #include "createscene.h"
 
 #include "focusedcelldelegate.h"
-#include "focusedrow.h"
 #include "layoutqueries.h"
 #include "roomqueries.h"
+#include "rowlist.h"
 #include "sceneitem.h"
 #include "tessel.h"
 #include "textlabel.h"
@@ -12,7 +12,6 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
 namespace {
@@ -139,7 +138,7 @@ void CreateScene::createWidgets()
     m_tessel->setObjectName(QStringLiteral("tessel"));
     m_addButton = new QPushButton(tr("Add Layout"), this);
     m_addButton->setObjectName(QStringLiteral("addLayoutButton"));
-    m_list = new QTreeWidget(this);
+    m_list = new RowList(this);
     m_list->setObjectName(QStringLiteral("layoutList"));
     m_list->setAccessibleName(tr("Room layouts"));
     m_list->setHeaderLabels({tr("No."), tr("Layout")});
@@ -147,7 +146,6 @@ void CreateScene::createWidgets()
     m_list->setItemDelegate(new FocusedCellDelegate(m_list));
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setColumnWidth(NumberColumn, numberWidth);
-    m_focusedRow = new FocusedRow(m_list);
 }
 
 void CreateScene::buildLayout()
@@ -209,8 +207,7 @@ void CreateScene::appendRow(const SceneInfo& layout)
     auto* item = new SceneItem(layout.thumbnail, layout.roomGroup);
     connect(item, SIGNAL(removeClicked()), this, SLOT(removeButtonClicked()));
     m_list->setItemWidget(row, LayoutColumn, item);
-    setTabOrder(above, item->tabStop());
-    m_focusedRow->watch(item->tabStop());
+    m_list->chain(above, item->tabStop());
     m_rows.insert(item, row);
 }
 

@@ -4,10 +4,9 @@
 
 #include <QMap>
 
-class FocusedRow;
 class QPushButton;
-class QTreeWidget;
 class QTreeWidgetItem;
+class RowList;
 class SceneItem;
 class Tessel;
 struct SceneInfo;
@@ -49,7 +48,6 @@ private:
 
     Tessel* m_tessel;
     QPushButton* m_addButton = nullptr;
-    QTreeWidget* m_list = nullptr;
-    FocusedRow* m_focusedRow = nullptr;
+    RowList* m_list = nullptr;
     QMap<SceneItem*, QTreeWidgetItem*> m_rows;
 };

@@ -8,6 +8,7 @@
 #include "devicetable.h"
 #include "roomcombo.h"
 #include "roomeditor.h"
+#include "roomkeys.h"
 #include "roomqueries.h"
 #include "roomsummary.h"
 #include "textlabel.h"
@@ -183,6 +184,7 @@ DeviceTable* DeviceLocation::createTable(const QString& name, const QString& acc
     table->setItemDelegateForColumn(DeviceTable::LabelColumn, new DeviceLabelDelegate(table));
     table->setColumnWidth(DeviceTable::LabelColumn, labelWidth);
     table->setColumnWidth(DeviceTable::IdentifyColumn, identifyWidth);
+    new RoomKeys(table, RoomColumn);
     connect(table, SIGNAL(identifyClicked(QString)), this, SLOT(identifyButtonClicked(QString)));
     connect(table, SIGNAL(itemDoubleClicked(QTreeWidgetItem*, int)), this,
             SLOT(devItemDoubleClicked(QTreeWidgetItem*, int)));
@@ -229,6 +231,7 @@ void DeviceLocation::fill(DeviceTable* table, const QList<DeviceEntry>& devices,
                           const QHash<QString, int>& roomOfAddress)
 {
     const QStringList choices = RoomCombo::choices(m_rooms);
+    const QString keys = RoomKeys::explanation(m_rooms);
     QList<QStringList> rows;
     for (const DeviceEntry& device : devices) {
         rows.append({device.label, QString(), device.modelName, device.ipAddress});
@@ -236,6 +239,8 @@ void DeviceLocation::fill(DeviceTable* table, const QList<DeviceEntry>& devices,
     table->setRows(rows, [&](QTreeWidgetItem* item) {
         auto* combo = new RoomCombo(choices);
         combo->setRoom(roomOfAddress.value(table->addressOf(item)));
+        combo->setToolTip(keys);
+        combo->setAccessibleDescription(keys);
         m_rows.append(decorate(table, item, combo));
     });
 }

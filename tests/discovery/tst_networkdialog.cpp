@@ -28,8 +28,8 @@ private Q_SLOTS:
     void cancelAndEscapeReject();
     void theKeyboardAloneChoosesAndAccepts();
     void theKeyboardChoosesTheOnlyRow();
-    void arrowKeysBeginAtTheFirstRow_data();
-    void arrowKeysBeginAtTheFirstRow();
+    void keysBeginAmongTheRowsOnOffer_data();
+    void keysBeginAmongTheRowsOnOffer();
     void returnPressesTheButtonThatHasTheFocus();
     void anEmptyListSaysWhyItIsEmpty();
     void nothingIsClippedAtTheLeastSize();
@@ -268,20 +268,30 @@ void TestNetworkDialog::theKeyboardChoosesTheOnlyRow()
     QCOMPARE(shown.dialog.result(), int(QDialog::Accepted));
 }
 
-void TestNetworkDialog::arrowKeysBeginAtTheFirstRow_data()
+void TestNetworkDialog::keysBeginAmongTheRowsOnOffer_data()
 {
     QTest::addColumn<qsizetype>("rows");
     QTest::addColumn<Qt::Key>("key");
-    QTest::newRow("Down among two") << qsizetype(2) << Qt::Key_Down;
-    QTest::newRow("Up among two") << qsizetype(2) << Qt::Key_Up;
-    QTest::newRow("Down where there is only one") << qsizetype(1) << Qt::Key_Down;
-    QTest::newRow("Up where there is only one") << qsizetype(1) << Qt::Key_Up;
+    QTest::addColumn<int>("chosen");
+    QTest::newRow("Down among two") << qsizetype(2) << Qt::Key_Down << 4;
+    QTest::newRow("Up among two") << qsizetype(2) << Qt::Key_Up << 4;
+    QTest::newRow("Home among two") << qsizetype(2) << Qt::Key_Home << 4;
+    QTest::newRow("Page Up among two") << qsizetype(2) << Qt::Key_PageUp << 4;
+    QTest::newRow("End among two") << qsizetype(2) << Qt::Key_End << 7;
+    QTest::newRow("Page Down among two") << qsizetype(2) << Qt::Key_PageDown << 7;
+    QTest::newRow("Down where there is only one") << qsizetype(1) << Qt::Key_Down << 4;
+    QTest::newRow("Up where there is only one") << qsizetype(1) << Qt::Key_Up << 4;
+    QTest::newRow("Home where there is only one") << qsizetype(1) << Qt::Key_Home << 4;
+    QTest::newRow("End where there is only one") << qsizetype(1) << Qt::Key_End << 4;
+    QTest::newRow("Page Up where there is only one") << qsizetype(1) << Qt::Key_PageUp << 4;
+    QTest::newRow("Page Down where there is only one") << qsizetype(1) << Qt::Key_PageDown << 4;
 }
 
-void TestNetworkDialog::arrowKeysBeginAtTheFirstRow()
+void TestNetworkDialog::keysBeginAmongTheRowsOnOffer()
 {
     QFETCH(const qsizetype, rows);
     QFETCH(const Qt::Key, key);
+    QFETCH(const int, chosen);
     ShownDialog shown(twoRows().first(rows));
     QVERIFY(shown.waitUntilActive());
     QCOMPARE(shown.dialog.focusWidget(), shown.list);
@@ -289,7 +299,7 @@ void TestNetworkDialog::arrowKeysBeginAtTheFirstRow()
     QVERIFY(shown.list->selectedItems().isEmpty());
     QVERIFY(!shown.ok->isEnabled());
     QTest::keyClick(shown.list, key);
-    QCOMPARE(shown.dialog.selectedIndex(), 4);
+    QCOMPARE(shown.dialog.selectedIndex(), chosen);
     QVERIFY(shown.ok->isEnabled());
 }
 

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void aFieldThatIsEnteredSelectsItsRow();
     void withoutLayoutsNothingIsListedAndNothingBreaks();
     void fieldsAreReachedWithTabFromTopToBottomBeforeTheButtons();
+    void upAndDownLeadFromFieldToField();
     void fieldsSayWhatTheyName();
 };
 
@@ -280,6 +281,24 @@ void TestPageCreatePreset::fieldsAreReachedWithTabFromTopToBottomBeforeTheButton
     }
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     QCOMPARE(QApplication::focusWidget(), buttonOf(shown.page, "backButton"));
+}
+
+void TestPageCreatePreset::upAndDownLeadFromFieldToField()
+{
+    const Shown shown;
+    QVERIFY(QTest::qWaitForWindowActive(shown.page.window()));
+    press(shown.field(1));
+    const QList<std::pair<Qt::Key, int>> keys{
+        {Qt::Key_Down, 2}, {Qt::Key_Down, 3}, {Qt::Key_Up, 2}, {Qt::Key_Up, 1}};
+    for (const auto& [key, row] : keys) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        QVERIFY(shown.field(row)->hasFocus());
+        QCOMPARE(shown.list->currentItem(), shown.list->topLevelItem(row));
+        QCOMPARE(shownPicture(shown.page), QColor(row < 2 ? Qt::cyan : Qt::yellow));
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_X);
+    QCOMPARE(shown.names(),
+             QStringList({QString(), QStringLiteral("x"), QString(), QString(), QString()}));
 }
 
 void TestPageCreatePreset::fieldsSayWhatTheyName()

@@ -1,6 +1,5 @@
 #include "devicetable.h"
 
-#include "focusedrow.h"
 #include "identifybutton.h"
 #include "rowdelegate.h"
 
@@ -8,29 +7,8 @@
 
 #include <algorithm>
 
-namespace {
-
-/// `widget` itself, or what it consists of, where the Tab key stops.
-QList<QWidget*> tabStops(QWidget* widget)
-{
-    QList<QWidget*> stops;
-    if (widget && (widget->focusPolicy() & Qt::TabFocus)) {
-        stops.append(widget);
-    } else if (widget) {
-        for (QWidget* part : widget->findChildren<QWidget*>()) {
-            if (part->focusPolicy() & Qt::TabFocus) {
-                stops.append(part);
-            }
-        }
-    }
-    return stops;
-}
-
-} // namespace
-
 DeviceTable::DeviceTable(const QStringList& headers, int addressColumn, QWidget* parent)
-    : QTreeWidget(parent)
-    , m_focusedRow(new FocusedRow(this))
+    : RowList(parent)
     , m_addressColumn(addressColumn)
 {
     setHeaderLabels(headers);
@@ -107,17 +85,14 @@ void DeviceTable::chainTabOrder()
     // their making when the rows are sorted anew.
     QList<QWidget*> stops;
     for (int index = 0; index < topLevelItemCount(); ++index) {
-        for (int column = 0; column < columnCount(); ++column) {
-            stops.append(tabStops(itemWidget(topLevelItem(index), column)));
-        }
+        stops.append(stopsIn(topLevelItem(index)));
     }
     // From the last one on, each right behind the table: what Qt looks at for a move is what stands
     // before the moved widget. From the first one on that would be all widgets that were passed
     // over, more with every row.
     std::reverse(stops.begin(), stops.end());
     for (QWidget* stop : std::as_const(stops)) {
-        setTabOrder(this, stop);
-        m_focusedRow->watch(stop);
+        chain(this, stop);
     }
 }
 

@@ -1,15 +1,14 @@
 #pragma once
 
+#include "rowlist.h"
+
 #include <QHash>
-#include <QTreeWidget>
 
 #include <functional>
 
-class FocusedRow;
-
 /// A table of devices: one row per device with its label in column 0, an identify button in
 /// column 1 and its IP address in a column that the page names; the address finds the row again.
-class DeviceTable : public QTreeWidget
+class DeviceTable : public RowList
 {
     Q_OBJECT
 
@@ -61,7 +60,6 @@ private:
     void nameIdentifyButton(QTreeWidgetItem* row);
 
     QHash<QString, QList<QTreeWidgetItem*>> m_rows; ///< by address
-    FocusedRow* m_focusedRow;
     int m_addressColumn;
     bool m_filling = false; ///< the tab order waits for all rows
 };

@@ -36,6 +36,9 @@ void FocusedRow::show(const QWidget* stop)
 
 QModelIndex FocusedRow::cellOf(const QWidget* stop) const
 {
+    if (!stop || !m_list->viewport()->isAncestorOf(stop)) {
+        return {};
+    }
     for (int index = 0; index < m_list->topLevelItemCount(); ++index) {
         QTreeWidgetItem* row = m_list->topLevelItem(index);
         for (int column = 0; column < m_list->columnCount(); ++column) {

@@ -23,11 +23,13 @@ public:
     /// `stop` is the widget of a cell or a part of it; it may be watched already.
     void watch(QWidget* stop);
 
+    /// The cell that a widget stands in or is a part of; invalid when it is in none of the list's.
+    QModelIndex cellOf(const QWidget* stop) const;
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void show(const QWidget* stop);
-    QModelIndex cellOf(const QWidget* stop) const;
 
     QTreeWidget* m_list;
 };

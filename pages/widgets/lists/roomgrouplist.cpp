@@ -54,7 +54,7 @@ QTreeWidgetItem* createRow(const RoomGroup& group)
 } // namespace
 
 RoomGroupList::RoomGroupList(const QStringList& headers, const QList<int>& widths, QWidget* parent)
-    : QTreeWidget(parent)
+    : RowList(parent)
 {
     setHeaderLabels(headers);
     setRootIsDecorated(false);

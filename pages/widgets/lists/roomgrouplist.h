@@ -1,12 +1,11 @@
 #pragma once
 
 #include "roomgroup.h"
-
-#include <QTreeWidget>
+#include "rowlist.h"
 
 /// The list of all combined rooms of all layouts: the running number, the layout's number, and
 /// the room numbers in white on the colour of the first of them. Further columns are the page's.
-class RoomGroupList : public QTreeWidget
+class RoomGroupList : public RowList
 {
     Q_OBJECT
 

@@ -300,6 +300,7 @@ void TestDeviceTable::tabFollowsTheRowsWhenTheyAreSortedAnew()
     table.sortByColumn(0, Qt::DescendingOrder);
     QCOMPARE(table.labels().first(), QStringLiteral("Mike"));
     table.setFocus();
+    QTest::keyClick(&table, Qt::Key_Home);
     for (int row = 0; row < 3; ++row) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), table.buttonOf(row));
