@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr int leastRowCount = 3;
+
 /// `widget` itself, or what it consists of, where the Tab key stops.
 QList<QWidget*> tabStops(QWidget* widget)
 {
@@ -50,6 +52,15 @@ int DeviceTable::addressWidth() const
     return fontMetrics().horizontalAdvance(QStringLiteral(" 255.255.255.255 "));
 }
 
+QSize DeviceTable::minimumSizeHint() const
+{
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    const int rowHeight = itemDelegate()->sizeHint(option, QModelIndex()).height();
+    const int height = header()->sizeHint().height() + leastRowCount * rowHeight + 2 * frameWidth();
+    return QTreeWidget::minimumSizeHint().expandedTo({0, height});
+}
+
 void DeviceTable::setRows(const QList<QStringList>& rows, const Decorate& decorate)
 {
     const bool sorted = isSortingEnabled();
@@ -85,6 +96,7 @@ QList<QTreeWidgetItem*> DeviceTable::rowsOf(const QString& ipAddress) const
 void DeviceTable::setLabel(QTreeWidgetItem* row, const QString& label)
 {
     row->setText(LabelColumn, label);
+    row->setToolTip(LabelColumn, label);
     nameIdentifyButton(row);
 }
 
@@ -127,6 +139,7 @@ void DeviceTable::addRows(const QList<QStringList>& rows)
     items.reserve(rows.size());
     for (const QStringList& texts : rows) {
         items.append(new QTreeWidgetItem(texts));
+        items.last()->setToolTip(LabelColumn, texts.at(LabelColumn));
     }
     addTopLevelItems(items);
     for (QTreeWidgetItem* item : items) {
