@@ -9,6 +9,7 @@
 #include "resumedialog.h"
 #include "sessionqueries.h"
 #include "windowevents.h"
+#include "windowplace.h"
 #include "wizardpage.h"
 
 #include <QApplication>
@@ -51,12 +52,11 @@ MainWindow::MainWindow(QWidget* parent, IDocAccessor* doc)
     , m_doc(doc)
     , m_titleLabel(new QLabel(this))
     , m_pageStack(new QStackedWidget(this))
+    , m_place(new WindowPlace(this, minWindowSize, maxWindowSize))
 {
     setWindowTitle(tr("Divide / Combine Room Wizard"));
     // Of all windows: some boxes belong to none.
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/tessel.svg")));
-    setMinimumSize(minWindowSize);
-    setMaximumSize(maxWindowSize);
     buildLayout();
     appendPage(0);
     showCurrentPage();
@@ -253,7 +253,7 @@ void MainWindow::loadResumeFile()
     restorePages();
     const QSize size = windowSize(*m_doc);
     if (size.isValid()) {
-        resize(size);
+        m_place->restore(size);
     }
     QFile::remove(resumePath());
 }

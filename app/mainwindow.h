@@ -13,6 +13,7 @@ class IDocAccessor;
 class QLabel;
 class QStackedWidget;
 class ResumeDialog;
+class WindowPlace;
 
 /// The program's only window: a title line above the stack of wizard pages.
 ///
@@ -62,6 +63,7 @@ private:
     IDocAccessor* m_doc;
     QLabel* m_titleLabel;
     QStackedWidget* m_pageStack;
+    WindowPlace* m_place;
     int m_currentIndex = 0;
     DeviceDetector* m_detector = nullptr;
     int m_resumeTimerId = 0;

@@ -1,6 +1,7 @@
 #include "pagefinish.h"
 
 #include "ipagecontroller.h"
+#include "pagescroll.h"
 #include "wizardpage.h"
 
 #include <QHBoxLayout>
@@ -30,7 +31,7 @@ PageFinish::PageFinish(IPageController* controller, IDocAccessor* doc, QWidget* 
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new WellDone(this), 1);
+    layout->addWidget(new PageScroll(new WellDone(this), this), 1);
     auto* row = new QHBoxLayout;
     layout->addLayout(row);
     row->addStretch();

@@ -2,6 +2,7 @@
 
 #include "ipagecontroller.h"
 #include "pagekeys.h"
+#include "pagescroll.h"
 #include "wizardpage.h"
 
 #include <QHBoxLayout>
@@ -34,7 +35,7 @@ PageIntroduction::PageIntroduction(IPageController* controller, IDocAccessor* do
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new Introduction(this), 1);
+    layout->addWidget(new PageScroll(new Introduction(this), this), 1);
     auto* row = new QHBoxLayout;
     layout->addLayout(row);
     row->addWidget(closeButton);

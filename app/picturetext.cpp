@@ -1,6 +1,7 @@
 #include "picturetext.h"
 
 #include <QLabel>
+#include <QSvgRenderer>
 #include <QSvgWidget>
 #include <QVBoxLayout>
 
@@ -35,6 +36,8 @@ PictureText::PictureText(const QStringList& texts, const QString& picture, QWidg
     addSpacer(layout);
     auto* image = new QSvgWidget(picture, this);
     image->setObjectName(QStringLiteral("picture"));
+    // Where the texts leave little room it becomes smaller, and stays itself.
+    image->renderer()->setAspectRatioMode(Qt::KeepAspectRatio);
     layout->addWidget(image, 0, Qt::AlignHCenter | Qt::AlignVCenter);
     addSpacer(layout);
 }

@@ -32,8 +32,12 @@ int scaledToFont(int pixels, const QWidget* widget)
     return qRound(pixels * fontScale(widget));
 }
 
+QSize roomOnScreen(const QWidget* window)
+{
+    return window->screen()->availableGeometry().size() - decoration;
+}
+
 QSize scaledToFont(QSize size, const QWidget* window)
 {
-    const QSize room = window->screen()->availableGeometry().size() - decoration;
-    return (QSizeF(size) * fontScale(window)).toSize().boundedTo(room);
+    return (QSizeF(size) * fontScale(window)).toSize().boundedTo(roomOnScreen(window));
 }

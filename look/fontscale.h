@@ -11,6 +11,9 @@ double fontScale(const QWidget* widget);
 /// `pixels` in proportion to the font of `widget`, for column widths and the like.
 int scaledToFont(int pixels, const QWidget* widget);
 
+/// What the screen that `window` is on has room for, its frame and its title bar left out.
+QSize roomOnScreen(const QWidget* window);
+
 /// `size`, of a window, in proportion to its font, but no larger than the screen that it is on has
 /// room for, frame included.
 QSize scaledToFont(QSize size, const QWidget* window);

@@ -2,6 +2,7 @@
 
 #include "ipagecontroller.h"
 #include "pagekeys.h"
+#include "pagescroll.h"
 #include "quietline.h"
 #include "stepcontent.h"
 
@@ -76,7 +77,7 @@ void StepPage::buildLayout(LeftButton left)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_content, 1);
+    layout->addWidget(new PageScroll(m_content, this), 1);
     auto* row = new QHBoxLayout;
     layout->addLayout(row);
     if (left == LeftButton::Close) {

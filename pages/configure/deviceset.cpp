@@ -1,5 +1,6 @@
 #include "deviceset.h"
 
+#include "counttable.h"
 #include "deviceclass.h"
 #include "devicetable.h"
 #include "removebutton.h"
@@ -10,7 +11,6 @@
 #include "textlabel.h"
 
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -45,17 +45,12 @@ void DeviceSet::createLists(QWidget* previous)
 
 void DeviceSet::createWidgets()
 {
-    m_summaryTable = new QTreeWidget(this);
+    m_summaryTable = new CountTable(
+        {tr("PX-HB"), tr("Microphone"), tr("Speaker"), tr("Controller"), QString()}, 1, {}, this);
     m_summaryTable->setObjectName(QStringLiteral("summaryTable"));
     m_summaryTable->setAccessibleName(tr("Number of devices in this set"));
-    m_summaryTable->setHeaderLabels(
-        {tr("PX-HB"), tr("Microphone"), tr("Speaker"), tr("Controller"), QString()});
-    m_summaryTable->setRootIsDecorated(false);
     m_summaryTable->setItemDelegate(new RowDelegate(m_summaryTable));
     m_summaryTable->addTopLevelItem(new QTreeWidgetItem);
-    m_summaryTable->setFixedHeight(m_summaryTable->header()->sizeHint().height() +
-                                   m_summaryTable->sizeHintForRow(0) +
-                                   2 * m_summaryTable->frameWidth());
     m_hubTable = createDeviceTable(QStringLiteral("hubTable"), tr("PX-HB"));
     m_peripheralTable = createDeviceTable(QStringLiteral("peripheralTable"), tr("Peripheral"));
 }

@@ -12,7 +12,9 @@ namespace {
 
 constexpr int numberWidth = 15;
 constexpr int layoutWidth = 25;
+constexpr int roomWidth = 100;
 constexpr int gapBelowTexts = 10;
+constexpr int textMargin = 6;
 
 enum Column
 {
@@ -28,6 +30,20 @@ PresetNameEdit::PresetNameEdit(const QString& name, QWidget* parent)
     setMaxLength(maxNameLength);
     setText(name);
     setCursorPosition(0);
+    connect(this, SIGNAL(textChanged(QString)), this, SLOT(tellHiddenText()));
+}
+
+void PresetNameEdit::resizeEvent(QResizeEvent* event)
+{
+    QLineEdit::resizeEvent(event);
+    tellHiddenText();
+}
+
+/// What the field has no room for is seen nowhere else.
+void PresetNameEdit::tellHiddenText()
+{
+    const bool isWhole = fontMetrics().horizontalAdvance(text()) < width() - 2 * textMargin;
+    setToolTip(isWhole ? QString() : text());
 }
 
 CreatePreset::CreatePreset(IDocAccessor* doc, QWidget* parent)
@@ -41,7 +57,7 @@ CreatePreset::CreatePreset(IDocAccessor* doc, QWidget* parent)
 void CreatePreset::createWidgets()
 {
     m_groupList = new RoomGroupList({tr("No."), tr("Layout"), tr("Rooms"), tr("Preset Names")},
-                                    {numberWidth, layoutWidth}, this);
+                                    {numberWidth, layoutWidth, roomWidth}, this);
     m_groupList->setObjectName(QStringLiteral("roomGroupList"));
     m_thumbnail = new QLabel(this);
     m_thumbnail->setObjectName(QStringLiteral("thumbnailLabel"));

@@ -18,6 +18,12 @@ public:
     static constexpr int maxNameLength = 255;
 
     explicit PresetNameEdit(const QString& name, QWidget* parent = nullptr);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private Q_SLOTS:
+    void tellHiddenText();
 };
 
 /// Content of the preset naming step: every combined room of every layout with a field for the

@@ -1,5 +1,6 @@
 #include "createscene.h"
 
+#include "columnwidths.h"
 #include "focusedcelldelegate.h"
 #include "layoutqueries.h"
 #include "roomqueries.h"
@@ -145,7 +146,7 @@ void CreateScene::createWidgets()
     m_list->setRootIsDecorated(false);
     m_list->setItemDelegate(new FocusedCellDelegate(m_list));
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_list->setColumnWidth(NumberColumn, numberWidth);
+    new ColumnWidths(m_list, {{NumberColumn, numberWidth}});
 }
 
 void CreateScene::buildLayout()

@@ -1,11 +1,13 @@
 #include "devicelocation.h"
 
+#include "columnwidths.h"
 #include "deviceclass.h"
 #include "devicelabel.h"
 #include "devicelimits.h"
 #include "devicenamedialog.h"
 #include "devicequeries.h"
 #include "devicetable.h"
+#include "fontscale.h"
 #include "roomcombo.h"
 #include "roomeditor.h"
 #include "roomkeys.h"
@@ -13,6 +15,7 @@
 #include "roomsummary.h"
 #include "textlabel.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSet>
@@ -46,7 +49,7 @@ void showCell(const QTreeWidgetItem& row, int column)
 
 DeviceLocation::DeviceLocation(IDocAccessor* doc, QWidget* parent)
     : StepContent(doc, parent)
-    , m_picture(new RoomEditor(this, pictureGap, pictureCellSize, true))
+    , m_picture(new RoomEditor(this, pictureGap, scaledToFont(pictureCellSize, this), true))
     , m_summary(new RoomSummary(this))
     , m_hubTable(createTable(QStringLiteral("hubTable"), tr("PX-HB")))
     , m_peripheralTable(createTable(QStringLiteral("peripheralTable"), tr("Peripheral")))
@@ -109,6 +112,15 @@ void DeviceLocation::reset()
         table->setSortingEnabled(true);
     }
     updateSummary();
+}
+
+void DeviceLocation::changeEvent(QEvent* event)
+{
+    StepContent::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        m_picture->setCellSize(scaledToFont(pictureCellSize, this));
+        m_summary->setLeastHeight(m_picture->height());
+    }
 }
 
 void DeviceLocation::comboBoxRoomChanged(int /*index*/)
@@ -182,8 +194,8 @@ DeviceTable* DeviceLocation::createTable(const QString& name, const QString& acc
     table->setAccessibleName(accessibleName);
     table->setSortingEnabled(true);
     table->setItemDelegateForColumn(DeviceTable::LabelColumn, new DeviceLabelDelegate(table));
-    table->setColumnWidth(DeviceTable::LabelColumn, labelWidth);
-    table->setColumnWidth(DeviceTable::IdentifyColumn, identifyWidth);
+    new ColumnWidths(table, {{DeviceTable::LabelColumn, labelWidth},
+                             {DeviceTable::IdentifyColumn, identifyWidth}});
     new RoomKeys(table, RoomColumn);
     connect(table, SIGNAL(identifyClicked(QString)), this, SLOT(identifyButtonClicked(QString)));
     connect(table, SIGNAL(itemDoubleClicked(QTreeWidgetItem*, int)), this,
@@ -206,7 +218,7 @@ void DeviceLocation::buildLayout()
     layout->addLayout(rooms);
     rooms->addWidget(m_picture);
     rooms->addWidget(m_summary, 1);
-    m_summary->setFixedHeight(m_picture->height());
+    m_summary->setLeastHeight(m_picture->height());
     addTable(layout, tr("PX-HB"), m_hubTable, 3);
     addTable(layout, tr("Peripheral"), m_peripheralTable, 4);
 }

@@ -37,6 +37,9 @@ public:
     void reset() override;
     QStringList missing() const override { return m_missing; }
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private Q_SLOTS:
     void comboBoxRoomChanged(int index);
     void devItemDoubleClicked(QTreeWidgetItem* item, int column);

@@ -2,6 +2,7 @@
 
 #include "deviceclass.h"
 #include "devicelimits.h"
+#include "records.h"
 #include "roomcolor.h"
 
 namespace {
@@ -69,12 +70,10 @@ QTreeWidgetItem* roomRow(int room)
 } // namespace
 
 RoomSummary::RoomSummary(QWidget* parent)
-    : QTreeWidget(parent)
+    : CountTable(
+          {tr("Room"), tr("PX-HB"), tr("Microphone"), tr("Speaker"), tr("Controller"), QString()},
+          RoomInfo::maxRooms, {{RoomColumn, roomWidth}}, parent)
 {
-    setHeaderLabels(
-        {tr("Room"), tr("PX-HB"), tr("Microphone"), tr("Speaker"), tr("Controller"), QString()});
-    setRootIsDecorated(false);
-    setColumnWidth(RoomColumn, roomWidth);
     // A selected row would hide the colours that the table is read by.
     setSelectionMode(QAbstractItemView::NoSelection);
 }

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QTreeWidget>
+#include "counttable.h"
 
 struct DeviceCounts;
 
 /// The table of how many devices each room holds. A count beyond what one conference system
 /// serves is painted red.
-class RoomSummary : public QTreeWidget
+class RoomSummary : public CountTable
 {
     Q_OBJECT
 

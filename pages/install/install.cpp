@@ -1,5 +1,6 @@
 #include "install.h"
 
+#include "columnwidths.h"
 #include "deviceclass.h"
 #include "devicequeries.h"
 #include "devicetable.h"
@@ -101,8 +102,8 @@ void Install::createWidgets()
                                  AddressColumn, this);
     m_hubTable->setObjectName(QStringLiteral("hubList"));
     m_hubTable->setAccessibleName(tr("PX-HB"));
-    m_hubTable->setColumnWidth(DeviceTable::LabelColumn, labelWidth);
-    m_hubTable->setColumnWidth(DeviceTable::IdentifyColumn, identifyWidth);
+    new ColumnWidths(m_hubTable, {{DeviceTable::LabelColumn, labelWidth},
+                                  {DeviceTable::IdentifyColumn, identifyWidth}});
     m_hubTable->setSortingEnabled(true);
     m_hubTable->setItemDelegateForColumn(StatusColumn, new ProgressDelegate(m_hubTable));
     connect(m_hubTable, SIGNAL(currentItemChanged(QTreeWidgetItem*, QTreeWidgetItem*)), this,

@@ -3,6 +3,7 @@
 #include "install.h"
 #include "ipagecontroller.h"
 #include "pagekeys.h"
+#include "pagescroll.h"
 #include "quietline.h"
 #include "wizardpage.h"
 
@@ -37,7 +38,7 @@ void PageInstall::buildLayout()
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_content, 1);
+    layout->addWidget(new PageScroll(m_content, this), 1);
     layout->addLayout(row);
 }
 

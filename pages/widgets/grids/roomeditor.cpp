@@ -18,13 +18,19 @@ RoomEditor::RoomEditor(QWidget* parent, int gap, int cellSize, bool readOnly)
     , m_readOnly(readOnly)
     , m_pressPosition(noPosition)
 {
-    setFixedSize(geometry().side(), geometry().side());
-    setFont(m_picture.fittingFont(font()));
+    setCellSize(cellSize);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(readOnly ? Qt::NoFocus : Qt::StrongFocus);
     setAccessibleName(tr("Room design"));
     setToolTip(readOnly ? tr("The rooms as they were drawn")
                         : tr("Draw with the mouse, or with the arrow keys, Space and Shift"));
+}
+
+void RoomEditor::setCellSize(int cellSize)
+{
+    m_picture = RoomPicture(GridGeometry{geometry().gap, cellSize});
+    setFixedSize(geometry().side(), geometry().side());
+    setFont(m_picture.fittingFont(parentWidget() ? parentWidget()->font() : font()));
 }
 
 void RoomEditor::setRoom(int room, const QList<QPoint>& cells)

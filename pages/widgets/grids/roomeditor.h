@@ -23,6 +23,9 @@ public:
     /// it ignores mouse and keyboard and takes no focus.
     RoomEditor(QWidget* parent, int gap, int cellSize, bool readOnly);
 
+    /// Draws the grid larger or smaller; a number that a cell has no room for gets a smaller font.
+    void setCellSize(int cellSize);
+
     /// Writes `room` into `cells` (x = column, y = row; cells off the grid are left out), without
     /// emptying others. The drawing counts as unmodified afterwards.
     void setRoom(int room, const QList<QPoint>& cells);

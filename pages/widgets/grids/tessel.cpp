@@ -1,6 +1,7 @@
 #include "tessel.h"
 
 #include "arrowkey.h"
+#include "fontscale.h"
 #include "menustyle.h"
 #include "roomborder.h"
 #include "roomgroup.h"
@@ -16,11 +17,10 @@ namespace {
 
 constexpr int focusLineWidth = 3;
 
-/// Where a press opens the room's menu: the drop-down mark and a little around it.
-QRect hotSpot(const QRect& label)
-{
-    return {label.center() + QPoint(4, -2), QSize(12, 8)};
-}
+/// From the middle of a room's number to its drop-down mark.
+constexpr int markDistance = 6;
+constexpr QSize markSize(8, 4);
+constexpr QMargins hotMargins(2, 2, 2, 2);
 
 } // namespace
 
@@ -104,7 +104,7 @@ void Tessel::mousePressEvent(QMouseEvent* event)
         return;
     }
     setCurrentRoom(room);
-    if (hotSpot(m_picture.rooms().value(room).label).contains(position)) {
+    if (hotSpot(room).contains(position)) {
         openMenu(room);
     }
 }
@@ -204,7 +204,7 @@ void Tessel::setLinked(RoomPair pair, bool linked)
 
 void Tessel::openMenu(int room)
 {
-    openMenuAt(room, mapToGlobal(hotSpot(m_picture.rooms().value(room).label).bottomLeft()));
+    openMenuAt(room, mapToGlobal(hotSpot(room).bottomLeft()));
 }
 
 void Tessel::openMenuAt(int room, QPoint globalPosition)
@@ -245,6 +245,19 @@ void Tessel::goToNeighbour(QPoint step)
     setCurrentRoom(neighbourPlace(places, m_currentRoom, step));
 }
 
+/// The left end of the drop-down mark beside a room's number, which is wider in a larger font.
+QPoint Tessel::markOf(const QRect& label) const
+{
+    return label.center() + QPoint(scaledToFont(markDistance, this), 0);
+}
+
+/// Where a press opens the room's menu: the drop-down mark and a little around it.
+QRect Tessel::hotSpot(int room) const
+{
+    const QPoint mark = markOf(m_picture.rooms().value(room).label);
+    return QRect(mark, markSize).marginsAdded(hotMargins);
+}
+
 /// The marks that open the rooms' menus.
 void Tessel::paintMarks(QPainter& painter) const
 {
@@ -252,9 +265,10 @@ void Tessel::paintMarks(QPainter& painter) const
     painter.setBrush(Qt::white);
     for (const LayoutPicture::Room& room : m_picture.rooms()) {
         painter.setClipRegion(room.area);
-        const QPoint center = room.label.center();
-        painter.drawPolygon(QPolygon({center + QPoint(6, 0), center + QPoint(14, 0),
-                                      center + QPoint(10, 4), center + QPoint(6, 0)}));
+        const QPoint left = markOf(room.label);
+        const QPoint right = left + QPoint(markSize.width(), 0);
+        const QPoint tip = left + QPoint(markSize.width() / 2, markSize.height());
+        painter.drawPolygon(QPolygon({left, right, tip, left}));
     }
 }
 

@@ -77,6 +77,8 @@ private:
     void setCurrentRoom(int room);
     void goToNeighbour(QPoint step);
 
+    QPoint markOf(const QRect& label) const;
+    QRect hotSpot(int room) const;
     void paintMarks(QPainter& painter) const;
     void paintFocus(QPainter& painter) const;
 

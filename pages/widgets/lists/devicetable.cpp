@@ -7,6 +7,12 @@
 
 #include <algorithm>
 
+namespace {
+
+constexpr int leastRowCount = 3;
+
+} // namespace
+
 DeviceTable::DeviceTable(const QStringList& headers, int addressColumn, QWidget* parent)
     : RowList(parent)
     , m_addressColumn(addressColumn)
@@ -26,6 +32,15 @@ DeviceTable::DeviceTable(const QStringList& headers, int addressColumn, QWidget*
 int DeviceTable::addressWidth() const
 {
     return fontMetrics().horizontalAdvance(QStringLiteral(" 255.255.255.255 "));
+}
+
+QSize DeviceTable::minimumSizeHint() const
+{
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    const int rowHeight = itemDelegate()->sizeHint(option, QModelIndex()).height();
+    const int height = header()->sizeHint().height() + leastRowCount * rowHeight + 2 * frameWidth();
+    return QTreeWidget::minimumSizeHint().expandedTo({0, height});
 }
 
 void DeviceTable::setRows(const QList<QStringList>& rows, const Decorate& decorate)
@@ -63,6 +78,7 @@ QList<QTreeWidgetItem*> DeviceTable::rowsOf(const QString& ipAddress) const
 void DeviceTable::setLabel(QTreeWidgetItem* row, const QString& label)
 {
     row->setText(LabelColumn, label);
+    row->setToolTip(LabelColumn, label);
     nameIdentifyButton(row);
 }
 
@@ -102,6 +118,7 @@ void DeviceTable::addRows(const QList<QStringList>& rows)
     items.reserve(rows.size());
     for (const QStringList& texts : rows) {
         items.append(new QTreeWidgetItem(texts));
+        items.last()->setToolTip(LabelColumn, texts.at(LabelColumn));
     }
     addTopLevelItems(items);
     for (QTreeWidgetItem* item : items) {

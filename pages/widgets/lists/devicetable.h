@@ -34,6 +34,9 @@ public:
     /// meanwhile. The cost is linear in the rows, shown or not.
     void setRows(const QList<QStringList>& rows, const Decorate& decorate = {});
 
+    /// High enough for a few rows.
+    QSize minimumSizeHint() const override;
+
     /// The first row of the device with this address; null when there is none.
     QTreeWidgetItem* rowOf(const QString& ipAddress) const;
 

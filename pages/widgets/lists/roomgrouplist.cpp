@@ -1,5 +1,6 @@
 #include "roomgrouplist.h"
 
+#include "columnwidths.h"
 #include "contrast.h"
 #include "roomcolor.h"
 #include "rowdelegate.h"
@@ -61,9 +62,11 @@ RoomGroupList::RoomGroupList(const QStringList& headers, const QList<int>& width
     setAccessibleName(tr("Room combinations"));
     setItemDelegate(new NumberDelegate(this));
     setItemDelegateForColumn(RoomColumn, new RoomDelegate(this));
+    QMap<int, int> widthOfColumn;
     for (int column = 0; column < widths.size(); ++column) {
-        setColumnWidth(column, widths.at(column));
+        widthOfColumn.insert(column, widths.at(column));
     }
+    new ColumnWidths(this, widthOfColumn);
 }
 
 void RoomGroupList::setGroups(const QList<RoomGroup>& groups)

@@ -17,7 +17,8 @@ public:
         RoomColumn
     };
 
-    /// One column per header; `widths` are those of the first columns, in pixels.
+    /// One column per header; `widths` are those of the first columns, in pixels for the usual
+    /// font.
     RoomGroupList(const QStringList& headers, const QList<int>& widths, QWidget* parent = nullptr);
 
     /// Replaces all rows. No row is current afterwards, and itemSelectionChanged() is not emitted:

@@ -1,5 +1,6 @@
 #include "roomgrouppanel.h"
 
+#include "columnwidths.h"
 #include "devicequeries.h"
 
 #include <QLabel>
@@ -47,12 +48,12 @@ DeviceTable* RoomGroupPanel::createTable(const QString& name, const QString& acc
                                   AddressColumn, this);
     table->setObjectName(name);
     table->setAccessibleName(accessibleName);
-    table->setColumnWidth(DeviceTable::LabelColumn, labelWidth);
-    table->setColumnWidth(DeviceTable::IdentifyColumn, identifyWidth);
-    table->setColumnWidth(ModelColumn, modelWidth);
-    table->setColumnWidth(RoomColumn, roomWidth);
-    table->setColumnWidth(ChoiceColumn, choiceWidth);
-    table->setColumnWidth(EmptyColumn, emptyWidth);
+    new ColumnWidths(table, {{DeviceTable::LabelColumn, labelWidth},
+                             {DeviceTable::IdentifyColumn, identifyWidth},
+                             {ModelColumn, modelWidth},
+                             {RoomColumn, roomWidth},
+                             {ChoiceColumn, choiceWidth},
+                             {EmptyColumn, emptyWidth}});
     table->setSortingEnabled(true);
     connect(table, SIGNAL(identifyClicked(QString)), this, SLOT(identifyButtonClicked(QString)));
     return table;

@@ -14,4 +14,11 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                               const QModelIndex& index) const override;
+
+    /// A text that its cell does not show whole is its tool tip, unless it has another one.
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
+
+private:
+    bool isWhole(const QStyleOptionViewItem& option, const QModelIndex& index) const;
 };
