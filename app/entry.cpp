@@ -1,6 +1,7 @@
 #include "entry.h"
 
 #include "commandline.h"
+#include "configurationfile.h"
 #include "console.h"
 #include "mainwindow.h"
 #include "tesseldoc.h"
@@ -26,7 +27,9 @@ int runWizard(int& argc, char** argv)
     // Qt has taken its own ones out.
     tellIgnoredArguments();
     TesselDoc doc(nullptr);
-    MainWindow window(nullptr, &doc);
+    const QString path = configurationPath(QCoreApplication::arguments());
+    ConfigurationFile file(&doc, path);
+    MainWindow window(nullptr, &doc, path.isEmpty() ? nullptr : &file);
     window.show();
     return QApplication::exec();
 }

@@ -5,14 +5,16 @@ namespace {
 QString helpText()
 {
     return QStringLiteral(
-        "Usage: tessel [-N:INDEX] [-D:DEVICE]...\n"
+        "Usage: tessel [FILE.tessel] [-N:INDEX] [-D:DEVICE]...\n"
         "\n"
         "Divide / Combine Room Wizard: configures a hall whose movable partitions divide\n"
         "it into up to four rooms, and installs the presets into its hubs.\n"
         "\n"
-        "Without arguments the wizard asks for the network interface and looks for the\n"
-        "devices. A program that starts it can hand them over:\n"
+        "Without -N: the wizard asks for the network interface and looks for the devices.\n"
+        "A program that starts it can hand them over:\n"
         "\n"
+        "  FILE.tessel opens a configuration, as the wizard keeps one of every hall among\n"
+        "              the documents, in Tessel; \"Yes\" on closing saves into it\n"
         "  -N:INDEX    the network interface, by its number in the system. The wizard\n"
         "              neither asks nor looks: its devices are those of -D: alone.\n"
         "              -N:-1 chooses none, as if it were not given\n"

@@ -1,10 +1,12 @@
 #include "mainwindow.h"
 
 #include "basepage.h"
+#include "configurationfile.h"
 #include "devicedetector.h"
 #include "devicequeries.h"
 #include "idocaccessor.h"
 #include "networkdialog.h"
+#include "newfile.h"
 #include "pagefactory.h"
 #include "resumedialog.h"
 #include "sessionqueries.h"
@@ -17,6 +19,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QIcon>
 #include <QLabel>
 #include <QMessageBox>
@@ -24,6 +27,8 @@
 #include <QStandardPaths>
 #include <QTimerEvent>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace {
 
@@ -47,9 +52,10 @@ QString resumePath()
 
 } // namespace
 
-MainWindow::MainWindow(QWidget* parent, IDocAccessor* doc)
+MainWindow::MainWindow(QWidget* parent, IDocAccessor* doc, ConfigurationFile* file)
     : QWidget(parent)
     , m_doc(doc)
+    , m_file(file)
     , m_titleLabel(new QLabel(this))
     , m_pageStack(new QStackedWidget(this))
     , m_place(new WindowPlace(this, minWindowSize, maxWindowSize))
@@ -62,8 +68,8 @@ MainWindow::MainWindow(QWidget* parent, IDocAccessor* doc)
     showCurrentPage();
     if (nicIndex(*m_doc) == 0) {
         QCoreApplication::postEvent(this, new ShowNetworkDialogEvent);
-    } else {
-        loadResumeFile();
+    } else if (findWork()) {
+        loadWork();
     }
 }
 
@@ -143,7 +149,7 @@ void MainWindow::timerEvent(QTimerEvent* event)
     }
     killTimer(m_resumeTimerId);
     m_resumeTimerId = 0;
-    loadResumeFile();
+    loadWork();
     m_resumeDialog->hide();
     setEnabled(true);
 }
@@ -164,7 +170,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         return;
     }
     if (answer == QMessageBox::Yes) {
-        saveResumeFile();
+        saveWork();
     }
     event->accept();
 }
@@ -224,7 +230,7 @@ void MainWindow::startDiscovery()
                 SLOT(notifyDetectDevice(QString)));
     }
     m_detector->detect();
-    if (QFile::exists(resumePath()) && m_resumeTimerId == 0) {
+    if (m_resumeTimerId == 0 && findWork()) {
         waitForSavedDevices();
     }
 }
@@ -241,6 +247,52 @@ void MainWindow::waitForSavedDevices()
     m_resumeDialog->setEnabled(true);
 }
 
+/// Whether there is work to be loaded. A file that cannot be opened is told of, and is not tried
+/// again.
+bool MainWindow::findWork()
+{
+    if (m_file == nullptr) {
+        return QFile::exists(resumePath());
+    }
+    if (std::exchange(m_isFileRead, true)) {
+        return false;
+    }
+    const bool canBeLoaded = m_file->read();
+    if (!canBeLoaded) {
+        tellUnreadableFile();
+    }
+    return canBeLoaded;
+}
+
+void MainWindow::loadWork()
+{
+    if (m_file != nullptr) {
+        loadFile();
+    } else {
+        loadResumeFile();
+    }
+}
+
+/// Where devices are missing, the user begins with them: often one was exchanged.
+void MainWindow::loadFile()
+{
+    if (!m_file->load()) {
+        setPageIndex(*m_doc, int(WizardPage::DeviceLocation));
+    }
+    showLoadedWork();
+}
+
+void MainWindow::tellUnreadableFile()
+{
+    QString text = tr("%1 cannot be opened. %2")
+                       .arg(QDir::toNativeSeparators(m_file->path()), m_file->error());
+    if (QFile::exists(m_file->path())) {
+        text += tr("\n\nIt stays as it is: what you save goes into a new file beside it.");
+    }
+    QMessageBox::critical(this, QStringLiteral("Error"), text, QMessageBox::Ok);
+    next();
+}
+
 void MainWindow::loadResumeFile()
 {
     if (!QFile::exists(resumePath())) {
@@ -250,12 +302,17 @@ void MainWindow::loadResumeFile()
         offerToRemoveResumeFile();
         return;
     }
+    showLoadedWork();
+    QFile::remove(resumePath());
+}
+
+void MainWindow::showLoadedWork()
+{
     restorePages();
     const QSize size = windowSize(*m_doc);
     if (size.isValid()) {
         m_place->restore(size);
     }
-    QFile::remove(resumePath());
 }
 
 void MainWindow::restorePages()
@@ -281,16 +338,28 @@ void MainWindow::offerToRemoveResumeFile()
     }
 }
 
-void MainWindow::saveResumeFile()
+void MainWindow::saveWork()
 {
-    if (!QDir().mkpath(resumeFolder())) {
+    if (m_file == nullptr && !QDir().mkpath(resumeFolder())) {
         return;
     }
     setPageIndex(*m_doc, m_currentIndex);
     setWindowSize(*m_doc, size());
     pageAt(m_currentIndex)->storeToDocument();
-    if (!m_doc->saveResume(resumePath())) {
+    const bool isSaved = m_file != nullptr ? saveFile() : m_doc->saveResume(resumePath());
+    if (!isSaved) {
         QMessageBox::critical(this, QStringLiteral("Error"), tr("Information could not be saved."),
                               QMessageBox::Ok);
     }
+}
+
+/// A file that could not be opened may hold more than this version knows: it is left alone.
+bool MainWindow::saveFile() const
+{
+    const QString path = m_file->path();
+    if (m_file->error().isEmpty()) {
+        return m_doc->saveResume(path);
+    }
+    QDir().mkpath(QFileInfo(path).path());
+    return !saveAsNewFile(*m_doc, path).isEmpty();
 }

@@ -8,6 +8,7 @@
 #include <optional>
 
 class BasePage;
+class ConfigurationFile;
 class DeviceDetector;
 class IDocAccessor;
 class QLabel;
@@ -25,8 +26,9 @@ class MainWindow : public QWidget, public IPageController
     Q_OBJECT
 
 public:
-    /// `doc` is not owned and outlives the window.
-    MainWindow(QWidget* parent, IDocAccessor* doc);
+    /// `doc` is not owned and outlives the window, and so does `file`: with one the wizard opens
+    /// that file's work and saves into it, and the resume file is neither read nor written.
+    MainWindow(QWidget* parent, IDocAccessor* doc, ConfigurationFile* file = nullptr);
 
     void next() override;
     void back() override;
@@ -55,12 +57,20 @@ private:
     void startDiscovery();
     void waitForSavedDevices();
 
+    bool findWork();
+    void loadWork();
+    void loadFile();
+    void tellUnreadableFile();
     void loadResumeFile();
+    void showLoadedWork();
     void restorePages();
     void offerToRemoveResumeFile();
-    void saveResumeFile();
+    void saveWork();
+    bool saveFile() const;
 
     IDocAccessor* m_doc;
+    ConfigurationFile* m_file;
+    bool m_isFileRead = false; ///< or it was tried
     QLabel* m_titleLabel;
     QStackedWidget* m_pageStack;
     WindowPlace* m_place;

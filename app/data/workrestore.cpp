@@ -95,16 +95,17 @@ QList<Record> withoutRepetitions(const QList<Record>& records, KeyOf keyOf)
     return kept;
 }
 
-/// Puts one section into the document; false when devices are missing.
+/// Puts one section into the document; false when missing devices stop it.
 struct SectionRestorer
 {
     DocumentData& doc;
     QList<SavedDevice>& missing;
+    IfMissing ifMissing;
 
     bool operator()(const QList<SavedDevice>& devices) const
     {
         missing = restoreDevices(doc, devices);
-        return missing.isEmpty();
+        return missing.isEmpty() || ifMissing == IfMissing::LeaveOut;
     }
     bool operator()(const QList<RoomInfo>& rooms) const
     {
@@ -123,7 +124,9 @@ struct SectionRestorer
         doc.deviceSets.clear();
         for (DeviceSetInfo record : records) {
             record.ipAddress = addresses.value(record.ipAddress, record.ipAddress);
-            doc.deviceSets.append(record);
+            if (ifMissing == IfMissing::Stop || doc.devices.find(record.ipAddress) != nullptr) {
+                doc.deviceSets.append(record);
+            }
         }
         return true;
     }
@@ -172,12 +175,12 @@ SavedWork gatherWork(const DocumentData& doc)
 }
 
 RestoreOutcome restoreWork(DocumentData& doc, const SavedWork& work,
-                           const QList<SceneInfo>& pictures)
+                           const QList<SceneInfo>& pictures, IfMissing ifMissing)
 {
     RestoreOutcome outcome;
     doc.pageIndex = work.pageIndex;
     for (const SavedSection& section : work.sections) {
-        if (!std::visit(SectionRestorer{doc, outcome.missing}, section)) {
+        if (!std::visit(SectionRestorer{doc, outcome.missing, ifMissing}, section)) {
             return outcome;
         }
     }

@@ -2,7 +2,11 @@
 
 #include "acceptancerule.h"
 
+#include <QFileInfo>
 #include <QSet>
+
+#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -58,6 +62,12 @@ QString shown(const QString& argument)
     return text;
 }
 
+bool isConfigurationPath(const QString& argument)
+{
+    // Where a file is double-clicked, its ending may be written in capitals.
+    return argument.endsWith(u".tessel", Qt::CaseInsensitive) && !argument.startsWith(u'-');
+}
+
 } // namespace
 
 CommandLine readCommandLine(const QStringList& arguments)
@@ -101,17 +111,30 @@ std::optional<DeviceData> deviceFromArgument(const QString& argument)
     return device;
 }
 
+QString configurationPath(const QStringList& arguments)
+{
+    const QStringList others = arguments.mid(1);
+    const auto path = std::find_if(others.begin(), others.end(), isConfigurationPath);
+    return path != others.end() ? *path : QString();
+}
+
 QStringList ignoredArguments(const QStringList& arguments)
 {
     QStringList ignored;
+    bool hasFile = false;
     // A device's fields are joined by "/", the password last, and a shell may have parted them at
-    // spaces: behind the first "/" any argument can be a piece of a password.
+    // spaces: behind the first "/" that is none of a file, any argument can be a piece of a
+    // password.
     bool mayBePassword = false;
     for (const QString& argument : arguments.mid(1)) {
-        if (!numberFromArgument(argument) && !deviceFromArgument(argument)) {
-            ignored.append(mayBePassword ? QStringLiteral("...") : shown(argument));
+        const bool isFile = isConfigurationPath(argument);
+        const bool isUsed = (isFile && !std::exchange(hasFile, true)) ||
+                            numberFromArgument(argument) || deviceFromArgument(argument);
+        if (!isUsed) {
+            const QString text = isFile ? QFileInfo(argument).fileName() : argument;
+            ignored.append(mayBePassword ? QStringLiteral("...") : shown(text));
         }
-        mayBePassword = mayBePassword || argument.contains(u'/');
+        mayBePassword = mayBePassword || (!isFile && argument.contains(u'/'));
     }
     return ignored;
 }

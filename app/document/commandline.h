@@ -24,6 +24,10 @@ std::optional<int> nicIndexFromArgument(const QString& argument);
 /// The device of one argument; nothing when it describes none or one that is not accepted.
 std::optional<DeviceData> deviceFromArgument(const QString& argument);
 
+/// The path of the configuration file to be opened: the first argument behind the program's name
+/// that ends in ".tessel" and does not look like an option. Empty when there is none.
+QString configurationPath(const QStringList& arguments);
+
 /// What the wizard can do nothing with among its arguments (the program's name first), each in a
 /// form to be shown: as far as it can hold no password, "..." for the rest, and in one line.
 QStringList ignoredArguments(const QStringList& arguments);

@@ -1,6 +1,7 @@
 #include "tesseldoc.h"
 
 #include "commandline.h"
+#include "configuration.h"
 #include "datakey.h"
 #include "datakind.h"
 #include "deviceidentify.h"
@@ -86,15 +87,19 @@ bool TesselDoc::saveResume(const QString& path)
 
 bool TesselDoc::loadResume(const QString& path)
 {
-    const std::optional<QByteArray> bytes = readResumeFile(path);
-    const std::optional<ResumeFile> content = bytes ? unpackResumeFile(*bytes) : std::nullopt;
-    const std::optional<SavedWork> work = content ? readResumeXml(content->xml) : std::nullopt;
-    if (!work) {
+    const std::optional<Configuration> saved = readConfiguration(path).configuration;
+    if (!saved) {
         return false;
     }
-    const RestoreOutcome outcome = restoreWork(*m_data, *work, content->scenes);
+    const RestoreOutcome outcome = restoreWork(*m_data, saved->work, saved->pictures);
     if (!outcome.missing.isEmpty()) {
         warnOfMissingDevices(outcome.missing);
     }
     return outcome.isComplete;
+}
+
+QList<SavedDevice> TesselDoc::takeOver(const Configuration& configuration)
+{
+    return restoreWork(*m_data, configuration.work, configuration.pictures, IfMissing::LeaveOut)
+        .missing;
 }

@@ -2,11 +2,14 @@
 
 #include "idocaccessor.h"
 
+#include <QList>
 #include <QObject>
 
 #include <memory>
 
+struct Configuration;
 struct DocumentData;
+struct SavedDevice;
 
 /// The wizard's one document: network interface, devices, rooms, layouts, device sets, presets.
 /// It lives from program start to exit; everybody else sees it as IDocAccessor.
@@ -33,6 +36,10 @@ public:
     bool getDataList(int kind, const QVariantMap& selector, QList<QVariantMap>& list) override;
     bool saveResume(const QString& path) override;
     bool loadResume(const QString& path) override;
+
+    /// Takes the work of a file into this document, but for placed devices that are not there:
+    /// these are returned, and nobody is told.
+    QList<SavedDevice> takeOver(const Configuration& configuration);
 
 private:
     std::unique_ptr<DocumentData> m_data;

@@ -2,6 +2,7 @@
 
 #include "pngstream.h"
 
+#include <QCoreApplication>
 #include <QDataStream>
 #include <QFile>
 #include <QImage>
@@ -105,6 +106,18 @@ QList<SceneInfo> readScenes(QDataStream& stream)
     return scenes;
 }
 
+/// Why what was read of a file is not all of it; empty when it is.
+QString readingFault(const QFile& file, qsizetype size)
+{
+    if (file.error() != QFileDevice::NoError) {
+        return file.exists() ? file.errorString() + QLatin1Char('.')
+                             : QCoreApplication::translate("ResumeFile", "There is no such file.");
+    }
+    return size <= maxFileSize ? QString()
+                               : QCoreApplication::translate(
+                                     "ResumeFile", "It is larger than any configuration (8 MiB).");
+}
+
 } // namespace
 
 QByteArray packResumeFile(const ResumeFile& content)
@@ -138,13 +151,16 @@ bool writeResumeFile(const QString& path, const QByteArray& bytes)
            file.write(bytes) == bytes.size() && file.flush() && file.commit();
 }
 
-std::optional<QByteArray> readResumeFile(const QString& path)
+std::optional<QByteArray> readResumeFile(const QString& path, QString* error)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return std::nullopt;
+    QByteArray bytes;
+    if (file.open(QIODevice::ReadOnly)) {
+        bytes = file.read(maxFileSize + 1);
     }
-    const QByteArray bytes = file.read(maxFileSize + 1);
-    const bool isWhole = file.error() == QFileDevice::NoError && bytes.size() <= maxFileSize;
-    return isWhole ? std::optional(bytes) : std::nullopt;
+    const QString fault = readingFault(file, bytes.size());
+    if (error != nullptr) {
+        *error = fault;
+    }
+    return fault.isEmpty() ? std::optional(bytes) : std::nullopt;
 }

@@ -10,6 +10,7 @@
 #include "textlabel.h"
 
 #include <QDebug>
+#include <QDir>
 #include <QLabel>
 #include <QSet>
 #include <QVBoxLayout>
@@ -223,6 +224,16 @@ void Install::explainStatus(const QString& ipAddress, const QString& words)
     for (QTreeWidgetItem* row : m_hubTable->rowsOf(ipAddress)) {
         row->setToolTip(StatusColumn, words);
         row->setData(StatusColumn, Qt::AccessibleDescriptionRole, words);
+    }
+}
+
+void Install::tellKeptFile(const QString& path)
+{
+    const QString kept = tr("The hall is kept in %1").arg(QDir::toNativeSeparators(path));
+    for (int index = 0; index < m_hubTable->topLevelItemCount(); ++index) {
+        const QString address = m_hubTable->topLevelItem(index)->text(AddressColumn);
+        const QString reason = m_reasons.value(address);
+        explainStatus(address, reason.isEmpty() ? kept : reason + QLatin1Char('\n') + kept);
     }
 }
 

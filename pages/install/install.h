@@ -39,6 +39,9 @@ public:
     /// True when hubs are listed and all are done.
     bool isDone() const;
 
+    /// Says at every "Done" that the hall is kept in the file at this path.
+    void tellKeptFile(const QString& path);
+
     /// While nothing can be installed, what is missing for it.
     QStringList missing() const override;
 

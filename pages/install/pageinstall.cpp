@@ -2,6 +2,7 @@
 
 #include "install.h"
 #include "ipagecontroller.h"
+#include "kepthall.h"
 #include "pagekeys.h"
 #include "pagescroll.h"
 #include "quietline.h"
@@ -10,6 +11,8 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <utility>
 
 PageInstall::PageInstall(IPageController* controller, IDocAccessor* doc, QWidget* parent)
     : BasePage(tr("8. Install Presets"), stepNumber(WizardPage::Install), controller, doc, parent)
@@ -74,6 +77,7 @@ void PageInstall::executeButtonClicked()
 {
     if (m_executeButton->text() == tr("Execute")) {
         m_executedWork = enteredWork(doc());
+        m_isHallKept = false;
         m_content->install();
         installStatusChanged();
     } else {
@@ -89,6 +93,9 @@ void PageInstall::installStatusChanged()
     }
     watchForChanges();
     controller().setInstallDone(done && m_executedWork);
+    if (done && m_executedWork) {
+        keepInstalledHall();
+    }
     setExecuteEnabled(!m_content->isBusy());
 }
 
@@ -116,6 +123,18 @@ void PageInstall::watchForChanges()
 {
     if (m_executedWork && *m_executedWork != enteredWork(doc())) {
         m_executedWork.reset();
+    }
+}
+
+/// Once for each installation, though hubs that are listed no longer may end after the last one.
+void PageInstall::keepInstalledHall()
+{
+    if (std::exchange(m_isHallKept, true)) {
+        return;
+    }
+    const QString path = keepHall(doc(), window()->size());
+    if (!path.isEmpty()) {
+        m_content->tellKeptFile(path);
     }
 }
 

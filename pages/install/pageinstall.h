@@ -38,6 +38,7 @@ private:
     void load();
     void buildLayout();
     void watchForChanges();
+    void keepInstalledHall();
     void setExecuteEnabled(bool enable);
     void explainButton();
 
@@ -46,5 +47,6 @@ private:
     QuietLine* m_quietLine;
     QPushButton* m_executeButton;
     std::optional<EnteredWork> m_executedWork; ///< as of "Execute"; nothing once it was changed
+    bool m_isHallKept = false;                 ///< since "Execute", or it could not be kept
     QPointer<QWidget> m_focusMeanwhile;        ///< has the focus that the disabled button had
 };

@@ -75,6 +75,7 @@ private Q_SLOTS:
     void outputThatCannotBeWrittenIsAFailure();
     void eachUnknownArgumentIsToldOnce();
     void argumentsThatAreUsedAreNotTold();
+    void ofTwoFilesTheSecondIsTold();
     void passwordsAreNotTold();
 };
 
@@ -94,7 +95,7 @@ void TestProgram::helpNeedsNoDisplay()
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.errors, QString());
     QVERIFY2(run.output.startsWith(u"Usage: tessel "), qPrintable(run.output));
-    for (const char* word : {"-N:", "-D:", "--help", "--version"}) {
+    for (const char* word : {"FILE.tessel", "-N:", "-D:", "--help", "--version"}) {
         QVERIFY2(run.output.contains(QLatin1String(word)), word);
     }
 }
@@ -157,6 +158,13 @@ void TestProgram::argumentsThatAreUsedAreNotTold()
         QStringLiteral("-N:1"),      QStringLiteral("-D:PX-HB/A/2.1/127.0.0.1/00:A0:DE:10:00:01"),
         QStringLiteral("--last")};
     QCOMPARE(told(arguments, 1), QStringList(QStringLiteral("tessel: argument ignored: ...")));
+}
+
+void TestProgram::ofTwoFilesTheSecondIsTold()
+{
+    const QStringList arguments{QStringLiteral("-N:1"), QStringLiteral("halls/a.tessel"),
+                                QStringLiteral("halls/b.tessel")};
+    QCOMPARE(told(arguments, 1), QStringList(QStringLiteral("tessel: argument ignored: b.tessel")));
 }
 
 void TestProgram::passwordsAreNotTold()

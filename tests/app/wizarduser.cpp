@@ -24,12 +24,14 @@ constexpr HandedOver devices[] = {{"Hub-A", "PX-HB"}, {"Hub-B", "PX-HB"},   {"Le
 
 } // namespace
 
-WizardUser::WizardUser()
+WizardUser::WizardUser(const QStringList& without)
 {
     setNicIndex(doc, 7); // no dialog at the start
     for (const HandedOver& device : devices) {
         const QString label = QLatin1String(device.label);
-        addTestDevice(doc, label, QLatin1String(device.model), address(label));
+        if (!without.contains(label)) {
+            addTestDevice(doc, label, QLatin1String(device.model), address(label));
+        }
     }
 }
 
@@ -47,9 +49,9 @@ QString WizardUser::address(const QString& label)
     return {};
 }
 
-void WizardUser::open()
+void WizardUser::open(ConfigurationFile* file)
 {
-    window = std::make_unique<MainWindow>(nullptr, &doc);
+    window = std::make_unique<MainWindow>(nullptr, &doc, file);
     window->show();
 }
 

@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class ConfigurationFile;
 class MainWindow;
 class QTreeWidgetItem;
 class QWidget;
@@ -20,14 +21,19 @@ using Cells = QList<QPoint>;
 class WizardUser
 {
 public:
-    WizardUser();
+    WizardUser()
+        : WizardUser(QStringList())
+    {
+    }
+    /// The same where the devices of these labels are not there.
+    explicit WizardUser(const QStringList& without);
     ~WizardUser();
 
     /// The address of a device.
     static QString address(const QString& label);
 
-    /// Starts the wizard, which loads saved work.
-    void open();
+    /// Starts the wizard, which loads saved work, or that of a file.
+    void open(ConfigurationFile* file = nullptr);
     /// Closes the window and answers the question with "Yes".
     void closeAndSave();
 

@@ -31,6 +31,8 @@ private Q_SLOTS:
 namespace {
 
 constexpr int statusColumn = 3;
+// What "Done" says when nothing else is to be said of it.
+const QString hallIsKept = QStringLiteral("The hall is kept in ");
 
 QTreeWidgetItem* rowOf(const InstallHall& step, int hub)
 {
@@ -129,9 +131,11 @@ void TestInstallReasons::aRefusedRecallIsNamedAlthoughTheHubIsDone()
     step.setFault(1, refusedRecall());
     press(step.execute());
     QTRY_COMPARE(step.status(1), QStringLiteral("Done"));
-    QCOMPARE(told(step, 1), QStringLiteral("Recalling the preset of layout 1: the hub answered, "
-                                           "but did not do it"));
-    QVERIFY(line(step).endsWith(told(step, 1)));
+    // Behind it stands where the hall is kept.
+    const QString reason = told(step, 1).section(u'\n', 0, 0);
+    QCOMPARE(reason, QStringLiteral("Recalling the preset of layout 1: the hub answered, but did "
+                                    "not do it"));
+    QVERIFY(line(step).endsWith(reason));
 }
 
 void TestInstallReasons::theReasonIsPrintedOnce()
@@ -164,7 +168,7 @@ void TestInstallReasons::theReasonGoesWithTheNextTry()
     press(step.execute());
     QCOMPARE(line(step), QString());
     QTRY_COMPARE(step.status(1), QStringLiteral("Done"));
-    QCOMPARE(told(step, 1), QString());
+    QVERIFY(told(step, 1).startsWith(hallIsKept));
     QCOMPARE(line(step), QString());
 }
 
@@ -174,7 +178,7 @@ void TestInstallReasons::theStatusShowsHowFarTheTransferIs()
     QStringList seen;
     QVERIFY(connect(step.list(), &QTreeWidget::itemChanged, this, [&](QTreeWidgetItem* row) {
         const QString words = row->toolTip(statusColumn);
-        if (!words.isEmpty() && !seen.contains(words)) {
+        if (!words.isEmpty() && !words.startsWith(hallIsKept) && !seen.contains(words)) {
             QCOMPARE(row->text(statusColumn), QStringLiteral("Installing..."));
             seen.append(words);
         }
@@ -187,7 +191,7 @@ void TestInstallReasons::theStatusShowsHowFarTheTransferIs()
         expected.append(QStringLiteral("%1 of 6 files stored").arg(files));
     }
     QCOMPARE(seen, expected);
-    QCOMPARE(told(step, 1), QString());
+    QVERIFY(told(step, 1).startsWith(hallIsKept));
     QVERIFY(!rowOf(step, 1)->data(statusColumn, Qt::UserRole).isValid());
 }
 

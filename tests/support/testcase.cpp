@@ -41,6 +41,8 @@ int runTestCase(TestCase& test, int argc, char** argv)
 {
     const QTemporaryDir home;
     qputenv("HOME", home.path().toLocal8Bit());
+    // It may say that the documents are in another place than below HOME.
+    qunsetenv("XDG_CONFIG_HOME");
     // Where the session has none, Qt warns that it makes up a folder of its own.
     qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
     const QApplication application(argc, argv);

@@ -23,6 +23,9 @@ private Q_SLOTS:
     void devicesKeepTheirOrder();
     void ofDevicesOfOneAddressTheFirstAcceptedOneCounts();
     void unknownArgumentsAreIgnored();
+    void theFirstConfigurationFileIsOpened_data();
+    void theFirstConfigurationFileIsOpened();
+    void aSecondConfigurationFileIsToldByItsName();
     void ignoredArgumentsAreShownWithoutTheirValues_data();
     void ignoredArgumentsAreShownWithoutTheirValues();
     void noPieceOfAPasswordIsShown_data();
@@ -219,6 +222,43 @@ void TestCommandLine::unknownArgumentsAreIgnored()
     QVERIFY(commandLine.devices.isEmpty());
 }
 
+void TestCommandLine::theFirstConfigurationFileIsOpened_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("path");
+    const auto row = [](const char* name, const QStringList& arguments, const char* path) {
+        QTest::newRow(name) << arguments << QString::fromLatin1(path);
+    };
+    const QString device = QStringLiteral("-D:PX-HB/A/2.1.0/10.0.0.1/00:a0:de:00:00:01");
+    row("none", {}, "");
+    row("alone", {QStringLiteral("hall.tessel")}, "hall.tessel");
+    row("in a folder", {QStringLiteral("/home/a b/hall.tessel")}, "/home/a b/hall.tessel");
+    row("in capitals", {QStringLiteral("HALL.TESSEL")}, "HALL.TESSEL");
+    row("behind others", {QStringLiteral("-N:3"), device, QStringLiteral("hall.tessel")},
+        "hall.tessel");
+    row("of two", {QStringLiteral("a.tessel"), QStringLiteral("b.tessel")}, "a.tessel");
+    row("an option", {QStringLiteral("--hall=x.tessel"), QStringLiteral("-x.tessel")}, "");
+    row("another ending", {QStringLiteral("hall.tessel.bak"), QStringLiteral("tessel")}, "");
+    row("a device of that label", {QStringLiteral("-D:PX-HB/a.tessel")}, "");
+}
+
+void TestCommandLine::theFirstConfigurationFileIsOpened()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, path);
+    // The program's own name is none, whatever it ends in.
+    QCOMPARE(configurationPath(QStringList{QStringLiteral("my.tessel")} + arguments), path);
+    QVERIFY(path.isEmpty() || !ignoredArguments(QStringList{QString()} + arguments).contains(path));
+}
+
+void TestCommandLine::aSecondConfigurationFileIsToldByItsName()
+{
+    const QStringList arguments{QStringLiteral("tessel"), QStringLiteral("/halls/a.tessel"),
+                                QStringLiteral("/halls/b.tessel"), QStringLiteral("stray")};
+    QCOMPARE(ignoredArguments(arguments),
+             QStringList({QStringLiteral("b.tessel"), QStringLiteral("stray")}));
+}
+
 void TestCommandLine::ignoredArgumentsAreShownWithoutTheirValues_data()
 {
     QTest::addColumn<QString>("argument");
@@ -266,6 +306,8 @@ void TestCommandLine::noPieceOfAPasswordIsShown_data()
     row("a label with a space", "-D:PX-HB/A B/2.1/10.0.0.1/00:a0:de:00:00:01/HTTP/secret");
     row("a model with a space", "-D:PX HB/A/2.1/10.0.0.1/00:a0:de:00:00:01/HTTP/secret");
     row("a password with a space", "-D:PX-HB/A/2.1/10.0.0.1/00:a0:de:00:00:01/HTTP/top secret");
+    row("one like a second file",
+        "a.tessel -D:PX-HB/A/2.1/10.0.0.1/00:a0:de:00:00:01/HTTP/top secret.tessel");
     row("one with a hyphen", "-D:PX-HB/A/2.1/10.0.0.1/00:a0:de:00:00:01/HTTP/top -secret");
 }
 

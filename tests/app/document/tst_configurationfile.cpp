@@ -1,0 +1,225 @@
+#include "configurationfile.h"
+#include "devicequeries.h"
+#include "dialoganswerer.h"
+#include "documentfixtures.h"
+#include "layoutqueries.h"
+#include "presetqueries.h"
+#include "resumefile.h"
+#include "roomqueries.h"
+#include "sessionqueries.h"
+#include "setqueries.h"
+#include "tesseldoc.h"
+#include "testcase.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+const QString hub = QStringLiteral("10.0.0.1");
+const QString speaker = QStringLiteral("10.0.0.2");
+const QString microphone = QStringLiteral("10.0.0.3");
+
+FoundDevice deviceAtAddress(const QString& address)
+{
+    const QString model = address == hub       ? QStringLiteral("PX-HB")
+                          : address == speaker ? QStringLiteral("DSK4M")
+                                               : QStringLiteral("PX-DL");
+    return testDevice(QStringLiteral("Device ") + address, model, address);
+}
+
+/// All three in room 1 and in both sets of it; the speaker on the right, the microphone removed
+/// from the second.
+void fill(TesselDoc& doc)
+{
+    drawRooms(doc, 2);
+    addColouredLayout(doc, 1, QStringLiteral("1/2"), Qt::red);
+    addColouredLayout(doc, 2, QStringLiteral("1+2"), Qt::blue);
+    for (const QString& address : {hub, speaker, microphone}) {
+        QVERIFY(addDevice(doc, deviceAtAddress(address)));
+        QVERIFY(setDeviceRoom(doc, address, 1));
+        QVERIFY(addToDeviceSet(doc, 1, 1, address, false));
+        QVERIFY(addToDeviceSet(doc, 3, 2, address, address == microphone));
+    }
+    QVERIFY(setSpeakerPosition(doc, 3, 2, speaker, QStringLiteral("R")));
+    QVERIFY(addPreset(doc, 3, 2, QStringLiteral("Whole hall")));
+    setPageIndex(doc, 7);
+    setWindowSize(doc, {900, 700});
+}
+
+bool writeBytes(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+QByteArray bytesOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+/// A file of the user's own, read into a document.
+class TestConfigurationFile : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void whereEveryDeviceIsThereAllOfItComesBack();
+    void aMissingDeviceIsToldOfAndAllTheRestIsTaken();
+    void aDeviceAtTheAddressOfAMissingOneTakesItsPlacesInTheSets();
+    void aMissingDeviceOfNoRoomIsNotToldOf();
+    void whatCannotBeOpenedSaysWhyAndLeavesTheDocumentAsItIs_data();
+    void whatCannotBeOpenedSaysWhyAndLeavesTheDocumentAsItIs();
+    void thePathIsKnownWhereverTheProgramWorks();
+    void readingLeavesTheFileAsItIs();
+
+private:
+    QTemporaryDir m_folder;
+    QString m_path;
+};
+
+void TestConfigurationFile::init()
+{
+    TestCase::init();
+    m_path = m_folder.filePath(QStringLiteral("hall.tessel"));
+    QDir(m_path).removeRecursively();
+    QFile::remove(m_path);
+    TesselDoc doc(nullptr);
+    fill(doc);
+    QVERIFY(doc.saveResume(m_path));
+}
+
+void TestConfigurationFile::whereEveryDeviceIsThereAllOfItComesBack()
+{
+    TesselDoc doc(nullptr);
+    for (const QString& address : {hub, speaker, microphone}) {
+        QVERIFY(addDevice(doc, deviceAtAddress(address)));
+    }
+    ConfigurationFile file(&doc, m_path);
+    QVERIFY(file.read());
+    QVERIFY(file.load());
+    QCOMPARE(pageIndex(doc), 7);
+    QCOMPARE(windowSize(doc), QSize(900, 700));
+    QCOMPARE(devicesInRoom(doc, 1).size(), 3);
+    QVERIFY(deviceSetRecord(doc, 3, 2, microphone)->remove);
+    const QString again = m_folder.filePath(QStringLiteral("again.tessel"));
+    QVERIFY(doc.saveResume(again));
+    QCOMPARE(bytesOf(again), bytesOf(m_path));
+}
+
+void TestConfigurationFile::aMissingDeviceIsToldOfAndAllTheRestIsTaken()
+{
+    TesselDoc doc(nullptr);
+    QVERIFY(addDevice(doc, deviceAtAddress(hub)));
+    QVERIFY(addDevice(doc, deviceAtAddress(speaker)));
+    ConfigurationFile file(&doc, m_path);
+    QVERIFY(file.read());
+    const DialogAnswerer told("Missing device", pressing("OK"));
+    QVERIFY(!file.load());
+    QVERIFY2(
+        told.text().endsWith(QStringLiteral("Hostname:Device 10.0.0.3,Model:PX-DL,IP=10.0.0.3\n")),
+        qPrintable(told.text()));
+    QCOMPARE(roomCount(doc), 2);
+    QCOMPARE(devicesInRoom(doc, 1).size(), 2);
+    QCOMPARE(layoutCount(doc), 2);
+    QCOMPARE(layoutAt(doc, 2)->thumbnail.toImage().pixelColor(9, 9), QColor(Qt::blue));
+    QCOMPARE(deviceSetRecord(doc, 3, 2, speaker)->speakerPosition, QStringLiteral("R"));
+    QVERIFY(deviceSetRecord(doc, 1, 1, hub));
+    QVERIFY2(!deviceSetRecord(doc, 1, 1, microphone), "a set of a device that is not there");
+    QVERIFY(!deviceSetRecord(doc, 3, 2, microphone));
+    QCOMPARE(presetName(doc, 3, 2), QStringLiteral("Whole hall"));
+    QCOMPARE(windowSize(doc), QSize(900, 700));
+}
+
+void TestConfigurationFile::aDeviceAtTheAddressOfAMissingOneTakesItsPlacesInTheSets()
+{
+    TesselDoc doc(nullptr);
+    QVERIFY(addDevice(doc, deviceAtAddress(hub)));
+    FoundDevice swapped = deviceAtAddress(speaker);
+    swapped.macAddress = QStringLiteral("02:00:00:00:00:99");
+    QVERIFY(addDevice(doc, swapped));
+    QVERIFY(addDevice(doc, deviceAtAddress(microphone)));
+    ConfigurationFile file(&doc, m_path);
+    QVERIFY(file.read());
+    const DialogAnswerer told("Missing device", pressing("OK"));
+    QVERIFY(!file.load());
+    QCOMPARE(deviceByAddress(doc, speaker)->roomNumber, 0);
+    QCOMPARE(deviceSetRecord(doc, 3, 2, speaker)->speakerPosition, QStringLiteral("R"));
+}
+
+void TestConfigurationFile::aMissingDeviceOfNoRoomIsNotToldOf()
+{
+    TesselDoc before(nullptr);
+    fill(before);
+    QVERIFY(setDeviceRoom(before, microphone, 0));
+    QVERIFY(before.saveResume(m_path));
+    TesselDoc doc(nullptr);
+    QVERIFY(addDevice(doc, deviceAtAddress(hub)));
+    QVERIFY(addDevice(doc, deviceAtAddress(speaker)));
+    ConfigurationFile file(&doc, m_path);
+    QVERIFY(file.read());
+    QVERIFY(file.load());
+    QVERIFY(!deviceSetRecord(doc, 1, 1, microphone));
+}
+
+void TestConfigurationFile::whatCannotBeOpenedSaysWhyAndLeavesTheDocumentAsItIs_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("reason");
+    const QString damaged =
+        QStringLiteral("It is no configuration of this wizard, or it is damaged.");
+    const auto bytesOfXml = [](const char* xml) {
+        return packResumeFile({QString::fromLatin1(xml), {}});
+    };
+    QTest::newRow("no such file") << QByteArray() << QStringLiteral("There is no such file.");
+    QTest::newRow("any text") << QByteArray("not a configuration") << damaged;
+    QTest::newRow("another root") << bytesOfXml("<Other Page='1'/>") << damaged;
+    QTest::newRow("no page of the wizard") << bytesOfXml("<Tessel Page='99'/>") << damaged;
+    QTest::newRow("too large") << QByteArray(8 * 1024 * 1024 + 1, 'x')
+                               << QStringLiteral("It is larger than any configuration (8 MiB).");
+    QTest::newRow("of a later version")
+        << bytesOfXml("<Tessel Page='7'><RoomInfoList><RoomInfo Number='1' PosList='{0,0}'/>"
+                      "</RoomInfoList><CurtainList/></Tessel>")
+        << QStringLiteral("It holds something that this version of the wizard does not know.");
+}
+
+void TestConfigurationFile::whatCannotBeOpenedSaysWhyAndLeavesTheDocumentAsItIs()
+{
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QString, reason);
+    QVERIFY(QFile::remove(m_path));
+    QVERIFY(bytes.isEmpty() || writeBytes(m_path, bytes));
+    TesselDoc doc(nullptr);
+    ConfigurationFile file(&doc, m_path);
+    QVERIFY(!file.read());
+    QCOMPARE(file.error(), reason);
+    QCOMPARE(roomCount(doc), 0);
+    QCOMPARE(pageIndex(doc), 0);
+}
+
+void TestConfigurationFile::thePathIsKnownWhereverTheProgramWorks()
+{
+    TesselDoc doc(nullptr);
+    const ConfigurationFile file(&doc, QStringLiteral("hall.tessel"));
+    QCOMPARE(file.path(), QDir::currentPath() + QStringLiteral("/hall.tessel"));
+}
+
+void TestConfigurationFile::readingLeavesTheFileAsItIs()
+{
+    const QByteArray before = bytesOf(m_path);
+    TesselDoc doc(nullptr);
+    ConfigurationFile file(&doc, m_path);
+    QVERIFY(file.read());
+    const DialogAnswerer told("Missing device", pressing("OK"));
+    QVERIFY(!file.load());
+    QCOMPARE(bytesOf(m_path), before);
+}
+
+TESSEL_TEST_MAIN(TestConfigurationFile)
+#include "tst_configurationfile.moc"
