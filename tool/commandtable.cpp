@@ -1,5 +1,6 @@
 #include "commandtable.h"
 
+#include "findcommand.h"
 #include "showcommand.h"
 
 #include <algorithm>
@@ -7,6 +8,7 @@
 CommandTable allCommands()
 {
     CommandTable commands;
+    commands.push_back(std::make_unique<FindCommand>());
     commands.push_back(std::make_unique<ShowCommand>());
     return commands;
 }
