@@ -31,14 +31,17 @@ DeviceDetector::DeviceDetector(QObject* parent, int networkInterfaceIndex)
 void DeviceDetector::detect()
 {
     const QNetworkAddressEntry local = localEntry();
-    const QByteArray query = buildDiscoveryQuery(local.ip().toString(), 0, 0);
-    if (m_socket == nullptr) {
-        openSocket(local);
-    }
-    // Written to an unbound socket, the query would leave from another port.
-    if (m_socket->state() == QAbstractSocket::BoundState) {
-        m_socket->writeDatagram(query, local.broadcast(), port);
-    }
+    sendQuery(local, local.broadcast());
+}
+
+void DeviceDetector::ask(const QString& ipText)
+{
+    sendQuery(localEntry(), QHostAddress(ipText));
+}
+
+bool DeviceDetector::isListening() const
+{
+    return m_socket != nullptr && m_socket->state() == QAbstractSocket::BoundState;
 }
 
 DetectedDevice DeviceDetector::deviceInfo(const QString& ipText) const
@@ -80,8 +83,10 @@ void DeviceDetector::deviceInfoReceived()
     found->version = receiver->version();
     found->serialNumber = receiver->serialNumber();
     found->currentPreset = receiver->currentPreset();
-    if (isHub(found->modelName)) {
-        groupHub(*found);
+    const DetectedDevice device = *found;
+    Q_EMIT deviceIdentified(ipText);
+    if (isHub(device.modelName)) {
+        groupHub(device);
     } else {
         Q_EMIT deviceDetected(ipText);
     }
@@ -94,6 +99,18 @@ QNetworkAddressEntry DeviceDetector::localEntry() const
     }
     const auto nic = QNetworkInterface::interfaceFromIndex(m_networkInterfaceIndex);
     return nic.isValid() ? firstIpv4Entry(nic.addressEntries()) : QNetworkAddressEntry();
+}
+
+void DeviceDetector::sendQuery(const QNetworkAddressEntry& local, const QHostAddress& receiver)
+{
+    const QByteArray query = buildDiscoveryQuery(local.ip().toString(), 0, 0);
+    if (m_socket == nullptr) {
+        openSocket(local);
+    }
+    // Written to an unbound socket, the query would leave from another port.
+    if (isListening()) {
+        m_socket->writeDatagram(query, receiver, port);
+    }
 }
 
 void DeviceDetector::openSocket(const QNetworkAddressEntry& local)
@@ -152,6 +169,7 @@ void DeviceDetector::askIdentity(DetectedDevice device)
     connect(device.receiver, SIGNAL(deviceInfoReceived()), this, SLOT(deviceInfoReceived()));
     m_devices.insert(device.ipAddress, device);
     device.receiver->start();
+    Q_EMIT deviceAnswered(device.ipAddress);
 }
 
 void DeviceDetector::groupHub(const DetectedDevice& device)

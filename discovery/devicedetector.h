@@ -6,6 +6,7 @@
 #include <QString>
 
 class DeviceInfoReceiver;
+class QHostAddress;
 class QNetworkAddressEntry;
 class QUdpSocket;
 
@@ -51,12 +52,25 @@ public:
     /// Broadcasts one query; replies are taken as they come, also those to earlier queries.
     void detect();
 
+    /// Sends the same query to one address alone, which a broadcast may not reach; the reply is
+    /// taken like any other.
+    void ask(const QString& ipText);
+
+    /// True once a query could be sent from the port of discovery; false after a query when the
+    /// port is taken or the interface has no address.
+    bool isListening() const;
+
     /// A copy of the record of an address; an empty record when the address is unknown.
     DetectedDevice deviceInfo(const QString& ipText) const;
 
 Q_SIGNALS:
     /// A device is known by its identity; its record is ready under this address.
     void deviceDetected(const QString& ipText);
+
+    /// For whoever wants to know why a device is not announced: it has replied to a query, and has
+    /// told its identity.
+    void deviceAnswered(const QString& ipText);
+    void deviceIdentified(const QString& ipText);
 
 protected:
     /// Ends the wait for a hub's second address.
@@ -74,6 +88,7 @@ private:
     };
 
     QNetworkAddressEntry localEntry() const;
+    void sendQuery(const QNetworkAddressEntry& local, const QHostAddress& receiver);
     void openSocket(const QNetworkAddressEntry& local);
     QList<QByteArray> takeDatagrams();
     void takeReply(const QByteArray& bytes);

@@ -55,9 +55,18 @@ void SCPCommandSender::tcpReadyRead()
     m_socket->readAll();
 }
 
+void SCPCommandSender::tcpErrorOccurred()
+{
+    if (m_socket->error() == QAbstractSocket::ConnectionRefusedError) {
+        Q_EMIT connectionRefused();
+    }
+}
+
 void SCPCommandSender::createSocket()
 {
     m_socket = new QTcpSocket(this);
     connect(m_socket, SIGNAL(connected()), this, SLOT(tcpConnected()));
     connect(m_socket, SIGNAL(readyRead()), this, SLOT(tcpReadyRead()));
+    connect(m_socket, SIGNAL(errorOccurred(QAbstractSocket::SocketError)), this,
+            SLOT(tcpErrorOccurred()));
 }

@@ -8,8 +8,8 @@ class QTcpSocket;
 /// Base of every object that speaks to a device's text-command port: it holds the device's address
 /// and the connection, and leaves the conversation to the derived class.
 ///
-/// There is no time-out and no error report: a device that refuses, closes or stays silent simply
-/// never makes the derived class emit anything.
+/// There is no time-out: a device that refuses, closes or stays silent simply never makes the
+/// derived class emit anything. Only a refusal is told, to whoever wants to know why.
 class SCPCommandSender : public QObject
 {
     Q_OBJECT
@@ -27,6 +27,10 @@ public:
     /// Connects to the device; the conversation begins in tcpConnected(). Does nothing while a
     /// connection exists or is being made; connects anew after the device has closed it.
     virtual void start();
+
+Q_SIGNALS:
+    /// The device, or what stands at its address, takes no connection to the text-command port.
+    void connectionRefused();
 
 protected:
     /// True while commands can be sent at once.
@@ -50,6 +54,9 @@ protected Q_SLOTS:
     /// Called whenever bytes have arrived. The default drops them, so that the answers to commands
     /// nobody listens to do not pile up.
     virtual void tcpReadyRead();
+
+private Q_SLOTS:
+    void tcpErrorOccurred();
 
 private:
     void createSocket();

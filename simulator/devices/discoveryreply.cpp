@@ -1,7 +1,6 @@
 #include "discoveryreply.h"
 
 #include <QHostAddress>
-#include <algorithm>
 
 namespace {
 
@@ -80,9 +79,10 @@ void apply(QList<QByteArray>& datagrams, const Fault& fault)
     }
 }
 
-bool isSilent(const Fault& fault)
+bool silences(const Fault& fault, QueryWay way)
 {
-    return fault.kind == FaultKind::NoReply;
+    return fault.kind == FaultKind::NoReply ||
+           (fault.kind == FaultKind::DirectOnly && way == QueryWay::ToAll);
 }
 
 } // namespace
@@ -98,13 +98,13 @@ QByteArray discoveryReply(const DeviceDescription& device, const QString& addres
     return bytes;
 }
 
-QList<QByteArray> planDatagrams(const QByteArray& reply, const QList<Fault>& faults)
+QList<QByteArray> planDatagrams(const QByteArray& reply, QueryWay way, const QList<Fault>& faults)
 {
-    if (std::any_of(faults.begin(), faults.end(), isSilent)) {
-        return {};
-    }
     QList<QByteArray> datagrams{reply};
     for (const Fault& fault : faults) {
+        if (silences(fault, way)) {
+            return {};
+        }
         apply(datagrams, fault);
     }
     return datagrams;

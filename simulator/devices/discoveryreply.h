@@ -13,8 +13,16 @@
 QByteArray discoveryReply(const DeviceDescription& device, const QString& address,
                           const QString& mac);
 
-/// Turns a reply into the datagrams that are sent under these faults; none is possible.
-QList<QByteArray> planDatagrams(const QByteArray& reply, const QList<Fault>& faults);
+/// Whom a query was sent to.
+enum class QueryWay
+{
+    ToAll,
+    Direct ///< to the device's own address
+};
+
+/// Turns the reply to a query that came this way into the datagrams that are sent under these
+/// faults; none is possible.
+QList<QByteArray> planDatagrams(const QByteArray& reply, QueryWay way, const QList<Fault>& faults);
 
 /// True when the datagram is a query of this protocol, well written or not; replies of other
 /// devices and foreign datagrams are none.

@@ -42,7 +42,8 @@ void DiscoveryResponder::readQueries()
     while (socket != nullptr && socket->hasPendingDatagrams()) {
         const QNetworkDatagram datagram = socket->receiveDatagram();
         if (isDiscoveryQuery(datagram.data())) {
-            answer(datagram.data(), datagram.senderAddress());
+            hear(datagram.data(), datagram.senderAddress(),
+                 QHostAddress(datagram.destinationAddress().toIPv4Address()).toString());
         }
     }
 }
@@ -76,7 +77,8 @@ bool DiscoveryResponder::bind(const QString& address, QString* error)
     return false;
 }
 
-void DiscoveryResponder::answer(const QByteArray& query, const QHostAddress& sender)
+void DiscoveryResponder::hear(const QByteArray& query, const QHostAddress& sender,
+                              const QString& receiver)
 {
     const QString senderText = QHostAddress(sender.toIPv4Address()).toString();
     ++m_queries;
@@ -84,16 +86,27 @@ void DiscoveryResponder::answer(const QByteArray& query, const QHostAddress& sen
         m_differences.append(*difference);
         Q_EMIT differenceFound(senderText, *difference);
     }
-    for (SimulatedDevice* device : m_devices) {
-        for (const NetworkPort& networkPort : device->networkPorts()) {
-            for (const QByteArray& datagram : device->discoveryReplies(networkPort)) {
-                m_replies.append({m_sockets.value(networkPort.address), datagram, sender});
-            }
-        }
-    }
+    // Only the devices' own addresses have sockets, besides the one at which all are asked.
+    const bool isDirect = receiver != m_listenAddress && m_sockets.contains(receiver);
+    answer(sender, isDirect ? receiver : QString());
     Q_EMIT queryHeard(senderText);
     if (!m_pace.isActive()) {
         m_pace.start();
         sendSome();
+    }
+}
+
+void DiscoveryResponder::answer(const QHostAddress& sender, const QString& onlyPort)
+{
+    const QueryWay way = onlyPort.isEmpty() ? QueryWay::ToAll : QueryWay::Direct;
+    for (SimulatedDevice* device : m_devices) {
+        for (const NetworkPort& networkPort : device->networkPorts()) {
+            if (way == QueryWay::Direct && networkPort.address != onlyPort) {
+                continue;
+            }
+            for (const QByteArray& datagram : device->discoveryReplies(networkPort, way)) {
+                m_replies.append({m_sockets.value(networkPort.address), datagram, sender});
+            }
+        }
     }
 }

@@ -10,7 +10,8 @@
 
 class QUdpSocket;
 
-/// Answers discovery queries on UDP port 54330 for all devices, each from its own address.
+/// Answers discovery queries on UDP port 54330 for all devices, each from its own address. A query
+/// to the address of one network port is answered by that port alone.
 class DiscoveryResponder : public QObject
 {
     Q_OBJECT
@@ -50,7 +51,8 @@ private:
     };
 
     bool bind(const QString& address, QString* error);
-    void answer(const QByteArray& query, const QHostAddress& sender);
+    void hear(const QByteArray& query, const QHostAddress& sender, const QString& receiver);
+    void answer(const QHostAddress& sender, const QString& onlyPort);
 
     QList<SimulatedDevice*> m_devices;
     QString m_listenAddress;

@@ -1,22 +1,18 @@
 #include "simulateddevice.h"
 
 #include "devicelistener.h"
-#include "discoveryreply.h"
 #include "redaction.h"
 #include "textconnection.h"
 
 #include <QTimer>
+#include <algorithm>
 
 namespace {
 
-bool isPrevented(const QList<Fault>& faults)
+bool holds(const QList<Fault>& faults, FaultKind kind)
 {
-    for (const Fault& fault : faults) {
-        if (fault.kind == FaultKind::ErrorAnswer) {
-            return true;
-        }
-    }
-    return false;
+    return std::any_of(faults.begin(), faults.end(),
+                       [kind](const Fault& fault) { return fault.kind == kind; });
 }
 
 } // namespace
@@ -59,12 +55,12 @@ void SimulatedDevice::clearFaults()
     applyRefusals();
 }
 
-QList<QByteArray> SimulatedDevice::discoveryReplies(const NetworkPort& port)
+QList<QByteArray> SimulatedDevice::discoveryReplies(const NetworkPort& port, QueryWay way)
 {
     if (m_isDeaf) {
         return {};
     }
-    return planDatagrams(discoveryReply(m_description, port.address, port.mac),
+    return planDatagrams(discoveryReply(m_description, port.address, port.mac), way,
                          m_faults.take(Exchange::Discovery));
 }
 
@@ -172,23 +168,47 @@ void SimulatedDevice::applyRefusals()
     }
 }
 
-Delivery SimulatedDevice::answerLine(const QByteArray& line)
+bool SimulatedDevice::refuses(const QByteArray& line) const
 {
-    const Exchange exchange = TextCommands::exchangeOf(line);
-    const QList<Fault> faults = m_faults.take(exchange);
-    TextAnswer answer{exchange, errorAnswer(line), {}};
-    if (!isPrevented(faults)) {
-        answer = m_commands.answer(line);
+    const std::optional<int> number = TextCommands::recallNumber(line);
+    return number && !hasPreset(*number);
+}
+
+TextAnswer SimulatedDevice::carryOut(const QByteArray& line, const QList<Fault>& faults)
+{
+    const bool isPrevented =
+        holds(faults, FaultKind::ErrorAnswer) || holds(faults, FaultKind::NoAnswer);
+    if (isPrevented || refuses(line)) {
+        return {TextCommands::exchangeOf(line), errorAnswer(line), {}};
     }
-    JournalEntry entry{0, exchangeName(exchange), redacted(line), {}};
-    if (exchange == Exchange::UnknownCommand) {
-        entry.differences.append(QStringLiteral("unknown command \"%1\"").arg(entry.text));
+    if (holds(faults, FaultKind::NoEffect)) {
+        TextCommands pretended = m_commands;
+        return pretended.answer(line);
     }
+    return m_commands.answer(line);
+}
+
+void SimulatedDevice::tell(const JournalEntry& entry, const TextAnswer& answer)
+{
     record(entry);
-    if (exchange == Exchange::IdentifyCommand || exchange == Exchange::RecallCommand) {
-        Q_EMIT noticed(address(), entry.text);
+    if (answer.exchange == Exchange::IdentifyCommand ||
+        answer.exchange == Exchange::RecallCommand) {
+        const bool isRefused = answer.answer.startsWith("ERROR");
+        Q_EMIT noticed(address(),
+                       isRefused ? entry.text + QStringLiteral(": refused") : entry.text);
         Q_EMIT changed(address());
     }
     Q_EMIT commandHandled(address(), entry.text);
+}
+
+Delivery SimulatedDevice::answerLine(const QByteArray& line)
+{
+    const QList<Fault> faults = m_faults.take(TextCommands::exchangeOf(line));
+    const TextAnswer answer = carryOut(line, faults);
+    JournalEntry entry{0, exchangeName(answer.exchange), redacted(line), {}};
+    if (answer.exchange == Exchange::UnknownCommand) {
+        entry.differences.append(QStringLiteral("unknown command \"%1\"").arg(entry.text));
+    }
+    tell(entry, answer);
     return planAnswer(answer, faults);
 }

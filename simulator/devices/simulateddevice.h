@@ -1,5 +1,6 @@
 #pragma once
 
+#include "discoveryreply.h"
 #include "faultplan.h"
 #include "halldescription.h"
 #include "journal.h"
@@ -57,7 +58,7 @@ public:
     void clearFaults();
 
     /// The datagrams with which the device answers a discovery query on one of its ports now.
-    QList<QByteArray> discoveryReplies(const NetworkPort& port);
+    QList<QByteArray> discoveryReplies(const NetworkPort& port, QueryWay way);
 
 Q_SIGNALS:
     /// An HTTP request was answered; `name` as in exchangeName().
@@ -83,6 +84,9 @@ protected:
     void record(const JournalEntry& entry);
     /// Drops all connections and refuses new ones for so many ms.
     void goDeaf(int ms);
+    /// True when the device can recall this preset. A peripheral keeps none: it follows every
+    /// number that it is told.
+    virtual bool hasPreset(int /*number*/) const { return true; }
     /// Drops every connection at once.
     virtual void dropConnections();
 
@@ -108,6 +112,9 @@ private:
     bool openListeners(QString* error);
     void closeListeners();
     void applyRefusals();
+    bool refuses(const QByteArray& line) const;
+    TextAnswer carryOut(const QByteArray& line, const QList<Fault>& faults);
+    void tell(const JournalEntry& entry, const TextAnswer& answer);
     Delivery answerLine(const QByteArray& line);
 
     DeviceDescription m_description;

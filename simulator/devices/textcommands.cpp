@@ -1,5 +1,6 @@
 #include "textcommands.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -34,11 +35,6 @@ std::optional<int> numberBehind(const QByteArray& line, const QByteArray& prefix
     return isPlain ? std::optional(number) : std::nullopt;
 }
 
-std::optional<int> recallNumber(const QByteArray& line)
-{
-    return numberBehind(line, "ssrecall_ex config ");
-}
-
 std::optional<int> identifyNumber(const QByteArray& line)
 {
     return numberBehind(line, "identify ");
@@ -66,6 +62,11 @@ void apply(Delivery& delivery, QByteArray& answer, const Fault& fault)
                           : QList<Delivery::Piece>{{answer}};
 }
 
+bool isMute(const Fault& fault)
+{
+    return fault.kind == FaultKind::NoAnswer;
+}
+
 } // namespace
 
 TextCommands::TextCommands(const DeviceDescription& description)
@@ -84,6 +85,11 @@ Exchange TextCommands::exchangeOf(const QByteArray& line)
         return Exchange::RecallCommand;
     }
     return identifyNumber(line) ? Exchange::IdentifyCommand : Exchange::UnknownCommand;
+}
+
+std::optional<int> TextCommands::recallNumber(const QByteArray& line)
+{
+    return numberBehind(line, "ssrecall_ex config ");
 }
 
 TextAnswer TextCommands::answer(const QByteArray& line)
@@ -136,6 +142,9 @@ QByteArray errorAnswer(const QByteArray& line)
 
 Delivery planAnswer(const TextAnswer& answer, const QList<Fault>& faults)
 {
+    if (std::any_of(faults.begin(), faults.end(), isMute)) {
+        return {};
+    }
     Delivery delivery;
     QByteArray text = answer.answer;
     delivery.pieces = {{text}};

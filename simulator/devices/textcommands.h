@@ -5,6 +5,8 @@
 #include "fault.h"
 #include "halldescription.h"
 
+#include <optional>
+
 /// The answer of a device to one line of its text-command port.
 struct TextAnswer
 {
@@ -23,6 +25,9 @@ public:
 
     /// What the line (without its line feed) asks for.
     static Exchange exchangeOf(const QByteArray& line);
+
+    /// The preset that the line asks to recall; nothing when it asks for something else.
+    static std::optional<int> recallNumber(const QByteArray& line);
 
     /// Answers one line and carries it out.
     TextAnswer answer(const QByteArray& line);

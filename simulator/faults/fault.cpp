@@ -36,6 +36,8 @@ constexpr std::array rows = {
     KindRow{FaultKind::SplitAnswer, "split-answer", Channel::Text, FaultValue::Cuts},
     KindRow{FaultKind::DoubledAnswer, "doubled-answer", Channel::Text, FaultValue::None},
     KindRow{FaultKind::ErrorAnswer, "error-answer", Channel::Text, FaultValue::None},
+    KindRow{FaultKind::NoAnswer, "no-answer", Channel::Text, FaultValue::None},
+    KindRow{FaultKind::NoEffect, "no-effect", Channel::Text, FaultValue::None},
     KindRow{FaultKind::NoQuotes, "no-quotes", Channel::Text, FaultValue::None},
     KindRow{FaultKind::RefuseText, "refuse-commands", Channel::Text, FaultValue::None},
     KindRow{FaultKind::StopAfter, "stop-after", Channel::Text, FaultValue::Number},
@@ -44,6 +46,7 @@ constexpr std::array rows = {
     KindRow{FaultKind::NoReplyFlag, "no-reply-flag", Channel::Discovery, FaultValue::None},
     KindRow{FaultKind::Truncated, "truncated", Channel::Discovery, FaultValue::Number},
     KindRow{FaultKind::NoReply, "no-reply", Channel::Discovery, FaultValue::None},
+    KindRow{FaultKind::DirectOnly, "direct-only", Channel::Discovery, FaultValue::None},
     KindRow{FaultKind::DuplicateReply, "duplicate-reply", Channel::Discovery, FaultValue::None},
     KindRow{FaultKind::RawDatagram, "raw-datagram", Channel::Discovery, FaultValue::Bytes},
 };

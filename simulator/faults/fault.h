@@ -34,6 +34,8 @@ enum class FaultKind
     SplitAnswer,        ///< the answer is cut before each offset in `cuts`; no cuts: in the middle
     DoubledAnswer,      ///< the answer comes twice in one packet
     ErrorAnswer,        ///< the answer begins with ERROR; nothing is carried out
+    NoAnswer,           ///< no answer, the connection stays; nothing is carried out
+    NoEffect,           ///< the answer is as ever, but nothing is carried out
     NoQuotes,           ///< the answer lacks its double quotes
     RefuseText,         ///< connections to the text-command port are refused
     StopAfter,          ///< no answers after the first `number` on a connection
@@ -42,6 +44,7 @@ enum class FaultKind
     NoReplyFlag,        ///< its reply flag is clear
     Truncated,          ///< only its first `number` bytes are sent
     NoReply,            ///< no discovery reply
+    DirectOnly,         ///< no reply to a query to all; one to the device alone is answered
     DuplicateReply,     ///< two datagrams instead of one
     RawDatagram         ///< the reply is `bytes`
 };

@@ -40,6 +40,11 @@ void SimulatedHub::reboot(int deafMs)
     goDeaf(deafMs);
 }
 
+bool SimulatedHub::hasPreset(int number) const
+{
+    return m_state.presets().contains(number);
+}
+
 void SimulatedHub::dropConnections()
 {
     SimulatedDevice::dropConnections();

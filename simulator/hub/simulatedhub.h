@@ -34,6 +34,8 @@ public:
     void reboot(int deafMs);
 
 protected:
+    /// A hub recalls only what it holds.
+    bool hasPreset(int number) const override;
     void dropConnections() override;
 
 private Q_SLOTS:

@@ -1,5 +1,6 @@
 #include "discoveryreply.h"
 #include "hall.h"
+#include "rawpeer.h"
 #include "testcase.h"
 
 #include <QNetworkDatagram>
@@ -45,9 +46,9 @@ public:
         return m_socket.bind(QHostAddress(querierAddress), DiscoveryResponder::port);
     }
 
-    void ask(const QByteArray& bytes = query)
+    void ask(const QByteArray& bytes = query, const QString& address = listenAddress)
     {
-        m_socket.writeDatagram(bytes, QHostAddress(listenAddress), DiscoveryResponder::port);
+        m_socket.writeDatagram(bytes, QHostAddress(address), DiscoveryResponder::port);
     }
 
     qsizetype gathered() const { return m_datagrams.size(); }
@@ -76,6 +77,9 @@ private Q_SLOTS:
     void everyDeviceAnswersFromItsOwnAddress();
     void hubWithTwoAddressesAnswersFromBoth();
     void manyDevicesAnswerWithoutLoss();
+    void queryToOneAddressIsAnsweredByItAlone();
+    void deviceThatAnswersOnlyDirectlyIsSilentWhenAllAreAsked();
+    void deviceThatAnswersTextCommandsOnlyIsSilentToEveryQuery();
     void foreignDatagramsAreNotAnswered_data();
     void foreignDatagramsAreNotAnswered();
     void wrongQueryIsToldAndAnswered_data();
@@ -151,6 +155,53 @@ void TestDiscoveryResponder::manyDevicesAnswerWithoutLoss()
     START_HALL_AND_QUERIER(100, 300);
     querier.ask();
     QTRY_COMPARE(querier.gathered(), qsizetype(400));
+}
+
+void TestDiscoveryResponder::queryToOneAddressIsAnsweredByItAlone()
+{
+    HallDescription description = hallOf(1, 2);
+    description.addSecondAddresses(1);
+    const QString second = description.hubs.front().secondAddress;
+    Hall hall(description);
+    QString error;
+    QVERIFY2(hall.start(&error), qPrintable(error));
+    Querier querier;
+    QVERIFY(querier.bind());
+    querier.ask(query, second);
+    QTRY_COMPARE(querier.gathered(), qsizetype(1));
+    // All four answer now: had the others answered before, there would be more.
+    querier.ask();
+    QTRY_COMPARE(querier.gathered(), qsizetype(5));
+    QVERIFY(querier.datagrams().front().senderAddress().isEqual(QHostAddress(second)));
+    QCOMPARE(hall.queryCount(), 2);
+    QCOMPARE(hall.differences(), QStringList());
+}
+
+void TestDiscoveryResponder::deviceThatAnswersOnlyDirectlyIsSilentWhenAllAreAsked()
+{
+    START_HALL_AND_QUERIER(0, 2);
+    hall.device(firstAddress)->setFault({.kind = FaultKind::DirectOnly});
+    querier.ask();
+    QTRY_COMPARE(querier.gathered(), qsizetype(1));
+    QVERIFY(!querier.datagrams().front().senderAddress().isEqual(QHostAddress(firstAddress)));
+    querier.ask(query, firstAddress);
+    QTRY_COMPARE(querier.gathered(), qsizetype(2));
+    QVERIFY(querier.datagrams().last().senderAddress().isEqual(QHostAddress(firstAddress)));
+}
+
+void TestDiscoveryResponder::deviceThatAnswersTextCommandsOnlyIsSilentToEveryQuery()
+{
+    START_HALL_AND_QUERIER(0, 2);
+    hall.device(firstAddress)->setFault({.kind = FaultKind::NoReply});
+    querier.ask(query, firstAddress);
+    querier.ask();
+    QTRY_COMPARE(querier.gathered(), qsizetype(1));
+    QVERIFY(!querier.datagrams().front().senderAddress().isEqual(QHostAddress(firstAddress)));
+    QCOMPARE(hall.queryCount(), 2);
+    RawPeer peer;
+    QVERIFY(peer.connectTo(firstAddress, SimulatedDevice::textPort));
+    peer.send("devinfo deviceid\n");
+    QVERIFY(peer.takeLine().startsWith("OK devinfo deviceid \""));
 }
 
 void TestDiscoveryResponder::foreignDatagramsAreNotAnswered_data()

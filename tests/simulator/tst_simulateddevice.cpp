@@ -40,6 +40,9 @@ private Q_SLOTS:
     void greetingOnItsOwn();
     void greetingWithTheFirstAnswer();
     void errorAnswerChangesNothing();
+    void noAnswerComesAndNothingIsDone();
+    void readBackIsNeverAnsweredButTheRestIs();
+    void recallWithoutEffectIsConfirmedAllTheSame();
     void answersStopAfterSome();
     void refusedConnections();
 
@@ -198,6 +201,39 @@ void TestSimulatedDevice::errorAnswerChangesNothing()
     QCOMPARE(ask(peer, "ssrecall_ex config 4\n"), QByteArray("ERROR ssrecall_ex config 4\n"));
     QCOMPARE(device->currentPreset(), 0);
     QCOMPARE(device->differences(), QStringList());
+}
+
+void TestSimulatedDevice::noAnswerComesAndNothingIsDone()
+{
+    START_DEVICE;
+    device->setFault({.exchange = Exchange::RecallCommand, .kind = FaultKind::NoAnswer});
+    CONNECT_PEER;
+    peer.send("ssrecall_ex config 4\n");
+    QCOMPARE(ask(peer, "sscurrent_ex config\n"), QByteArray("OK sscurrent_ex config 0\n"));
+    QCOMPARE(device->exchangeNames().join(u' '), QStringLiteral("recall-command current-preset"));
+}
+
+void TestSimulatedDevice::readBackIsNeverAnsweredButTheRestIs()
+{
+    START_DEVICE;
+    device->setFault({.exchange = Exchange::CurrentPreset, .kind = FaultKind::NoAnswer});
+    CONNECT_PEER;
+    peer.send("sscurrent_ex config\n");
+    QCOMPARE(ask(peer, "devinfo deviceid\n"), QByteArray("OK devinfo deviceid \"7\"\n"));
+    peer.send("sscurrent_ex config\n");
+    QCOMPARE(ask(peer, "identify 5\n"), QByteArray("OK identify 5\n"));
+    QVERIFY(peer.isConnected());
+}
+
+void TestSimulatedDevice::recallWithoutEffectIsConfirmedAllTheSame()
+{
+    START_DEVICE;
+    device->setFault({.exchange = Exchange::RecallCommand, .kind = FaultKind::NoEffect});
+    CONNECT_PEER;
+    peer.send("ssrecall_ex config 4\n");
+    QTRY_COMPARE(peer.packets(),
+                 (QList<QByteArray>{"OK ssrecall_ex config 4\n", "NOTIFY ssrecall_ex config 4\n"}));
+    QCOMPARE(device->currentPreset(), 0);
 }
 
 void TestSimulatedDevice::answersStopAfterSome()

@@ -33,6 +33,7 @@ class TestSimulatedHub : public TestCase
 private Q_SLOTS:
     void wholeInstallationIsKeptAsItWasGiven();
     void requestsMayArriveByteByByteOrJoined();
+    void textRecallOfAPresetThatTheHubHasNotIsRefused();
     void differencesAreReportedAndStillAnswered();
     void noSecretStandsInTheJournal();
     void secondAddressReachesTheSameHub();
@@ -134,6 +135,25 @@ void TestSimulatedHub::requestsMayArriveByteByByteOrJoined()
     peer.send(HubTexts::status(host) + HubTexts::token(host) + HubTexts::status(host));
     QTRY_COMPARE(hub->journal().size(), 4);
     QTRY_COMPARE(peer.received().count("HTTP/1.1 200 OK\r\n"), 3);
+    QCOMPARE(hub->differences(), QStringList());
+}
+
+void TestSimulatedHub::textRecallOfAPresetThatTheHubHasNotIsRefused()
+{
+    START_HALL(secret);
+    ask(peer, HubTexts::presetEntry(host, logIn(peer), 2, "A"));
+    QVERIFY(hub->presets().contains(2));
+    const QSignalSpy noticed(&hall, SIGNAL(noticed(QString, QString)));
+    RawPeer commands;
+    QVERIFY(commands.connectTo(address, SimulatedDevice::textPort));
+    commands.send("ssrecall_ex config 3\n");
+    QCOMPARE(commands.takeLine(), QByteArray("ERROR ssrecall_ex config 3\n"));
+    QCOMPARE(hub->currentPreset(), 0);
+    QCOMPARE(noticed.last().last().toString(), QStringLiteral("ssrecall_ex config 3: refused"));
+    commands.send("ssrecall_ex config 2\n");
+    QTRY_COMPARE(commands.received(), QByteArray("OK ssrecall_ex config 2\n"
+                                                 "NOTIFY ssrecall_ex config 2\n"));
+    QCOMPARE(hub->currentPreset(), 2);
     QCOMPARE(hub->differences(), QStringList());
 }
 

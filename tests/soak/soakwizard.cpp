@@ -58,7 +58,7 @@ SoakHall::SoakHall(const QString& base)
 void SoakHall::answerDiscovery()
 {
     for (Port& port : m_ports) {
-        for (const QByteArray& reply : port.device->discoveryReplies(port.port)) {
+        for (const QByteArray& reply : port.device->discoveryReplies(port.port, QueryWay::ToAll)) {
             port.socket->writeDatagram(reply, QHostAddress(QHostAddress::LocalHost), discoveryPort);
         }
     }

@@ -1,0 +1,287 @@
+#include "networkrun.h"
+#include "testcase.h"
+#include "toolrun.h"
+
+#include <QJsonArray>
+#include <QTest>
+
+namespace {
+
+constexpr qsizetype terminalWidth = 80;
+
+/// A hall with these hubs, peripherals and faults, each a JSON list.
+QByteArray hallOf(const QByteArray& hubs, const QByteArray& peripherals = "[]",
+                  const QByteArray& faults = "[]")
+{
+    return R"({"base": "10.54.1.1", "discovery": true, "discovery-listen": "10.54.255.255",
+               "hubs": )" +
+           hubs + R"(, "peripherals": )" + peripherals + R"(, "faults": )" + faults + '}';
+}
+
+const QByteArray oneHub = hallOf(R"([{"label": "Stage", "version": "2.1.0", "serial": "H1",
+                                      "mac": "02:00:00:00:00:01"}])");
+const QString hub = QStringLiteral("10.54.1.1");
+const QString find = QStringLiteral("tesselctl find --wait 0.4 --json ");
+
+QJsonObject device(const NetworkRun& run, const QString& address)
+{
+    const QJsonArray devices = run.object().value(QLatin1String("devices")).toArray();
+    for (const auto& each : devices) {
+        if (each.toObject().value(QLatin1String("address")).toString() == address) {
+            return each.toObject();
+        }
+    }
+    return {};
+}
+
+QString text(const QJsonObject& object, const char* key)
+{
+    return object.value(QLatin1String(key)).toString();
+}
+
+} // namespace
+
+/// The tool's search across a cable, with a simulated hall at its other end.
+class TestFindCommand : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void whatADeviceTellsIsListedAndAllIsWell();
+    void tablesKeepToEightyColumns();
+    void queryIsTheWizardsByteForByte();
+    void verdictOnADevice_data();
+    void verdictOnADevice();
+    void secondPortNamesItsHubAndIsNoFault();
+    void nobodyAnswering();
+    void probeTellsTheCasesApart_data();
+    void probeTellsTheCasesApart();
+    void whatAnswersTextCommandsOnlyIsNotJudged();
+    void sideThatCannotSearch_data();
+    void sideThatCannotSearch();
+    void secondInterfaceInTheNetworkIsTold();
+    void wrongValuesAreOneLine_data();
+    void wrongValuesAreOneLine();
+};
+
+void TestFindCommand::initTestCase()
+{
+    TestCase::initTestCase();
+    QString reason;
+    if (!hasNetwork(&reason)) {
+        QSKIP(qPrintable(reason));
+    }
+}
+
+void TestFindCommand::whatADeviceTellsIsListedAndAllIsWell()
+{
+    const NetworkRun run = runBesideHall(oneHub, find);
+    QCOMPARE(run.exitCode, 0);
+    const QJsonObject found = device(run, hub);
+    QCOMPARE(text(found, "label"), QStringLiteral("Stage"));
+    QCOMPARE(text(found, "model"), QStringLiteral("PX-HB"));
+    QCOMPARE(text(found, "firmware"), QStringLiteral("2.1.0"));
+    QCOMPARE(text(found, "mac"), QStringLiteral("02:00:00:00:00:01"));
+    QCOMPARE(text(found, "serialNumber"), QStringLiteral("H1"));
+    QCOMPARE(found.value(QLatin1String("currentPreset")).toInt(-1), 0);
+    QCOMPARE(text(found, "verdict"), QStringLiteral("taken"));
+    const QJsonObject side = run.object().value(QLatin1String("interface")).toObject();
+    QCOMPARE(text(side, "name"), QStringLiteral("wizard"));
+    QCOMPARE(text(side, "address"), QStringLiteral("10.54.0.1"));
+}
+
+void TestFindCommand::tablesKeepToEightyColumns()
+{
+    const NetworkRun run = runBesideHall(
+        hallOf(R"([{"label": "A label as long as labels of a hall can be", "version": "1.0.0"}])",
+               "3"),
+        QStringLiteral("tesselctl find --wait 0.4 --probe 10.54.0.77"));
+    QCOMPARE(run.exitCode, 1);
+    for (const QString& line : run.output.split(u'\n')) {
+        QVERIFY2(line.size() <= terminalWidth, qPrintable(line));
+    }
+    for (const char* shown : {"10.54.1.1", "02:1A:00:00:00:01", "PX-HB", "1.0.0", "needs 2",
+                              "taken", "10.54.1.4", "none", "10.54.0.77", "silent"}) {
+        QVERIFY2(run.output.contains(QLatin1String(shown)), shown);
+    }
+}
+
+void TestFindCommand::queryIsTheWizardsByteForByte()
+{
+    const NetworkRun run = runBesideHall(oneHub, find + QStringLiteral("--probe 10.54.9.9"));
+    QVERIFY2(run.hall.contains(QStringLiteral("Every message was as prescribed.")),
+             qPrintable(run.errors));
+}
+
+void TestFindCommand::verdictOnADevice_data()
+{
+    QTest::addColumn<QByteArray>("hall");
+    QTest::addColumn<QString>("verdict");
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const QByteArray& hall, const char* verdict, const char* reason) {
+        QTest::newRow(verdict) << hall << QString::fromLatin1(verdict)
+                               << QString::fromLatin1(reason);
+    };
+    row(hallOf(R"([{"version": "1.9.9"}])"), "firmware-too-old",
+        "firmware too old: has 1.9.9, needs 2");
+    row(hallOf("[]", R"([{"model": "KETTLE", "version": "9.0"}])"), "unknown-model",
+        "unknown model");
+    row(hallOf("1", "[]", R"([{"device": "10.54.1.1", "kind": "refuse-commands"}])"), "no-identity",
+        "answered the query, but never told its identity");
+}
+
+void TestFindCommand::verdictOnADevice()
+{
+    QFETCH(const QByteArray, hall);
+    const NetworkRun run = runBesideHall(hall, find);
+    QCOMPARE(run.exitCode, 1);
+    QTEST(text(device(run, hub), "verdict"), "verdict");
+    QTEST(text(device(run, hub), "reason"), "reason");
+    QFETCH(const QString, reason);
+    QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: 10.54.1.1: ") + reason),
+             qPrintable(run.errors));
+}
+
+void TestFindCommand::secondPortNamesItsHubAndIsNoFault()
+{
+    const NetworkRun run =
+        runBesideHall(hallOf(R"([{"mac": "02:00:00:00:00:09", "second-address": "10.54.2.1",
+                                  "second-mac": "02:00:00:00:00:01"}])"),
+                      find);
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(text(device(run, QStringLiteral("10.54.2.1")), "verdict"), QStringLiteral("taken"));
+    QCOMPARE(text(device(run, hub), "verdict"), QStringLiteral("second-port"));
+    QCOMPARE(text(device(run, hub), "otherAddress"), QStringLiteral("10.54.2.1"));
+}
+
+void TestFindCommand::nobodyAnswering()
+{
+    const NetworkRun run =
+        runBesideHall(hallOf("1", "[]", R"([{"at": "discovery", "kind": "no-reply"}])"), find);
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY(run.object().value(QLatin1String("devices")).toArray().isEmpty());
+    QVERIFY2(run.errors.contains(QStringLiteral("no device answered on wizard (10.54.0.1)")),
+             qPrintable(run.errors));
+}
+
+void TestFindCommand::probeTellsTheCasesApart_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<QByteArray>("faults");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<bool>("isListed");
+    const auto row = [](const char* result, const char* address, const QByteArray& faults,
+                        bool isListed) {
+        QTest::newRow(result) << QString::fromLatin1(address) << faults
+                              << QString::fromLatin1(result) << isListed;
+    };
+    const QByteArray silent = R"({"device": "10.54.1.1", "at": "discovery", "kind": "no-reply"})";
+    row("answers", "10.54.1.1", "[]", true);
+    row("answers-only-directly", "10.54.1.1",
+        R"([{"device": "10.54.1.1", "at": "discovery", "kind": "direct-only"}])", true);
+    row("text-commands-only", "10.54.1.1", '[' + silent + ']', false);
+    row("refuses", "10.54.1.1",
+        '[' + silent + R"(, {"device": "10.54.1.1", "kind": "refuse-commands"}])", false);
+    row("silent", "10.54.0.77", "[]", false);
+}
+
+void TestFindCommand::probeTellsTheCasesApart()
+{
+    QFETCH(const QString, address);
+    QFETCH(const QByteArray, faults);
+    QFETCH(const bool, isListed);
+    const NetworkRun run =
+        runBesideHall(hallOf("2", "[]", faults), find + QStringLiteral("--probe ") + address);
+    const QJsonArray probes = run.object().value(QLatin1String("probes")).toArray();
+    QCOMPARE(probes.size(), 1);
+    QTEST(text(probes.first().toObject(), "result"), "result");
+    QCOMPARE(text(device(run, address), "verdict"), isListed ? QStringLiteral("taken") : QString());
+    QFETCH(const QString, result);
+    QCOMPARE(run.exitCode, result == u"answers" ? 0 : 1);
+}
+
+void TestFindCommand::whatAnswersTextCommandsOnlyIsNotJudged()
+{
+    const NetworkRun run =
+        runBesideHall(hallOf(R"([{"label": "Stage", "version": "1.0", "serial": "H1"}])", "[]",
+                             R"([{"at": "discovery", "kind": "no-reply"}])"),
+                      find + QStringLiteral("--probe 10.54.1.1"));
+    const QJsonObject probe =
+        run.object().value(QLatin1String("probes")).toArray().first().toObject();
+    QCOMPARE(text(probe, "label"), QStringLiteral("Stage"));
+    QCOMPARE(text(probe, "firmware"), QStringLiteral("1.0"));
+    QCOMPARE(text(probe, "serialNumber"), QStringLiteral("H1"));
+    QVERIFY(!probe.contains(QLatin1String("verdict")));
+    QVERIFY(run.object().value(QLatin1String("devices")).toArray().isEmpty());
+}
+
+void TestFindCommand::sideThatCannotSearch_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const char* name, const QString& command, const char* reason) {
+        QTest::newRow(name) << command << QString::fromLatin1(reason);
+    };
+    row("no address", QStringLiteral("ip address flush dev wizard; ") + find,
+        "no wired interface has an IPv4 address: wizard");
+    row("no such interface", find + QStringLiteral("--interface eth9"),
+        "there is no wired interface \"eth9\"; there are: wizard");
+    row("no wired interface", QStringLiteral("ip link delete wizard; ") + find,
+        "this computer has no wired interface");
+    // The first search has answered its watcher when the second begins.
+    row("the port in use",
+        QStringLiteral("tesselctl find --wait 20 >/dev/null 2>&1 & first=$!; "
+                       "until ss -lun | grep -q :54330; do :; done; ") +
+            find + QStringLiteral("; code=$?; kill $first; exit $code"),
+        "UDP port 54330 of 10.54.0.1 is in use");
+}
+
+void TestFindCommand::sideThatCannotSearch()
+{
+    QFETCH(const QString, command);
+    QFETCH(const QString, reason);
+    const NetworkRun run = runBesideHall(oneHub, command);
+    QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: ") + reason), qPrintable(run.errors));
+    QCOMPARE(run.exitCode, 3);
+    QCOMPARE(run.output, QString());
+}
+
+void TestFindCommand::secondInterfaceInTheNetworkIsTold()
+{
+    const NetworkRun run =
+        runBesideHall(oneHub, QStringLiteral("ip link add second type veth peer name other; "
+                                             "ip address add 10.54.0.9/16 dev second; ") +
+                                  find + QStringLiteral("--interface wizard"));
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains(
+                 QStringLiteral("tesselctl: wizard and second have addresses in one network")),
+             qPrintable(run.errors));
+    QCOMPARE(text(device(run, hub), "verdict"), QStringLiteral("taken"));
+}
+
+void TestFindCommand::wrongValuesAreOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("line");
+    const auto row = [](const char* option, const char* value, const char* line) {
+        QTest::newRow(line) << QStringList{QLatin1String(option), QLatin1String(value)}
+                            << QStringLiteral("tesselctl: find: %1\n").arg(QLatin1String(line));
+    };
+    row("--probe", "hub", "--probe is no IPv4 address: hub");
+    row("--probe", "10.1", "--probe is no IPv4 address: 10.1");
+    row("--wait", "soon", "--wait is no number of seconds from 0 to 3600: soon");
+    row("--wait", "-1", "--wait is no number of seconds from 0 to 3600: -1");
+}
+
+void TestFindCommand::wrongValuesAreOneLine()
+{
+    QFETCH(const QStringList, arguments);
+    const ToolRun run = runBuiltTool(QStringList{QStringLiteral("find")} + arguments);
+    QCOMPARE(run.exitCode, 2);
+    QCOMPARE(run.output, QString());
+    QTEST(run.errors, "line");
+}
+
+TESSEL_TEST_MAIN(TestFindCommand)
+#include "tst_findcommand.moc"

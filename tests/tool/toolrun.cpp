@@ -1,0 +1,40 @@
+#include "toolrun.h"
+
+#include <QProcess>
+
+namespace {
+
+constexpr int patience = 30000; // milliseconds
+
+QProcessEnvironment withoutDisplay()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_RUNTIME_DIR"}) {
+        environment.remove(QLatin1String(name));
+    }
+    // A desktop's theme that wants a display.
+    environment.insert(QStringLiteral("QT_QPA_PLATFORMTHEME"), QStringLiteral("gtk3"));
+    return environment;
+}
+
+} // namespace
+
+ToolRun runBuiltTool(const QStringList& arguments, const QString& outputFile)
+{
+    QProcess program;
+    program.setProcessEnvironment(withoutDisplay());
+    program.setStandardOutputFile(outputFile);
+    program.start(QStringLiteral(TESSEL_TOOL), arguments);
+    if (!program.waitForFinished(patience) || program.exitStatus() != QProcess::NormalExit) {
+        program.kill();
+        program.waitForFinished();
+        return {};
+    }
+    return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
+            QString::fromUtf8(program.readAllStandardError())};
+}
+
+bool isOneLine(const QString& errors)
+{
+    return errors.startsWith(u"tesselctl: ") && errors.endsWith(u'\n') && errors.count(u'\n') == 1;
+}

@@ -1,0 +1,117 @@
+#include "testcase.h"
+#include "toolrun.h"
+
+#include <QFile>
+#include <QTest>
+
+namespace {
+
+constexpr int terminalWidth = 80;
+
+/// The words at the beginning of the lines that tell of commands.
+QStringList commandsOf(const QString& help)
+{
+    QStringList commands;
+    for (const QString& line : help.split(u'\n')) {
+        if (line.startsWith(u"  ") && !line.startsWith(u"  -") && !line.startsWith(u"   ")) {
+            commands.append(line.trimmed().section(u' ', 0, 0));
+        }
+    }
+    return commands;
+}
+
+} // namespace
+
+/// The built tool, as a person starts it from a terminal without a display.
+class TestToolProgram : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void helpTellsOfEveryCommand();
+    void everyCommandHasItsHelp();
+    void versionIsTheProjects();
+    void wrongUsageIsOneLine_data();
+    void wrongUsageIsOneLine();
+    void outputThatCannotBeWrittenIsToldAndAFailure();
+};
+
+void TestToolProgram::helpTellsOfEveryCommand()
+{
+    for (const char* option : {"--help", "-h"}) {
+        const ToolRun run = runBuiltTool({QLatin1String(option)});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.errors, QString());
+        QVERIFY2(run.output.startsWith(u"Usage: tesselctl "), qPrintable(run.output));
+        QVERIFY(commandsOf(run.output).contains(QStringLiteral("show")));
+    }
+}
+
+void TestToolProgram::everyCommandHasItsHelp()
+{
+    for (const QString& command : commandsOf(runBuiltTool({QStringLiteral("--help")}).output)) {
+        const ToolRun run = runBuiltTool({command, QStringLiteral("--help")});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.errors, QString());
+        QVERIFY2(run.output.startsWith(QStringLiteral("Usage: tesselctl ") + command),
+                 qPrintable(run.output));
+        for (const QString& line : run.output.split(u'\n')) {
+            QVERIFY2(line.size() <= terminalWidth, qPrintable(line));
+        }
+    }
+}
+
+void TestToolProgram::versionIsTheProjects()
+{
+    const ToolRun run = runBuiltTool({QStringLiteral("--version")});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.errors, QString());
+    QCOMPARE(run.output, QStringLiteral("tesselctl " TESSEL_PROJECT_VERSION "\n"));
+}
+
+void TestToolProgram::wrongUsageIsOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const char* name, const QStringList& arguments, const char* reason) {
+        QTest::newRow(name) << arguments << QString::fromLatin1(reason);
+    };
+    const QString show = QStringLiteral("show");
+    row("nothing", {}, "no command is given; see tesselctl --help");
+    row("an empty command", {QString()}, "no command is given");
+    row("an unknown command", {QStringLiteral("bogus")}, "unknown command \"bogus\"");
+    row("an unknown option", {QStringLiteral("--bogus")}, "unknown option \"--bogus\"");
+    row("a command that moves the cursor", {QStringLiteral("a\x1b[2Jb\nc")},
+        "unknown command \"a?[2Jb?c\"");
+    row("an unknown option of a command", {show, QStringLiteral("--bogus"), show},
+        "show: unknown option 'bogus'; see tesselctl show --help");
+    row("no operand", {show}, "show: FILE is missing");
+    row("an empty operand", {show, QString()}, "show: FILE is missing");
+    row("two operands", {show, QStringLiteral("a"), QStringLiteral("b")},
+        "show: one argument too many: b");
+}
+
+void TestToolProgram::wrongUsageIsOneLine()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, reason);
+    const ToolRun run = runBuiltTool(arguments);
+    QCOMPARE(run.exitCode, 2);
+    QCOMPARE(run.output, QString());
+    QVERIFY2(isOneLine(run.errors), qPrintable(run.errors));
+    QVERIFY2(run.errors.contains(reason), qPrintable(run.errors));
+}
+
+void TestToolProgram::outputThatCannotBeWrittenIsToldAndAFailure()
+{
+    const QString full = QStringLiteral("/dev/full");
+    if (!QFile::exists(full)) {
+        QSKIP("this system has no file that is always full");
+    }
+    const ToolRun run = runBuiltTool({QStringLiteral("--help")}, full);
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(isOneLine(run.errors), qPrintable(run.errors));
+}
+
+TESSEL_TEST_MAIN(TestToolProgram)
+#include "tst_toolprogram.moc"

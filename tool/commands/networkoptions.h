@@ -1,0 +1,18 @@
+#pragma once
+
+#include "command.h"
+
+#include <optional>
+
+/// What commands that touch the network take besides their own options.
+
+/// --interface NAME.
+CommandOption interfaceOption();
+
+/// An option whose value is a number of seconds, such as --wait SECONDS.
+CommandOption secondsOption(const QString& name, const QString& description);
+
+/// The value of such an option in milliseconds, `usualMs` when it was not given; nothing when it is
+/// no number from 0 to an hour, which is said.
+std::optional<int> millisecondsOf(const Arguments& arguments, const QString& name, int usualMs,
+                                  const Command& command, Terminal& terminal);

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "command.h"
+
+/// `show`: a hall as text or as JSON.
+class ShowCommand : public Command
+{
+public:
+    QString name() const override;
+    QString summary() const override;
+    CommandSyntax syntax() const override;
+    bool needsPictures() const override { return true; }
+    ExitCode run(const Arguments& arguments, Terminal& terminal) const override;
+};

@@ -1,0 +1,22 @@
+#include "commandtable.h"
+
+#include "findcommand.h"
+#include "showcommand.h"
+
+#include <algorithm>
+
+CommandTable allCommands()
+{
+    CommandTable commands;
+    commands.push_back(std::make_unique<FindCommand>());
+    commands.push_back(std::make_unique<ShowCommand>());
+    return commands;
+}
+
+const Command* findCommand(const CommandTable& commands, QStringView name)
+{
+    const auto found = std::find_if(commands.begin(), commands.end(), [name](const auto& command) {
+        return command->name() == name;
+    });
+    return found != commands.end() ? found->get() : nullptr;
+}

@@ -1,0 +1,103 @@
+#include "presetround.h"
+
+#include "presetcommandsenders.h"
+
+namespace {
+
+// A hub that is still loading a preset tells the one before.
+constexpr int askAgainMs = 500;
+
+} // namespace
+
+PresetRound::PresetRound(const QStringList& addresses, int waitMs, QObject* parent)
+    : QObject(parent)
+    , m_addresses(addresses)
+    , m_waitMs(waitMs)
+{
+    m_again.setInterval(askAgainMs);
+    connect(&m_again, SIGNAL(timeout()), this, SLOT(askPending()));
+}
+
+void PresetRound::read()
+{
+    m_pending = QSet<QString>(m_addresses.begin(), m_addresses.end());
+    beginReading();
+}
+
+void PresetRound::recall(const QHash<QString, int>& numbers, int settleMs)
+{
+    m_expected = numbers;
+    for (auto each = numbers.begin(); each != numbers.end(); ++each) {
+        m_pending.insert(each.key());
+        auto* const sender = new PresetRecallSender(QHostAddress(each.key()), each.value(), this);
+        connect(sender, SIGNAL(notifyPresetRecall(int)), this, SLOT(askSoon()));
+        sender->start();
+    }
+    QTimer::singleShot(settleMs, this, SLOT(beginReading()));
+}
+
+std::optional<int> PresetRound::preset(const QString& address) const
+{
+    const auto found = m_presets.find(address);
+    return found != m_presets.end() ? std::optional(*found) : std::nullopt;
+}
+
+void PresetRound::beginReading()
+{
+    m_isReading = true;
+    m_again.start();
+    QTimer::singleShot(m_waitMs, this, SLOT(finish()));
+    askPending();
+    if (m_pending.isEmpty()) {
+        finish();
+    }
+}
+
+void PresetRound::askPending()
+{
+    for (const QString& address : std::as_const(m_pending)) {
+        ask(address);
+    }
+}
+
+void PresetRound::askSoon()
+{
+    const auto* const recalled = qobject_cast<PresetRecallSender*>(sender());
+    const QString address = recalled->hostAddress().toString();
+    if (m_isReading && m_pending.contains(address)) {
+        ask(address);
+    }
+}
+
+void PresetRound::note(const QString& address, int number)
+{
+    m_presets.insert(address, number);
+    m_readers.take(address)->deleteLater();
+    if (m_expected.value(address, number) == number) {
+        m_pending.remove(address);
+    }
+    if (m_pending.isEmpty()) {
+        finish();
+    }
+}
+
+void PresetRound::finish()
+{
+    if (m_isOver) {
+        return;
+    }
+    m_isOver = true;
+    m_again.stop();
+    Q_EMIT finished();
+}
+
+void PresetRound::ask(const QString& address)
+{
+    CurrentPresetSender*& reader = m_readers[address];
+    if (reader == nullptr) {
+        reader = new CurrentPresetSender(QHostAddress(address), this);
+        connect(reader, SIGNAL(notifyCurrentPreset(QString, int)), this, SLOT(note(QString, int)));
+    }
+    // Asks only where no question is on its way: a hub may be slower than this asks.
+    reader->start();
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+
+class QIODevice;
+
+/// The two streams of a command: data goes to the one, so that it can be led into a file or another
+/// program, and what is said to the person to the other. Both are UTF-8.
+class Terminal
+{
+public:
+    /// Neither device is owned, and both are open. `isWatched` says that a person sees the talk
+    /// while it is written, so that progress may be drawn and drawn over.
+    Terminal(QIODevice* data, QIODevice* talk, bool isWatched = false);
+
+    bool isWatched() const { return m_isWatched; }
+
+    /// Writes data as it is.
+    void write(const QString& text);
+
+    /// Writes data for programs: one object, its keys in alphabetical order on every run.
+    void write(const QJsonObject& object);
+
+    /// Says something to the person, in a line of its own and under the program's name. Characters
+    /// that a terminal would act upon are shown as marks.
+    void say(const QString& line);
+
+    /// True when all data has been taken up to here.
+    bool flush();
+
+private:
+    void put(const QByteArray& bytes);
+
+    QIODevice* m_data;
+    QIODevice* m_talk;
+    bool m_isWatched;
+    bool m_isWritten = true;
+};
