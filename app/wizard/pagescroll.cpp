@@ -37,11 +37,16 @@ void PageScroll::resizeEvent(QResizeEvent* event)
     fitContent();
 }
 
-/// What is pressed must not move away under the pointer.
 void PageScroll::showFocus(QWidget* /*before*/, QWidget* now)
 {
-    if (now && widget()->isAncestorOf(now) && QGuiApplication::mouseButtons() == Qt::NoButton) {
-        ensureWidgetVisible(now);
+    const bool isPressed = QGuiApplication::mouseButtons() != Qt::NoButton;
+    if (!now || !widget()->isAncestorOf(now) || isPressed) {
+        return; // What is pressed must not move away under the pointer.
+    }
+    ensureWidgetVisible(now); // of a list only its current cell
+    const QRect place(now->mapTo(widget(), QPoint()), now->size());
+    if (place.height() <= viewport()->height()) {
+        ensureVisible(place.center().x(), place.center().y(), 0, place.height() / 2 + 1);
     }
 }
 
