@@ -5,6 +5,13 @@
 #include <QLayout>
 #include <QScrollBar>
 
+namespace {
+
+/// Between the content and the bar that scrolls it.
+constexpr int gap = 6;
+
+} // namespace
+
 PageScroll::PageScroll(QWidget* content, QWidget* parent)
     : QScrollArea(parent)
 {
@@ -64,7 +71,8 @@ void PageScroll::fitContent()
 {
     QSize room = maximumViewportSize();
     if (neededIn(room.width()).height() > room.height()) {
-        room.rwidth() -= verticalScrollBar()->sizeHint().width();
+        // The lists of a page have bars of their own at their right edge.
+        room.rwidth() -= verticalScrollBar()->sizeHint().width() + gap;
     }
     if (neededIn(room.width()).width() > room.width()) {
         room.rheight() -= horizontalScrollBar()->sizeHint().height();
