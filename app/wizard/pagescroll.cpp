@@ -62,6 +62,9 @@ void PageScroll::showFocus(QWidget* /*before*/, QWidget* now)
 QSize PageScroll::neededIn(int width) const
 {
     const QLayout* layout = widget()->layout();
+    if (!layout) {
+        return widget()->minimumSizeHint();
+    }
     const int least = layout->totalMinimumSize().width();
     const int height = layout->totalMinimumHeightForWidth(std::max(width, least));
     return {least, height >= 0 ? height : layout->totalMinimumSize().height()};
