@@ -37,7 +37,6 @@ private Q_SLOTS:
     void aSizeThatTheScreenHoldsIsRestored();
     void aLargerSizeIsBroughtBackWithinTheScreen();
     void aWindowBeyondTheEdgeComesBack();
-    void aWindowThatWasNotShownIsLeftToTheSystem();
     void aMaximizedWindowStaysSo();
 };
 
@@ -101,14 +100,6 @@ void TestWindowPlace::aWindowBeyondTheEdgeComesBack()
         place.restore({500, 400});
         QVERIFY(screenOf(window).contains(window.frameGeometry()));
     }
-}
-
-void TestWindowPlace::aWindowThatWasNotShownIsLeftToTheSystem()
-{
-    QWidget window;
-    WindowPlace place(&window, least, largest);
-    place.restore({500, 400});
-    QVERIFY(!window.testAttribute(Qt::WA_Moved));
 }
 
 void TestWindowPlace::aMaximizedWindowStaysSo()
