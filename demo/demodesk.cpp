@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTextStream>
 #include <QTreeWidget>
@@ -71,6 +72,13 @@ bool DemoDesk::press(QAnyStringView button)
 bool DemoDesk::goOnTo(int number)
 {
     return press("nextButton") && m_hands->pageNumber() == number;
+}
+
+QSize DemoDesk::sizeOnScreen(QSize size) const
+{
+    const QSize frame(16, 40);
+    return size.boundedTo(window()->screen()->availableSize() - frame)
+        .expandedTo(window()->minimumSize());
 }
 
 void DemoDesk::picture(const QString& name)

@@ -33,6 +33,9 @@ public:
     /// The same for "Next", which has to lead to step `number`.
     bool goOnTo(int number);
 
+    /// `size` as far as the wizard's window can have it on this screen.
+    QSize sizeOnScreen(QSize size) const;
+
     /// Keeps a picture of the wizard's window, or of another one.
     void picture(const QString& name);
     void pictureOf(QWidget* window, const QString& name);

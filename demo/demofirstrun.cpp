@@ -144,10 +144,11 @@ bool DemoFirstRun::linkByMenu(int room, int other)
 {
     QWidget* picker = widgetOf(*m_desk.hands().page(), "tessel");
     // Room 1 lies in the upper left corner; a right click anywhere in it opens its menu.
+    const QPoint corner(20, 20);
+    Hands::click(picker, corner); // which scrolls there
     QTest::mouseClick(picker->window()->windowHandle(), Qt::RightButton, Qt::NoModifier,
-                      picker->mapTo(picker->window(), QPoint(20, 20)));
-    QContextMenuEvent request(QContextMenuEvent::Mouse, QPoint(20, 20),
-                              picker->mapToGlobal(QPoint(20, 20)));
+                      picker->mapTo(picker->window(), corner));
+    QContextMenuEvent request(QContextMenuEvent::Mouse, corner, picker->mapToGlobal(corner));
     if (!QApplication::activePopupWidget()) {
         QCoreApplication::sendEvent(picker, &request);
     }
@@ -170,7 +171,7 @@ bool DemoFirstRun::linkByMenu(int room, int other)
 bool DemoFirstRun::saveAndClose()
 {
     m_desk.picture(QStringLiteral("step-5-before-closing"));
-    m_desk.window()->resize(DemoScenario::savedWindowSize);
+    m_desk.window()->resize(m_desk.sizeOnScreen(DemoScenario::savedWindowSize));
     DemoDesk::letPaint();
     if (!m_desk.window()->close()) {
         return m_desk.failed(QStringLiteral("the window stayed open"));

@@ -76,7 +76,7 @@ bool DemoSecondRun::resume()
     if (!resumed()) {
         return m_desk.failed(QStringLiteral("the saved work did not come back"));
     }
-    if (m_desk.window()->size() != DemoScenario::savedWindowSize) {
+    if (m_desk.window()->size() != m_desk.sizeOnScreen(DemoScenario::savedWindowSize)) {
         return m_desk.failed(QStringLiteral("the window came back in another size"));
     }
     // As a window manager does when the dialog in front of a window is gone.

@@ -3,7 +3,8 @@
 //   tessel-demo --part=1|2 --hall=FILE --pictures=FOLDER [the wizard's own arguments]
 //   tessel-demo --check=FOLDER --hall=FILE
 //
-// Where the environment says TESSEL_DARK, it plays in the colours of a dark desktop.
+// Where the environment says TESSEL_DARK, it plays in the colours of a dark desktop; where it says
+// TESSEL_POINTS=16, with a font of 16 points.
 //
 // The wizard is the one that the entry function builds: it ignores arguments it does not know, and
 // the player is started by the application object, not by the wizard.
@@ -18,6 +19,7 @@
 #include "hubcheck.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QPalette>
 #include <QTextStream>
 #include <QTimer>
@@ -91,6 +93,11 @@ void walk()
 {
     if (qEnvironmentVariableIsSet("TESSEL_DARK")) {
         QApplication::setPalette(darkPalette());
+    }
+    if (const int points = qEnvironmentVariableIntValue("TESSEL_POINTS"); points > 0) {
+        QFont font = QApplication::font();
+        font.setPointSize(points);
+        QApplication::setFont(font);
     }
     const std::optional<DemoScenario> scenario = readScenario();
     walkSucceeded = scenario && play(*scenario);

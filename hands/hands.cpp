@@ -3,9 +3,13 @@
 #include "finding.h"
 
 #include <QApplication>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QTreeWidget>
 #include <QWindow>
+
+#include <algorithm>
 
 namespace {
 
@@ -17,6 +21,39 @@ QWindow* windowOf(const QWidget* widget)
 QPoint inWindow(const QWidget* widget, QPoint at)
 {
     return widget->mapTo(widget->window(), at);
+}
+
+/// From where `begin` to `end` is to where it is within 0 to `room`; 0 where it is already.
+int wayInto(int room, int begin, int end)
+{
+    return begin < 0 || end - begin > room ? begin : std::max(0, end - room);
+}
+
+/// Scrolls whatever lies around `widget` until `place` of it is in sight.
+void reveal(QWidget* widget, const QRect& place)
+{
+    for (QWidget* around = widget->parentWidget(); around; around = around->parentWidget()) {
+        auto* area = qobject_cast<QAbstractScrollArea*>(around);
+        if (!area || !area->viewport()->isAncestorOf(widget)) {
+            continue;
+        }
+        const QRect shown(widget->mapTo(area->viewport(), place.topLeft()), place.size());
+        QScrollBar* across = area->horizontalScrollBar();
+        across->setValue(across->value() +
+                         wayInto(area->viewport()->width(), shown.left(), shown.right() + 1));
+        // Lists scroll by rows, and each row is reached by itself.
+        QScrollBar* down = area->verticalScrollBar();
+        if (qobject_cast<QScrollArea*>(area)) {
+            down->setValue(down->value() +
+                           wayInto(area->viewport()->height(), shown.top(), shown.bottom() + 1));
+        }
+    }
+    QCoreApplication::processEvents();
+}
+
+void reveal(QWidget* widget, QPoint at)
+{
+    reveal(widget, QRect(at, QSize(1, 1)).adjusted(-2, -2, 2, 2));
 }
 
 QPoint middleOfCell(const QTreeWidgetItem* row, int column)
@@ -39,6 +76,7 @@ void click(QWidget* widget)
 
 void click(QWidget* widget, QPoint at)
 {
+    reveal(widget, at);
     QTest::mouseClick(windowOf(widget), Qt::LeftButton, Qt::NoModifier, inWindow(widget, at));
 }
 
@@ -54,6 +92,7 @@ void clickButton(const QWidget* parent, QAnyStringView text)
 void drag(QWidget* widget, const QList<QPoint>& path)
 {
     QWindow* window = windowOf(widget);
+    reveal(widget, QPolygon(path).boundingRect());
     QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, inWindow(widget, path.front()));
     // A hand moves within the first cell before it leaves it.
     QTest::mouseMove(window, inWindow(widget, path.front() + QPoint(3, 3)));
@@ -79,8 +118,9 @@ void clickRow(QTreeWidgetItem* row)
 void doubleClick(QTreeWidgetItem* row, QAnyStringView header)
 {
     row->treeWidget()->scrollToItem(row);
-    const QWidget* viewport = row->treeWidget()->viewport();
+    QWidget* viewport = row->treeWidget()->viewport();
     const QPoint middle = middleOfCell(row, columnOf(*row->treeWidget(), header));
+    reveal(viewport, middle);
     QTest::mouseDClick(windowOf(viewport), Qt::LeftButton, Qt::NoModifier,
                        inWindow(viewport, middle));
 }

@@ -5,6 +5,13 @@
 #include <QLayout>
 #include <QScrollBar>
 
+namespace {
+
+/// Between the content and the bar that scrolls it.
+constexpr int gap = 6;
+
+} // namespace
+
 PageScroll::PageScroll(QWidget* content, QWidget* parent)
     : QScrollArea(parent)
 {
@@ -37,11 +44,16 @@ void PageScroll::resizeEvent(QResizeEvent* event)
     fitContent();
 }
 
-/// What is pressed must not move away under the pointer.
 void PageScroll::showFocus(QWidget* /*before*/, QWidget* now)
 {
-    if (now && widget()->isAncestorOf(now) && QGuiApplication::mouseButtons() == Qt::NoButton) {
-        ensureWidgetVisible(now);
+    const bool isPressed = QGuiApplication::mouseButtons() != Qt::NoButton;
+    if (!now || !widget()->isAncestorOf(now) || isPressed) {
+        return; // What is pressed must not move away under the pointer.
+    }
+    ensureWidgetVisible(now); // of a list only its current cell
+    const QRect place(now->mapTo(widget(), QPoint()), now->size());
+    if (place.height() <= viewport()->height()) {
+        ensureVisible(place.center().x(), place.center().y(), 0, place.height() / 2 + 1);
     }
 }
 
@@ -50,6 +62,9 @@ void PageScroll::showFocus(QWidget* /*before*/, QWidget* now)
 QSize PageScroll::neededIn(int width) const
 {
     const QLayout* layout = widget()->layout();
+    if (!layout) {
+        return widget()->minimumSizeHint();
+    }
     const int least = layout->totalMinimumSize().width();
     const int height = layout->totalMinimumHeightForWidth(std::max(width, least));
     return {least, height >= 0 ? height : layout->totalMinimumSize().height()};
@@ -59,7 +74,8 @@ void PageScroll::fitContent()
 {
     QSize room = maximumViewportSize();
     if (neededIn(room.width()).height() > room.height()) {
-        room.rwidth() -= verticalScrollBar()->sizeHint().width();
+        // The lists of a page have bars of their own at their right edge.
+        room.rwidth() -= verticalScrollBar()->sizeHint().width() + gap;
     }
     if (neededIn(room.width()).width() > room.width()) {
         room.rheight() -= horizontalScrollBar()->sizeHint().height();

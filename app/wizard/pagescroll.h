@@ -10,7 +10,7 @@ class PageScroll : public QScrollArea
     Q_OBJECT
 
 public:
-    /// Takes `content` over, which has a layout.
+    /// Takes `content` over.
     PageScroll(QWidget* content, QWidget* parent);
 
     QSize sizeHint() const override;

@@ -258,7 +258,7 @@ void TestWizardWalk::closedOnAnyPageTheWorkIsThereAgain()
     WizardUser user;
     user.open();
     user.workThrough(number);
-    user.window->resize(1000, 800);
+    user.window->resize(800, 700);
     const QList<QStringList> before = user.shownUpTo(number);
     user.closeAndSave();
 
@@ -266,7 +266,7 @@ void TestWizardWalk::closedOnAnyPageTheWorkIsThereAgain()
     resumed.open();
     QCOMPARE(resumed.pageNumber(), number);
     QCOMPARE(resumed.shownUpTo(number), before);
-    QCOMPARE(resumed.window->size(), QSize(1000, 800));
+    QCOMPARE(resumed.window->size(), QSize(800, 700));
     QVERIFY(!QFile::exists(resumePath()));
     if (number < 8) {
         QVERIFY(resumed.button("nextButton")->isEnabled());

@@ -112,6 +112,7 @@ void TestScripts::wrongUsageIsRefused_data()
     row("demo --bogus");
     row("demo --interactive more");
     row("fuzz --bogus");
+    row("pictures more");
     row("valgrind --bogus");
     row("with-network");
     row("with-network --ready");

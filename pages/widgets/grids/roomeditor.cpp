@@ -1,6 +1,7 @@
 #include "roomeditor.h"
 
 #include "arrowkey.h"
+#include "sight.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -191,6 +192,7 @@ void RoomEditor::moveCursor(QPoint step, bool stroke)
         strokeTo(target);
     }
     setCursorCell(target);
+    bringIntoSight(this, geometry().cellRect(target));
 }
 
 void RoomEditor::strokeTo(QPoint cell)

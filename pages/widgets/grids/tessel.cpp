@@ -5,6 +5,7 @@
 #include "menustyle.h"
 #include "roomborder.h"
 #include "roomgroup.h"
+#include "sight.h"
 #include "tesselbutton.h"
 
 #include <QContextMenuEvent>
@@ -243,6 +244,7 @@ void Tessel::goToNeighbour(QPoint step)
         places.insert(room.key(), room->label.center());
     }
     setCurrentRoom(neighbourPlace(places, m_currentRoom, step));
+    bringIntoSight(this, m_picture.rooms().value(m_currentRoom).area.boundingRect());
 }
 
 /// The left end of the drop-down mark beside a room's number, which is wider in a larger font.
