@@ -1,6 +1,7 @@
 #include "tessel.h"
 
 #include "arrowkey.h"
+#include "layoutthumbnail.h"
 #include "menustyle.h"
 #include "roomborder.h"
 #include "roomgroup.h"
@@ -72,10 +73,7 @@ QString Tessel::roomGroupText() const
 
 QPixmap Tessel::renderThumbnail() const
 {
-    QPixmap pixmap(size());
-    QPainter painter(&pixmap);
-    m_picture.paintRooms(painter);
-    return pixmap;
+    return paintedRooms(m_picture);
 }
 
 void Tessel::paintEvent(QPaintEvent* /*event*/)
