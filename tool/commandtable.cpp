@@ -1,5 +1,6 @@
 #include "commandtable.h"
 
+#include "makecommand.h"
 #include "showcommand.h"
 
 #include <algorithm>
@@ -8,6 +9,7 @@ CommandTable allCommands()
 {
     CommandTable commands;
     commands.push_back(std::make_unique<ShowCommand>());
+    commands.push_back(std::make_unique<MakeCommand>());
     return commands;
 }
 
