@@ -116,15 +116,23 @@ QString membersText(const QList<MemberView>& members)
         const DeviceData device = member.device != nullptr ? *member.device : DeviceData();
         table.addRow({device.label, device.modelName, member.address, useOf(member)});
     }
-    return table.isEmpty() ? QString() : u'\n' + table.text();
+    return table.isEmpty() ? QStringLiteral("No devices are chosen.\n") : u'\n' + table.text();
+}
+
+QString presetText(const std::optional<QString>& name)
+{
+    if (!name) {
+        return QStringLiteral("no preset yet");
+    }
+    return name->isEmpty() ? QStringLiteral("preset without a name")
+                           : QStringLiteral("preset \"%1\"").arg(*name);
 }
 
 QString combinedRoomText(const CombinedRoomView& view)
 {
-    const QString preset = view.presetName ? QStringLiteral("preset \"%1\"").arg(*view.presetName)
-                                           : QStringLiteral("no preset yet");
     return title(QStringLiteral("Layout %1, room %2: %3")
-                     .arg(QString::number(view.group.sceneNumber), view.group.roomText(), preset)) +
+                     .arg(QString::number(view.group.sceneNumber), view.group.roomText(),
+                          presetText(view.presetName))) +
            inLines(setCountsText(view.tally.counts)) + breachText(view.tally.breaches) +
            membersText(view.members);
 }
