@@ -4,13 +4,13 @@
 #include "hallparts.h"
 #include "hallpicture.h"
 #include "jsonfields.h"
+#include "pngstream.h"
 #include "resumecells.h"
 #include "roomgroup.h"
 #include "roomtext.h"
 #include "wizardpage.h"
 
-#include <QBuffer>
-#include <QImageReader>
+#include <QImage>
 #include <QJsonDocument>
 
 #include <algorithm>
@@ -259,13 +259,11 @@ QPixmap Reader::readPicture(JsonFields& layout, const QString& text)
     if (!layout.has(Key::picture())) {
         return layoutPictureOf(hall().rooms, text);
     }
-    QByteArray bytes = QByteArray::fromBase64(layout.text(Key::picture()).toLatin1());
-    QBuffer buffer(&bytes);
-    QImageReader reader(&buffer, "png");
-    const QSize size = reader.size();
+    const QByteArray bytes = QByteArray::fromBase64(layout.text(Key::picture()).toLatin1());
+    const std::optional<PngExtent> png = measurePng(bytes);
     const QSize largest(maxThumbnailSide, maxThumbnailSide);
-    const bool isThumbnail = size.isValid() && size.boundedTo(largest) == size;
-    const QImage image = isThumbnail ? reader.read() : QImage();
+    const bool isThumbnail = png && png->size.boundedTo(largest) == png->size;
+    const QImage image = isThumbnail ? QImage::fromData(bytes, "png") : QImage();
     if (image.isNull() && !bytes.isEmpty()) {
         layout.fault(Key::picture(), QStringLiteral("this is no small PNG picture"));
     }

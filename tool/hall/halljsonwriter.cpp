@@ -16,6 +16,8 @@ namespace {
 
 namespace Key = HallJsonKey;
 
+constexpr int exactParts = 4; // rooms, layouts, sets, presets
+
 QJsonObject written(const DeviceData& device)
 {
     return {{Key::label(), device.label},     {Key::address(), device.ipAddress},
@@ -171,8 +173,16 @@ QJsonObject writeHallJson(const DocumentData& hall)
         // The layouts are such that they can only be told record by record.
         object.insert(Key::layouts(), QJsonArray());
     }
-    const QJsonObject exact = differences(object, hall);
-    if (!exact.isEmpty()) {
+    // What follows from a part follows from its exact form, so it is looked at once more.
+    QJsonObject exact;
+    for (int round = 0; round < exactParts; ++round) {
+        const QJsonObject more = differences(object, hall);
+        if (more.isEmpty()) {
+            break;
+        }
+        for (auto part = more.begin(); part != more.end(); ++part) {
+            exact.insert(part.key(), part.value());
+        }
         object.insert(Key::exact(), exact);
     }
     return object;

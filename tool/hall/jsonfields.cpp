@@ -7,9 +7,10 @@
 JsonFields::JsonFields(const QJsonValue& value, const QString& place, QStringList* faults)
     : m_object(value.toObject())
     , m_place(place)
+    , m_isObject(value.isObject())
     , m_faults(faults)
 {
-    if (!value.isObject()) {
+    if (!m_isObject) {
         m_faults->append(place + QStringLiteral(": this is no object"));
     }
 }
@@ -91,7 +92,9 @@ QJsonValue JsonFields::value(const QString& key)
 
 void JsonFields::fault(const QString& key, const QString& reason)
 {
-    m_faults->append(m_place + u'.' + key + QStringLiteral(": ") + reason);
+    if (m_isObject) {
+        m_faults->append(m_place + u'.' + key + QStringLiteral(": ") + reason);
+    }
 }
 
 void JsonFields::finish()

@@ -38,6 +38,7 @@ private:
 
     QJsonObject m_object;
     QString m_place;
+    bool m_isObject; ///< if not, that is fault enough
     QStringList* m_faults;
     QStringList m_known;
 };
