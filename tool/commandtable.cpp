@@ -1,6 +1,8 @@
 #include "commandtable.h"
 
 #include "findcommand.h"
+#include "makecommand.h"
+#include "plancommand.h"
 #include "showcommand.h"
 
 #include <algorithm>
@@ -10,6 +12,8 @@ CommandTable allCommands()
     CommandTable commands;
     commands.push_back(std::make_unique<FindCommand>());
     commands.push_back(std::make_unique<ShowCommand>());
+    commands.push_back(std::make_unique<MakeCommand>());
+    commands.push_back(std::make_unique<PlanCommand>());
     return commands;
 }
 

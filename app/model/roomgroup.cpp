@@ -49,6 +49,15 @@ QString layoutText(const QList<QList<int>>& combinedRooms)
     return sortedAndJoined(std::move(groups), betweenGroups);
 }
 
+QList<QList<int>> combinedRoomsIn(QStringView layoutText)
+{
+    QList<QList<int>> combined;
+    for (const QStringView text : layoutText.split(betweenGroups)) {
+        combined.append(roomsIn(text));
+    }
+    return combined;
+}
+
 QList<RoomGroup> roomGroups(IDocAccessor& doc)
 {
     QList<RoomGroup> groups;
@@ -58,8 +67,8 @@ QList<RoomGroup> roomGroups(IDocAccessor& doc)
         if (!layout) {
             continue;
         }
-        for (const QStringView text : QStringView(layout->roomGroup).split(betweenGroups)) {
-            groups.append({int(groups.size()) + 1, scene, roomsIn(text), layout->thumbnail});
+        for (const QList<int>& rooms : combinedRoomsIn(layout->roomGroup)) {
+            groups.append({int(groups.size()) + 1, scene, rooms, layout->thumbnail});
         }
     }
     return groups;

@@ -23,6 +23,9 @@ struct RoomGroup
 /// example "1+2/3/4". Empty without rooms.
 QString layoutText(const QList<QList<int>>& combinedRooms);
 
+/// The combined rooms that such a text names, in its order; 0 for what is no number.
+QList<QList<int>> combinedRoomsIn(QStringView layoutText);
+
 /// All combined rooms of all layouts in the document, in layout order; those of one layout in the
 /// order of its text.
 QList<RoomGroup> roomGroups(IDocAccessor& doc);

@@ -3,6 +3,7 @@
 #include "columnwidths.h"
 #include "focusedcelldelegate.h"
 #include "layoutqueries.h"
+#include "layoutthumbnail.h"
 #include "roomqueries.h"
 #include "rowlist.h"
 #include "sceneitem.h"
@@ -17,12 +18,9 @@
 
 namespace {
 
-constexpr int gap = 1;
-constexpr int cellSize = 48;
 constexpr int maxLayouts = 10;
 constexpr int numberWidth = 15;
 constexpr QSize rowSize(66, 66);
-constexpr QSize thumbnailSize(64, 64);
 
 enum Column
 {
@@ -44,7 +42,7 @@ void setNumber(QTreeWidgetItem* row, int number)
 
 CreateScene::CreateScene(IDocAccessor* doc, QWidget* parent)
     : StepContent(doc, parent)
-    , m_tessel(new Tessel(this, gap, cellSize, false))
+    , m_tessel(new Tessel(this, layoutGeometry.gap, layoutGeometry.cellSize, false))
 {
     createWidgets();
     buildLayout();
@@ -91,7 +89,7 @@ void CreateScene::addButtonClicked()
                                  tr("This room combination already exists."), QMessageBox::Ok);
         return;
     }
-    const QPixmap thumbnail = m_tessel->renderThumbnail().scaled(thumbnailSize);
+    const QPixmap thumbnail = layoutThumbnail(m_tessel->renderThumbnail());
     appendRow({m_list->topLevelItemCount() + 1, roomGroup, thumbnail});
     m_list->scrollToBottom();
     updateButtons();

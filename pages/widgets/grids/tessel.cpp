@@ -2,6 +2,7 @@
 
 #include "arrowkey.h"
 #include "fontscale.h"
+#include "layoutthumbnail.h"
 #include "menustyle.h"
 #include "roomborder.h"
 #include "roomgroup.h"
@@ -73,10 +74,7 @@ QString Tessel::roomGroupText() const
 
 QPixmap Tessel::renderThumbnail() const
 {
-    QPixmap pixmap(size());
-    QPainter painter(&pixmap);
-    m_picture.paintRooms(painter);
-    return pixmap;
+    return paintedRooms(m_picture);
 }
 
 void Tessel::paintEvent(QPaintEvent* /*event*/)

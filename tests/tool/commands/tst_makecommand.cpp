@@ -1,0 +1,137 @@
+#include "commandrun.h"
+#include "hallfile.h"
+#include "makecommand.h"
+#include "testcase.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+/// `make`.
+class TestMakeCommand : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aSoundHallBecomesAFile();
+    void everyFaultIsALineAndNothingIsWritten();
+    void faultsWithoutEndAreCutShort();
+    void aFaultyHallIsWrittenWhenForced();
+    void whatIsNoJsonIsNotForced();
+    void withoutAnOutputItIsWrongUsage();
+    void anInputThatCannotBeReadIsTold_data();
+    void anInputThatCannotBeReadIsTold();
+    void anOutputThatCannotBeWrittenIsTold();
+
+private:
+    QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
+    CommandRun make(const QByteArray& text, const QStringList& options = {}) const;
+
+    QTemporaryDir m_folder;
+};
+
+CommandRun TestMakeCommand::make(const QByteArray& text, const QStringList& options) const
+{
+    putFile(path("hall.json"), text);
+    return runCommand(MakeCommand(),
+                      QStringList{path("hall.json"), QStringLiteral("-o"), path("hall.tessel")} +
+                          options);
+}
+
+void TestMakeCommand::aSoundHallBecomesAFile()
+{
+    const CommandRun run = make(sampleHallText());
+    QCOMPARE(run.errors, QString());
+    QCOMPARE(run.output, QString());
+    QCOMPARE(run.code, ExitCode::AllIsWell);
+    const HallReading reading = readHallFile(path("hall.tessel"));
+    QVERIFY2(reading.hall != nullptr, qPrintable(reading.fault));
+    QCOMPARE(reading.hall->data().devices.size(), 8);
+    QCOMPARE(reading.hall->data().scenes.size(), 2);
+}
+
+void TestMakeCommand::everyFaultIsALineAndNothingIsWritten()
+{
+    putFile(path("hall.tessel"), "what was there");
+    QByteArray text = changed(sampleHallText(), "PNB-QE7", "XY-1");
+    text = changed(text, "\"1/2/3/4\"", "\"1+2/4/3\"");
+    const CommandRun run = make(text);
+    QCOMPARE(run.code, ExitCode::CouldNotBeTried);
+    const QString begin = QStringLiteral("tesselctl: ") + path("hall.json");
+    const QStringList lines = run.errors.split(u'\n', Qt::SkipEmptyParts);
+    QVERIFY2(lines.contains(begin + QStringLiteral(": device 127.0.1.8: unknown model \"XY-1\"")),
+             qPrintable(run.errors));
+    QVERIFY(lines.contains(begin + QStringLiteral(": layout 2: 1+2/3/4 is layout 1 already")));
+    QCOMPARE(fileAt(path("hall.tessel")), QByteArray("what was there"));
+}
+
+void TestMakeCommand::faultsWithoutEndAreCutShort()
+{
+    const CommandRun run = make("{\"devices\": [" + QByteArray("{},").repeated(500) + "{}]}");
+    QCOMPARE(run.errors.count(u'\n'), 51);
+    QVERIFY2(run.errors.endsWith(u": and 952 faults more\n"), qPrintable(run.errors));
+}
+
+void TestMakeCommand::aFaultyHallIsWrittenWhenForced()
+{
+    const CommandRun run =
+        make(changed(sampleHallText(), "PNB-QE7", "XY-1"), {QStringLiteral("--force")});
+    QCOMPARE(run.code, ExitCode::SomethingIsNot);
+    QCOMPARE(run.errors.count(u'\n'), 1);
+    QVERIFY(readHallFile(path("hall.tessel")).hall != nullptr);
+}
+
+void TestMakeCommand::whatIsNoJsonIsNotForced()
+{
+    putFile(path("hall.tessel"), "what was there");
+    const CommandRun run = make("{", {QStringLiteral("--force")});
+    QCOMPARE(run.code, ExitCode::CouldNotBeTried);
+    QCOMPARE(fileAt(path("hall.tessel")), QByteArray("what was there"));
+}
+
+void TestMakeCommand::withoutAnOutputItIsWrongUsage()
+{
+    const CommandRun run = runCommand(MakeCommand(), {path("hall.json")});
+    QCOMPARE(run.code, ExitCode::WrongUsage);
+    QVERIFY2(run.errors.contains(u"-o FILE.tessel is missing"), qPrintable(run.errors));
+}
+
+void TestMakeCommand::anInputThatCannotBeReadIsTold_data()
+{
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<QString>("reason");
+    putFile(path("empty.json"), {});
+    QFile large(path("large.json"));
+    QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(qint64(17) * 1024 * 1024));
+    QTest::newRow("missing") << path("none.json") << QStringLiteral("No such file");
+    QTest::newRow("a folder") << m_folder.path() << QStringLiteral("this is a folder");
+    QTest::newRow("empty") << path("empty.json") << QStringLiteral("the file is empty");
+    QTest::newRow("too large") << path("large.json") << QStringLiteral("it is larger than any");
+}
+
+void TestMakeCommand::anInputThatCannotBeReadIsTold()
+{
+    QFETCH(const QString, input);
+    QFETCH(const QString, reason);
+    const CommandRun run =
+        runCommand(MakeCommand(), {input, QStringLiteral("-o"), path("unwritten.tessel")});
+    QCOMPARE(run.code, ExitCode::CouldNotBeTried);
+    QCOMPARE(run.errors.count(u'\n'), 1);
+    QVERIFY2(run.errors.startsWith(QStringLiteral("tesselctl: %1: %2").arg(input, reason)),
+             qPrintable(run.errors));
+    QVERIFY(!QFile::exists(path("unwritten.tessel")));
+}
+
+void TestMakeCommand::anOutputThatCannotBeWrittenIsTold()
+{
+    putFile(path("hall.json"), sampleHallText());
+    const QString output = path("no/folder/hall.tessel");
+    const CommandRun run =
+        runCommand(MakeCommand(), {path("hall.json"), QStringLiteral("-o"), output});
+    QCOMPARE(run.code, ExitCode::CouldNotBeTried);
+    QVERIFY2(run.errors.startsWith(QStringLiteral("tesselctl: %1: ").arg(output)),
+             qPrintable(run.errors));
+}
+
+TESSEL_TEST_MAIN(TestMakeCommand)
+#include "tst_makecommand.moc"

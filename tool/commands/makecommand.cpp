@@ -1,0 +1,117 @@
+#include "makecommand.h"
+
+#include "arguments.h"
+#include "hallfaults.h"
+#include "hallfile.h"
+#include "halljson.h"
+#include "terminal.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+constexpr qint64 maxTextSize = qint64(16) * 1024 * 1024;
+constexpr qsizetype maxFaultsTold = 50;
+
+QString output()
+{
+    return QStringLiteral("o");
+}
+
+QString force()
+{
+    return QStringLiteral("force");
+}
+
+/// Reads the file at `path` into `text`; the reason why it cannot be read, if there is one.
+QString readText(const QString& path, QByteArray& text)
+{
+    if (QFileInfo(path).isDir()) {
+        return QStringLiteral("this is a folder, not a file");
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return file.errorString();
+    }
+    text = file.read(maxTextSize + 1);
+    if (file.error() != QFileDevice::NoError) {
+        return file.errorString();
+    }
+    if (text.isEmpty()) {
+        return QStringLiteral("the file is empty");
+    }
+    return text.size() > maxTextSize
+               ? QStringLiteral("it is larger than any configuration of a hall")
+               : QString();
+}
+
+void tell(const QString& path, const QStringList& faults, Terminal& terminal)
+{
+    for (const QString& fault : faults.first(std::min(faults.size(), maxFaultsTold))) {
+        terminal.say(path + QStringLiteral(": ") + fault);
+    }
+    if (faults.size() > maxFaultsTold) {
+        terminal.say(
+            QStringLiteral("%1: and %2 faults more").arg(path).arg(faults.size() - maxFaultsTold));
+    }
+}
+
+} // namespace
+
+QString MakeCommand::name() const
+{
+    return QStringLiteral("make");
+}
+
+QString MakeCommand::summary() const
+{
+    return QStringLiteral("Makes a configuration file out of its JSON");
+}
+
+QString MakeCommand::details() const
+{
+    return QStringLiteral(
+        "The JSON is what \"show --json\" writes; what it lacks gets the wizard's "
+        "defaults, and the layouts' pictures are made. Everything is judged first: "
+        "each fault is told in a line with its place and its reason, and with one "
+        "of them nothing is written.");
+}
+
+CommandSyntax MakeCommand::syntax() const
+{
+    return {{{QStringLiteral("FILE.json"), QStringLiteral("the hall as JSON")}},
+            {{{output()},
+              QStringLiteral("the configuration file to write; required"),
+              QStringLiteral("FILE.tessel")},
+             {{force()},
+              QStringLiteral("writes it although the hall is faulty, as far as it can be "
+                             "understood")}}};
+}
+
+ExitCode MakeCommand::run(const Arguments& arguments, Terminal& terminal) const
+{
+    if (!arguments.has(output())) {
+        terminal.say(QStringLiteral("make: -o FILE.tessel is missing; see tesselctl make --help"));
+        return ExitCode::WrongUsage;
+    }
+    const QString path = arguments.operand(0);
+    QByteArray text;
+    const QString unreadable = readText(path, text);
+    if (!unreadable.isEmpty()) {
+        tell(path, {unreadable}, terminal);
+        return ExitCode::CouldNotBeTried;
+    }
+    const HallJsonReading reading = readHallJson(text);
+    const QStringList faults = reading.hall != nullptr ? hallFaults(*reading.hall) : reading.faults;
+    tell(path, faults, terminal);
+    if (reading.hall == nullptr || (!faults.isEmpty() && !arguments.has(force()))) {
+        return ExitCode::CouldNotBeTried;
+    }
+    const QString unwritten = writeHallFile(arguments.value(output()), reading.hall->data());
+    if (!unwritten.isEmpty()) {
+        terminal.say(unwritten);
+        return ExitCode::CouldNotBeTried;
+    }
+    return faults.isEmpty() ? ExitCode::AllIsWell : ExitCode::SomethingIsNot;
+}

@@ -1,0 +1,229 @@
+#include "hallfaults.h"
+
+#include "devicecatalogue.h"
+#include "halldocument.h"
+#include "hallview.h"
+
+#include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int maxLayouts = 10;
+constexpr qsizetype maxPresetName = 255;
+
+QString line(const QString& place, const QString& reason)
+{
+    return place + QStringLiteral(": ") + reason;
+}
+
+bool matches(const QString& text, const QString& pattern)
+{
+    return QRegularExpression(QRegularExpression::anchoredPattern(pattern)).match(text).hasMatch();
+}
+
+bool isAddress(const QString& text)
+{
+    const QString part = QStringLiteral("(25[0-5]|2[0-4][0-9]|1[0-9]{2}|[1-9]?[0-9])");
+    return matches(text, QStringLiteral("(%1\\.){3}%1").arg(part));
+}
+
+bool isMacAddress(const QString& text)
+{
+    return matches(text, QStringLiteral("([0-9A-Fa-f]{2}:){5}[0-9A-Fa-f]{2}")) &&
+           text != u"00:00:00:00:00:00";
+}
+
+bool isName(const QString& label)
+{
+    return matches(label, QStringLiteral("[A-Za-z0-9\\-]{1,64}"));
+}
+
+QString roomsText(const RoomGroup& group)
+{
+    return QStringLiteral("layout %1, room %2")
+        .arg(QString::number(group.sceneNumber), group.roomText());
+}
+
+/// Looks at one device after the other.
+class DeviceJudge
+{
+public:
+    explicit DeviceJudge(const DocumentData& hall)
+    {
+        for (const RoomInfo& room : hall.rooms) {
+            m_rooms.insert(room.number);
+        }
+    }
+
+    QStringList faultsOf(const DeviceData& device)
+    {
+        m_place = QStringLiteral("device ") + device.ipAddress;
+        m_faults.clear();
+        require(isAddress(device.ipAddress), QStringLiteral("this is no address"));
+        require(!m_addresses.contains(device.ipAddress),
+                QStringLiteral("an earlier device has this address"));
+        judgeMacAddress(device.macAddress);
+        require(findModel(device.modelName) != nullptr,
+                QStringLiteral("unknown model \"%1\"").arg(device.modelName));
+        require(device.roomNumber == 0 || m_rooms.contains(device.roomNumber),
+                QStringLiteral("unknown room %1").arg(device.roomNumber));
+        require(!device.labelModified || isName(device.label),
+                QStringLiteral("\"%1\" is no name for a device: 1 to 64 letters, digits and dashes")
+                    .arg(device.label));
+        m_addresses.insert(device.ipAddress);
+        return m_faults;
+    }
+
+private:
+    void judgeMacAddress(const QString& mac)
+    {
+        if (mac.isEmpty()) {
+            require(false, QStringLiteral("its MAC address is missing"));
+            return;
+        }
+        require(isMacAddress(mac), QStringLiteral("\"%1\" is no MAC address").arg(mac));
+        require(!m_macAddresses.contains(mac.toUpper()),
+                QStringLiteral("an earlier device has the MAC address %1").arg(mac));
+        m_macAddresses.insert(mac.toUpper());
+    }
+
+    void require(bool holds, const QString& reason)
+    {
+        if (!holds) {
+            m_faults.append(line(m_place, reason));
+        }
+    }
+
+    QSet<int> m_rooms;
+    QSet<QString> m_addresses;
+    QSet<QString> m_macAddresses;
+    QString m_place;
+    QStringList m_faults;
+};
+
+QStringList faultsOfRooms(const QList<RoomInfo>& rooms)
+{
+    QSet<int> numbers;
+    int highest = 0;
+    for (const RoomInfo& room : rooms) {
+        numbers.insert(room.number);
+        highest = std::max(highest, room.number);
+    }
+    QStringList faults;
+    for (int number = 1; number < highest; ++number) {
+        if (!numbers.contains(number)) {
+            faults.append(line(
+                QStringLiteral("rooms"),
+                QStringLiteral("there is a room %1, but no room %2").arg(highest).arg(number)));
+        }
+    }
+    return faults;
+}
+
+/// Every drawn room has to be in one combined room of a layout, and nothing else.
+QStringList faultsOfLayout(const SceneInfo& layout, const QList<RoomInfo>& rooms)
+{
+    const QString place = QStringLiteral("layout %1").arg(layout.number);
+    QList<int> left;
+    for (const RoomInfo& room : rooms) {
+        left.append(room.number);
+    }
+    QSet<int> named;
+    QStringList faults;
+    for (const QList<int>& combined : combinedRoomsIn(layout.roomGroup)) {
+        for (const int room : combined) {
+            if (!left.removeOne(room)) {
+                const QString reason = named.contains(room)
+                                           ? QStringLiteral("room %1 is in it twice")
+                                           : QStringLiteral("unknown room %1");
+                faults.append(line(place, reason.arg(room)));
+            }
+            named.insert(room);
+        }
+    }
+    for (const int room : std::as_const(left)) {
+        faults.append(line(place, QStringLiteral("room %1 is not in it").arg(room)));
+    }
+    return faults;
+}
+
+QStringList faultsOfLayouts(const DocumentData& hall)
+{
+    QStringList faults;
+    QHash<QString, int> numbers;
+    for (const SceneInfo& layout : hall.scenes) {
+        faults += faultsOfLayout(layout, hall.rooms);
+        const QString text = layoutText(combinedRoomsIn(layout.roomGroup));
+        if (numbers.contains(text)) {
+            faults.append(
+                line(QStringLiteral("layout %1").arg(layout.number),
+                     QStringLiteral("%1 is layout %2 already").arg(text).arg(numbers.value(text))));
+        }
+        numbers.insert(text, numbers.value(text, layout.number));
+    }
+    if (hall.scenes.size() > maxLayouts) {
+        faults.append(
+            line(QStringLiteral("layouts"), QStringLiteral("there are %1; %2 are possible")
+                                                .arg(hall.scenes.size())
+                                                .arg(maxLayouts)));
+    }
+    return faults;
+}
+
+QStringList faultsOfSets(const QList<CombinedRoomView>& views)
+{
+    QStringList faults;
+    for (const CombinedRoomView& view : views) {
+        const QString place = roomsText(view.group);
+        for (const MemberView& member : view.members) {
+            const bool isSpeaker = member.device != nullptr &&
+                                   deviceClass(member.device->modelName) == DeviceClass::Speaker;
+            if (member.device == nullptr) {
+                faults.append(line(place, QStringLiteral("unknown device ") + member.address));
+            } else if (member.side != u"L" && !isSpeaker) {
+                faults.append(line(place, member.address + QStringLiteral(" is no speaker")));
+            }
+        }
+        const qsizetype length = view.presetName.value_or(QString()).size();
+        if (length > maxPresetName) {
+            faults.append(
+                line(place, QStringLiteral("a preset name of %1 characters; %2 are possible")
+                                .arg(length)
+                                .arg(maxPresetName)));
+        }
+    }
+    return faults;
+}
+
+} // namespace
+
+QStringList brokenLimits(HallDocument& hall)
+{
+    QStringList broken;
+    const auto add = [&broken](const QString& place, const QList<LimitBreach>& breaches) {
+        for (const LimitBreach& breach : breaches) {
+            broken.append(line(place, breachWords(breach)));
+        }
+    };
+    for (const RoomView& view : roomViews(hall)) {
+        add(QStringLiteral("room %1").arg(view.number), view.tally.breaches);
+    }
+    for (const CombinedRoomView& view : combinedRoomViews(hall)) {
+        add(roomsText(view.group), view.tally.breaches);
+    }
+    return broken;
+}
+
+QStringList hallFaults(HallDocument& hall)
+{
+    QStringList faults = faultsOfRooms(hall.data().rooms);
+    DeviceJudge judge(hall.data());
+    for (const DeviceData& device : hall.data().devices.all()) {
+        faults += judge.faultsOf(device);
+    }
+    return faults + faultsOfLayouts(hall.data()) + faultsOfSets(combinedRoomViews(hall)) +
+           brokenLimits(hall);
+}
