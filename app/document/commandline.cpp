@@ -15,7 +15,7 @@ constexpr qsizetype requiredFields = 5;
 
 constexpr qsizetype mostShown = 40;
 
-const QString logOption = QStringLiteral("--log");
+constexpr QLatin1String logOption("--log");
 
 QString withoutQuotes(QString text)
 {
@@ -119,7 +119,7 @@ std::optional<DeviceData> deviceFromArgument(const QString& argument)
     if (fields.size() < requiredFields) {
         return std::nullopt;
     }
-    const DeviceData device = deviceFrom(fields);
+    DeviceData device = deviceFrom(fields);
     if (!isDeviceAccepted(device.version, device.modelName) ||
         device.macAddress == u"00:00:00:00:00:00") {
         return std::nullopt;

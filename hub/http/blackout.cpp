@@ -9,7 +9,7 @@
 
 namespace {
 
-const QString black = QStringLiteral("***");
+constexpr QLatin1String black("***");
 
 // A hub's word that is shorter than this is no secret, and would black out half of the file.
 constexpr qsizetype minSecretLength = 6;
@@ -23,7 +23,7 @@ constexpr std::array secretNames{u"auth",    u"cookie",    u"credential", u"dige
 constexpr std::array harmlessNames{u"error", u"message", u"request", u"status", u"user-id"};
 
 // The first password goes to the hub under the name of its account.
-const QString firstPasswordName = QStringLiteral("admin");
+constexpr QLatin1String firstPasswordName("admin");
 
 bool isSecretName(const QString& name)
 {
@@ -109,7 +109,7 @@ QString logInBody(const QString& body)
 {
     const QJsonDocument document = QJsonDocument::fromJson(body.toUtf8());
     if (!document.isObject()) {
-        return body.isEmpty() ? body : black;
+        return body.isEmpty() ? body : QString(black);
     }
     return jsonText(blackedOut(document.object(), Secrets::AllTexts));
 }
@@ -144,7 +144,7 @@ HttpMessage Blackout::blackedOut(const QString& requestLine, const QString& text
         line = isSecretName(name) ? name + QStringLiteral(": ") + black : withoutKnown(line);
     }
     if (isReply && isExport(requestLine)) {
-        message.body = message.body.isEmpty() ? QString() : black;
+        message.body = message.body.isEmpty() ? QString() : QString(black);
     } else {
         message.body =
             withoutKnown(isLogIn(requestLine) ? logInBody(message.body) : otherBody(message.body));
