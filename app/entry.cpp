@@ -3,6 +3,8 @@
 #include "commandline.h"
 #include "configurationfile.h"
 #include "console.h"
+#include "exchangelog.h"
+#include "httpconnection.h"
 #include "mainwindow.h"
 #include "tesseldoc.h"
 
@@ -17,19 +19,38 @@ void tellIgnoredArguments()
     }
 }
 
+/// Begins the log of requests, when one is asked for.
+void startLog(ExchangeLog& log, const QString& path)
+{
+    if (path.isEmpty()) {
+        return;
+    }
+    if (log.open()) {
+        HttpConnection::writeTo(&log);
+    } else {
+        writeToErrors(
+            QStringLiteral("tessel: cannot write the log %1: %2\n").arg(path, log.error()));
+    }
+}
+
 } // namespace
 
 int runWizard(int& argc, char** argv)
 {
-    // Destroyed from the bottom up: window, document, application.
+    // Destroyed from the bottom up: window, document, log, application.
     const QApplication application(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("tessel"));
     // Qt has taken its own ones out.
     tellIgnoredArguments();
+    const QString logFile = logPath(QCoreApplication::arguments());
+    ExchangeLog log(logFile);
+    startLog(log, logFile);
     TesselDoc doc(nullptr);
     const QString path = configurationPath(QCoreApplication::arguments());
     ConfigurationFile file(&doc, path);
     MainWindow window(nullptr, &doc, path.isEmpty() ? nullptr : &file);
     window.show();
-    return QApplication::exec();
+    const int code = QApplication::exec();
+    HttpConnection::writeTo(nullptr);
+    return code;
 }

@@ -5,7 +5,7 @@ namespace {
 QString helpText()
 {
     return QStringLiteral(
-        "Usage: tessel [FILE.tessel] [-N:INDEX] [-D:DEVICE]...\n"
+        "Usage: tessel [FILE.tessel] [-N:INDEX] [-D:DEVICE]... [--log FILE]\n"
         "\n"
         "Divide / Combine Room Wizard: configures a hall whose movable partitions divide\n"
         "it into up to four rooms, and installs the presets into its hubs.\n"
@@ -21,6 +21,7 @@ QString helpText()
         "  -D:MODEL/LABEL/FIRMWARE/ADDRESS/MAC[/SEARCHTYPE[/PASSWORD]]\n"
         "              a device; to be given once for each. For example\n"
         "              \"-D:PX-HB/Hub-1/2.1.0/192.168.0.10/00:A0:DE:10:00:01\"\n"
+        "  --log FILE  writes requests to hubs and replies to FILE, without passwords\n"
         "\n"
         "  -h, --help  shows this text\n"
         "  --version   shows the version\n"

@@ -290,7 +290,8 @@ void MainWindow::tellUnreadableFile()
         text += tr("\n\nIt stays as it is: what you save goes into a new file beside it.");
     }
     QMessageBox::critical(this, QStringLiteral("Error"), text, QMessageBox::Ok);
-    next();
+    setPageIndex(*m_doc, int(WizardPage::RoomDesign));
+    restorePages();
 }
 
 void MainWindow::loadResumeFile()

@@ -15,6 +15,8 @@ constexpr qsizetype requiredFields = 5;
 
 constexpr qsizetype mostShown = 40;
 
+constexpr QLatin1String logOption("--log");
+
 QString withoutQuotes(QString text)
 {
     return text.remove(QLatin1Char('"'));
@@ -68,6 +70,20 @@ bool isConfigurationPath(const QString& argument)
     return argument.endsWith(u".tessel", Qt::CaseInsensitive) && !argument.startsWith(u'-');
 }
 
+/// Without the log's option and the file behind it, whatever that is called.
+QStringList withoutLog(const QStringList& arguments)
+{
+    QStringList others;
+    for (qsizetype index = 0; index < arguments.size(); ++index) {
+        if (arguments.at(index) == logOption && index + 1 < arguments.size()) {
+            ++index;
+        } else {
+            others.append(arguments.at(index));
+        }
+    }
+    return others;
+}
+
 } // namespace
 
 CommandLine readCommandLine(const QStringList& arguments)
@@ -103,7 +119,7 @@ std::optional<DeviceData> deviceFromArgument(const QString& argument)
     if (fields.size() < requiredFields) {
         return std::nullopt;
     }
-    const DeviceData device = deviceFrom(fields);
+    DeviceData device = deviceFrom(fields);
     if (!isDeviceAccepted(device.version, device.modelName) ||
         device.macAddress == u"00:00:00:00:00:00") {
         return std::nullopt;
@@ -113,9 +129,15 @@ std::optional<DeviceData> deviceFromArgument(const QString& argument)
 
 QString configurationPath(const QStringList& arguments)
 {
-    const QStringList others = arguments.mid(1);
+    const QStringList others = withoutLog(arguments.mid(1));
     const auto path = std::find_if(others.begin(), others.end(), isConfigurationPath);
     return path != others.end() ? *path : QString();
+}
+
+QString logPath(const QStringList& arguments)
+{
+    const qsizetype index = arguments.lastIndexOf(logOption);
+    return index > 0 ? arguments.value(index + 1) : QString();
 }
 
 QStringList ignoredArguments(const QStringList& arguments)
@@ -126,7 +148,7 @@ QStringList ignoredArguments(const QStringList& arguments)
     // spaces: behind the first "/" that is none of a file, any argument can be a piece of a
     // password.
     bool mayBePassword = false;
-    for (const QString& argument : arguments.mid(1)) {
+    for (const QString& argument : withoutLog(arguments.mid(1))) {
         const bool isFile = isConfigurationPath(argument);
         const bool isUsed = (isFile && !std::exchange(hasFile, true)) ||
                             numberFromArgument(argument) || deviceFromArgument(argument);

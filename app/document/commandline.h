@@ -28,6 +28,10 @@ std::optional<DeviceData> deviceFromArgument(const QString& argument);
 /// that ends in ".tessel" and does not look like an option. Empty when there is none.
 QString configurationPath(const QStringList& arguments);
 
+/// The file that requests and replies are to be written to: the argument behind the last "--log".
+/// Empty when there is none.
+QString logPath(const QStringList& arguments);
+
 /// What the wizard can do nothing with among its arguments (the program's name first), each in a
 /// form to be shown: as far as it can hold no password, "..." for the rest, and in one line.
 QStringList ignoredArguments(const QStringList& arguments);

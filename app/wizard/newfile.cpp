@@ -37,7 +37,7 @@ QString takeName(const QString& path)
 
 QString saveAsNewFile(IDocAccessor& doc, const QString& path)
 {
-    const QString taken = takeName(path);
+    QString taken = takeName(path);
     if (taken.isEmpty() || doc.saveResume(taken)) {
         return taken;
     }

@@ -1,5 +1,6 @@
 #include "httpconnection.h"
 
+#include "exchangelog.h"
 #include "httpreply.h"
 #include "httprequest.h"
 
@@ -7,6 +8,12 @@
 #include <QTimerEvent>
 
 #include <utility>
+
+namespace {
+
+ExchangeLog* exchangeLog = nullptr;
+
+} // namespace
 
 HttpConnection::HttpConnection(const QString& address, QObject* parent)
     : QObject(parent)
@@ -17,6 +24,11 @@ HttpConnection::HttpConnection(const QString& address, QObject* parent)
     connect(m_socket, SIGNAL(readyRead()), this, SLOT(tcpReadyRead()));
     connect(m_socket, SIGNAL(errorOccurred(QAbstractSocket::SocketError)), this,
             SLOT(tcpFailed(QAbstractSocket::SocketError)));
+}
+
+void HttpConnection::writeTo(ExchangeLog* log)
+{
+    exchangeLog = log;
 }
 
 void HttpConnection::open()
@@ -120,12 +132,20 @@ void HttpConnection::writeUnsent()
     }
     m_reader.reset();
     m_isAsked = true;
+    if (exchangeLog != nullptr) {
+        const QString request = QString::fromUtf8(m_unsent);
+        m_askedLine = request.section(QStringLiteral("\r\n"), 0, 0);
+        exchangeLog->noteRequest(m_address, request);
+    }
     m_socket->write(std::exchange(m_unsent, QByteArray()));
 }
 
 void HttpConnection::answer(const QString& reply)
 {
     m_isAsked = false;
+    if (exchangeLog != nullptr) {
+        exchangeLog->noteReply(m_address, m_askedLine, reply);
+    }
     if (HttpReply::wantsClose(HttpReply::header(reply))) {
         m_socket->disconnectFromHost();
     }

@@ -10,6 +10,7 @@
 
 #include <chrono>
 
+class ExchangeLog;
 class QTcpSocket;
 
 /// The connection to one hub's web API: puts one question at a time and hands out its answer.
@@ -35,6 +36,10 @@ public:
 
     /// `address` is dotted IPv4 text. Nothing happens before the first call.
     HttpConnection(const QString& address, QObject* parent);
+
+    /// From now on every connection has its questions and their answers written down; null ends
+    /// that. `log` is not owned. What goes out stays the same.
+    static void writeTo(ExchangeLog* log);
 
     const QString& address() const { return m_address; }
 
@@ -80,6 +85,7 @@ private:
     QTcpSocket* m_socket;
     QBasicTimer m_pause;
     QByteArray m_unsent; ///< the question that waits for its pause or for the connection
+    QString m_askedLine; ///< the first line of the last question, where it is written down
     bool m_isAsked = false;
     ReplyReader m_reader;
     Trouble m_trouble = Trouble::None;

@@ -31,7 +31,7 @@ QString keepHall(IDocAccessor& doc, QSize windowSize)
     setPageIndex(doc, int(WizardPage::Install));
     setWindowSize(doc, windowSize);
     const QString path = folder() + QLatin1Char('/') + fileName();
-    const QString kept = QDir().mkpath(folder()) ? saveAsNewFile(doc, path) : QString();
+    QString kept = QDir().mkpath(folder()) ? saveAsNewFile(doc, path) : QString();
     if (kept.isEmpty()) {
         qDebug().noquote() << "The hall could not be kept in" << path;
     }

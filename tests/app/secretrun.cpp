@@ -2,9 +2,11 @@
 
 #include "dialoganswerer.h"
 #include "documentfixtures.h"
+#include "exchangelog.h"
 #include "hall.h"
 #include "hallreport.h"
 #include "hallstore.h"
+#include "httpconnection.h"
 #include "loginanswers.h"
 #include "mainwindow.h"
 #include "recordingrelay.h"
@@ -131,6 +133,43 @@ void printHall(const Hall& hall)
     }
 }
 
+QString logPath()
+{
+    return QDir::homePath() + QStringLiteral("/requests.jsonl");
+}
+
+/// The tokens that the wizard has worked under.
+QList<QByteArray> tokensOf(const RecordingRelay& relay)
+{
+    QList<QByteArray> tokens;
+    for (const QByteArray& request : relay.requests()) {
+        const qsizetype start = request.indexOf("bearer ");
+        if (start >= 0) {
+            const QByteArray token = request.mid(start + 7).split('\r').first();
+            tokens.append(token);
+        }
+    }
+    return tokens;
+}
+
+/// The log has a line for every request that went out, and no token of any.
+void checkLog(const std::vector<std::unique_ptr<RecordingRelay>>& relays)
+{
+    QFile file(logPath());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray log = file.readAll();
+    qsizetype requests = 0;
+    for (const auto& relay : relays) {
+        requests += relay->requests().size();
+        for (const QByteArray& token : tokensOf(*relay)) {
+            QVERIFY(token.size() > 5);
+            QVERIFY2(!log.toLower().contains(token.toLower()), token.constData());
+        }
+    }
+    QCOMPARE(log.count("\"kind\":\"request\""), requests);
+    QVERIFY(!tokensOf(*relays.at(0)).isEmpty());
+}
+
 } // namespace
 
 void SecretRun::installsSavesAndResumes()
@@ -146,9 +185,13 @@ void SecretRun::installsSavesAndResumes()
         QVERIFY(relays.back()->isListening());
     }
 
+    ExchangeLog log(logPath());
+    QVERIFY(log.open());
+    HttpConnection::writeTo(&log);
     TesselDoc doc(nullptr);
     fill(doc);
     installAndSave(doc);
+    HttpConnection::writeTo(nullptr);
     keepResumeFile();
     const MainWindow resumed(nullptr, &doc);
     QCOMPARE(pageIndex(doc), installPage);
@@ -164,4 +207,5 @@ void SecretRun::installsSavesAndResumes()
         }
     }
     QCOMPARE(bodiesWith(*relays.at(2), md5(rightPassword)), 0);
+    checkLog(relays);
 }

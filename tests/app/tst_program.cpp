@@ -76,6 +76,7 @@ private Q_SLOTS:
     void eachUnknownArgumentIsToldOnce();
     void argumentsThatAreUsedAreNotTold();
     void ofTwoFilesTheSecondIsTold();
+    void aLogThatCannotBeWrittenIsTold();
     void passwordsAreNotTold();
 };
 
@@ -95,7 +96,7 @@ void TestProgram::helpNeedsNoDisplay()
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.errors, QString());
     QVERIFY2(run.output.startsWith(u"Usage: tessel "), qPrintable(run.output));
-    for (const char* word : {"FILE.tessel", "-N:", "-D:", "--help", "--version"}) {
+    for (const char* word : {"FILE.tessel", "-N:", "-D:", "--log", "--help", "--version"}) {
         QVERIFY2(run.output.contains(QLatin1String(word)), word);
     }
 }
@@ -165,6 +166,15 @@ void TestProgram::ofTwoFilesTheSecondIsTold()
     const QStringList arguments{QStringLiteral("-N:1"), QStringLiteral("halls/a.tessel"),
                                 QStringLiteral("halls/b.tessel")};
     QCOMPARE(told(arguments, 1), QStringList(QStringLiteral("tessel: argument ignored: b.tessel")));
+}
+
+void TestProgram::aLogThatCannotBeWrittenIsTold()
+{
+    const QStringList said =
+        told({QStringLiteral("-N:1"), QStringLiteral("--log"), QStringLiteral("/missing/log")}, 1);
+    QCOMPARE(said.size(), 1);
+    QVERIFY2(said.first().startsWith(u"tessel: cannot write the log /missing/log: "),
+             qPrintable(said.first()));
 }
 
 void TestProgram::passwordsAreNotTold()

@@ -144,7 +144,8 @@ void TestSecrets::nothingPrintedTellsAPassword()
 void TestSecrets::noFileLeftTellsAPassword()
 {
     const QStringList paths = filesBelow(m_home.path());
-    for (const char* end : {"/resume-copy.dat", "/127.83.2.1/state.json", "/entry.json", ".xml"}) {
+    for (const char* end :
+         {"/resume-copy.dat", "/requests.jsonl", "/127.83.2.1/state.json", "/entry.json", ".xml"}) {
         const auto isThere = [end](const QString& path) {
             return path.endsWith(QLatin1String(end));
         };

@@ -4,6 +4,7 @@
 #include "testcase.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -15,6 +16,7 @@ namespace {
 
 bool wasWatched = false;
 QString titleDuringTheRun;
+bool wasLogBegun = false;
 
 /// Runs when the first application object has been made, which is the wizard's.
 void watchTheRun()
@@ -41,18 +43,24 @@ QByteArray configuration()
 
 Q_COREAPP_STARTUP_FUNCTION(watchTheRun)
 
-/// The program's entry, with a file among its arguments.
+/// The program's entry, with files among its arguments.
 class TestStartedWithFile : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void theWizardShowsTheWorkOfTheFile();
+    void theLogIsBegun();
 };
 
 void TestStartedWithFile::theWizardShowsTheWorkOfTheFile()
 {
     QCOMPARE(titleDuringTheRun, QStringLiteral("2. Room Design"));
+}
+
+void TestStartedWithFile::theLogIsBegun()
+{
+    QVERIFY(wasLogBegun);
 }
 
 int main(int argc, char** argv)
@@ -64,9 +72,13 @@ int main(int argc, char** argv)
     writeResumeFile(QString::fromLocal8Bit(path), configuration());
     // An interface is handed over, so that nothing is asked and nothing is looked for.
     QByteArray interface = "-N:7";
-    std::array<char*, 4> arguments{argv[0], interface.data(), path.data(), nullptr};
-    int count = 3;
+    QByteArray option = "--log";
+    QByteArray log = home.filePath(QStringLiteral("requests.jsonl")).toLocal8Bit();
+    std::array<char*, 6> arguments{argv[0],       interface.data(), path.data(),
+                                   option.data(), log.data(),       nullptr};
+    int count = int(arguments.size()) - 1;
     runWizard(count, arguments.data());
+    wasLogBegun = QFile::exists(QString::fromLocal8Bit(log));
     TestStartedWithFile test;
     return runTestCase(test, argc, argv);
 }

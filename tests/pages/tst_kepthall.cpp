@@ -88,7 +88,8 @@ private Q_SLOTS:
     void noFirmwarePasswordOrDigestIsKept();
     void whileAHubIsNotDoneNothingIsKept();
     void whatWasChangedWhileItWasInstalledIsNotKept();
-    void eachInstallationIsKeptByItselfAndNothingIsReplaced();
+    void eachInstallationIsKeptByItself();
+    void aFileOfTheSameSecondStays();
     void aReportOfAHubThatIsNotListedKeepsNothingMore();
     void aHallThatCannotBeKeptStopsNothingAndIsOneLineOfOutput();
 };
@@ -206,18 +207,40 @@ void TestKeptHall::whatWasChangedWhileItWasInstalledIsNotKept()
     QCOMPARE(toolTip(step, 1), QString());
 }
 
-void TestKeptHall::eachInstallationIsKeptByItselfAndNothingIsReplaced()
+void TestKeptHall::eachInstallationIsKeptByItself()
 {
     InstallHall step(base, 1);
     installWhole(step);
     const QString first = folder() + u'/' + keptFiles().first();
     const QByteArray before = bytesOf(first);
-    // Most likely within the same second.
     setDeviceLabel(step.doc, step.address(1), QStringLiteral("Other"));
     enterAgain(step);
     installWhole(step);
     QCOMPARE(keptFiles().size(), 2);
     QCOMPARE(bytesOf(first), before);
+}
+
+void TestKeptHall::aFileOfTheSameSecondStays()
+{
+    constexpr int seconds = 60;
+    QVERIFY(QDir().mkpath(folder()));
+    const QDateTime now = QDateTime::currentDateTime();
+    for (int second = 0; second < seconds; ++second) {
+        const QString name =
+            now.addSecs(second).toString(QStringLiteral("yyyy-MM-dd HH-mm-ss'.tessel'"));
+        QFile file(folder() + u'/' + name);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    const InstallHall step(base, 1);
+    installWhole(step);
+    int emptyFiles = 0;
+    for (const QString& name : keptFiles()) {
+        const bool isEmpty = bytesOf(folder() + u'/' + name).isEmpty();
+        emptyFiles += isEmpty ? 1 : 0;
+        QVERIFY2(isEmpty || name.endsWith(u" (2).tessel"), qPrintable(name));
+    }
+    QCOMPARE(emptyFiles, seconds);
+    QCOMPARE(keptFiles().size(), seconds + 1);
 }
 
 void TestKeptHall::aReportOfAHubThatIsNotListedKeepsNothingMore()

@@ -291,19 +291,23 @@ void TestScripts::demoKeepsWhatAPersonSaved()
     copy.give(QStringLiteral("tessel-hall"),
               QStringLiteral("trap 'exit 0' TERM; echo 'The hall is open.'\n"
                              "while :; do sleep 0.1; done"));
-    copy.give(QStringLiteral("tessel"), QStringLiteral("cat \"$HOME/saved\" >>\"$LOG\"\n"
-                                                       "echo saved >\"$HOME/saved\""));
+    // A desktop's own word on where the documents are must not reach it.
+    copy.give(QStringLiteral("tessel"),
+              QStringLiteral("echo \"${XDG_CONFIG_HOME-none}\" >>\"$LOG\"\n"
+                             "cat \"$HOME/saved\" >>\"$LOG\"\n"
+                             "echo saved >\"$HOME/saved\""));
     copy.give(QStringLiteral("cmake"), QStringLiteral("mkdir -p build\n"
                                                       "ln -sfn \"$PATH\" build/release"));
     QProcessEnvironment environment;
     environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":0"));
     environment.insert(QStringLiteral("HOME"), QStringLiteral("/nowhere"));
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), QStringLiteral("/nowhere/config"));
     for (int start = 1; start <= 2; ++start) {
         const ScriptRun run =
             copy.run(QStringLiteral("demo"), {QStringLiteral("--interactive")}, environment);
         QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
     }
-    QCOMPARE(copy.log(), QStringLiteral("saved\n"));
+    QCOMPARE(copy.log(), QStringLiteral("none\nnone\nsaved\n"));
 }
 
 void TestScripts::buildIsAsStrictAsItIsAskedToBe_data()

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void theFirstConfigurationFileIsOpened_data();
     void theFirstConfigurationFileIsOpened();
     void aSecondConfigurationFileIsToldByItsName();
+    void theLogIsTheArgumentBehindItsOption_data();
+    void theLogIsTheArgumentBehindItsOption();
     void ignoredArgumentsAreShownWithoutTheirValues_data();
     void ignoredArgumentsAreShownWithoutTheirValues();
     void noPieceOfAPasswordIsShown_data();
@@ -257,6 +259,39 @@ void TestCommandLine::aSecondConfigurationFileIsToldByItsName()
                                 QStringLiteral("/halls/b.tessel"), QStringLiteral("stray")};
     QCOMPARE(ignoredArguments(arguments),
              QStringList({QStringLiteral("b.tessel"), QStringLiteral("stray")}));
+}
+
+void TestCommandLine::theLogIsTheArgumentBehindItsOption_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("log");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QStringList>("ignored");
+    const auto row = [](const char* arguments, const char* log, const char* file,
+                        const QStringList& ignored) {
+        QTest::newRow(arguments) << QString::fromLatin1(arguments) << QString::fromLatin1(log)
+                                 << QString::fromLatin1(file) << ignored;
+    };
+    row("-N:1", "", "", {});
+    row("--log a.jsonl", "a.jsonl", "", {});
+    row("--log a.jsonl hall.tessel", "a.jsonl", "hall.tessel", {});
+    row("hall.tessel --log /tmp/b.tessel", "/tmp/b.tessel", "hall.tessel", {});
+    row("--log a.jsonl --log b.jsonl", "b.jsonl", "", {});
+    row("--log /logs/a stray", "/logs/a", "", {QStringLiteral("stray")});
+    row("--log", "", "", {QStringLiteral("--log")});
+    row("--log=a.jsonl", "", "", {QStringLiteral("--log=...")});
+}
+
+void TestCommandLine::theLogIsTheArgumentBehindItsOption()
+{
+    QFETCH(const QString, arguments);
+    QFETCH(const QString, log);
+    QFETCH(const QString, file);
+    QFETCH(const QStringList, ignored);
+    const QStringList all = QStringList{QStringLiteral("tessel")} + arguments.split(u' ');
+    QCOMPARE(logPath(all), log);
+    QCOMPARE(configurationPath(all), file);
+    QCOMPARE(ignoredArguments(all), ignored);
 }
 
 void TestCommandLine::ignoredArgumentsAreShownWithoutTheirValues_data()
