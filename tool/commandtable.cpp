@@ -1,7 +1,9 @@
 #include "commandtable.h"
 
 #include "findcommand.h"
+#include "recallcommand.h"
 #include "showcommand.h"
+#include "walkcommand.h"
 
 #include <algorithm>
 
@@ -9,7 +11,9 @@ CommandTable allCommands()
 {
     CommandTable commands;
     commands.push_back(std::make_unique<FindCommand>());
+    commands.push_back(std::make_unique<RecallCommand>());
     commands.push_back(std::make_unique<ShowCommand>());
+    commands.push_back(std::make_unique<WalkCommand>());
     return commands;
 }
 
