@@ -3,7 +3,9 @@
 #include "findcommand.h"
 #include "makecommand.h"
 #include "plancommand.h"
+#include "recallcommand.h"
 #include "showcommand.h"
+#include "walkcommand.h"
 
 #include <algorithm>
 
@@ -11,9 +13,11 @@ CommandTable allCommands()
 {
     CommandTable commands;
     commands.push_back(std::make_unique<FindCommand>());
+    commands.push_back(std::make_unique<RecallCommand>());
     commands.push_back(std::make_unique<ShowCommand>());
     commands.push_back(std::make_unique<MakeCommand>());
     commands.push_back(std::make_unique<PlanCommand>());
+    commands.push_back(std::make_unique<WalkCommand>());
     return commands;
 }
 

@@ -30,7 +30,7 @@ void PresetRound::recall(const QHash<QString, int>& numbers, int settleMs)
     for (auto each = numbers.begin(); each != numbers.end(); ++each) {
         m_pending.insert(each.key());
         auto* const sender = new PresetRecallSender(QHostAddress(each.key()), each.value(), this);
-        connect(sender, SIGNAL(notifyPresetRecall(int)), this, SLOT(askSoon()));
+        connect(sender, SIGNAL(notifyPresetRecall(int)), this, SLOT(askPending()));
         sender->start();
     }
     QTimer::singleShot(settleMs, this, SLOT(beginReading()));
@@ -55,24 +55,23 @@ void PresetRound::beginReading()
 
 void PresetRound::askPending()
 {
+    if (!m_isReading) {
+        return;
+    }
     for (const QString& address : std::as_const(m_pending)) {
         ask(address);
     }
 }
 
-void PresetRound::askSoon()
+void PresetRound::note(const QString& /*ipAddress*/, int number)
 {
-    const auto* const recalled = qobject_cast<PresetRecallSender*>(sender());
-    const QString address = recalled->hostAddress().toString();
-    if (m_isReading && m_pending.contains(address)) {
-        ask(address);
-    }
-}
-
-void PresetRound::note(const QString& address, int number)
-{
+    // The address as it was given: that of a file may be written in another way.
+    auto* const reader = qobject_cast<CurrentPresetSender*>(sender());
+    const QString address = m_readers.key(reader);
+    reader->disconnect(this);
+    reader->deleteLater();
+    m_readers.remove(address);
     m_presets.insert(address, number);
-    m_readers.take(address)->deleteLater();
     if (m_expected.value(address, number) == number) {
         m_pending.remove(address);
     }

@@ -39,8 +39,7 @@ Q_SIGNALS:
 private Q_SLOTS:
     void beginReading();
     void askPending();
-    void askSoon();
-    void note(const QString& address, int number);
+    void note(const QString& ipAddress, int number);
     void finish();
 
 private:

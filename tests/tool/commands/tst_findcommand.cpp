@@ -109,7 +109,10 @@ void TestFindCommand::tablesKeepToEightyColumns()
 
 void TestFindCommand::queryIsTheWizardsByteForByte()
 {
-    const NetworkRun run = runBesideHall(oneHub, find + QStringLiteral("--probe 10.54.9.9"));
+    const NetworkRun run = runBesideHall(
+        hallOf("2", "[]", R"([{"device": "10.54.1.1", "at": "discovery", "kind": "direct-only"}])"),
+        find + QStringLiteral("--probe 10.54.1.1"));
+    QVERIFY(!device(run, hub).isEmpty());
     QVERIFY2(run.hall.contains(QStringLiteral("Every message was as prescribed.")),
              qPrintable(run.errors));
 }

@@ -1,0 +1,161 @@
+#include "hall.h"
+#include "hallondisk.h"
+#include "livetoolrun.h"
+#include "testcase.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+namespace {
+
+const QString stage = QStringLiteral("127.32.1.1");
+const QString gallery = QStringLiteral("127.32.1.2");
+
+// Enough for a hub that never will be there; those that are, end the wait themselves.
+const QString shortWait = QStringLiteral("--wait=0.1");
+
+} // namespace
+
+/// `recall` beside a hall over real sockets. Peripherals stand for hubs: they follow every number.
+class TestRecallCommand : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void allHubsAreOnTheLayoutAndAllIsWell();
+    void jsonTellsWhatWasReadBack();
+    void hubThatIsNotThereIsNamed_data();
+    void hubThatIsNotThereIsNamed();
+    void realHubRefusesWhatItDoesNotHold();
+    void otherDevicesAreLeftAlone();
+    void wrongUsageIsOneLine_data();
+    void wrongUsageIsOneLine();
+};
+
+#define START_HALL                                                                                 \
+    const HallOnDisk file(stage, gallery);                                                         \
+    QVERIFY(!file.path().isEmpty());                                                               \
+    Hall hall(*HallDescription::byCounts(0, 2, stage));                                            \
+    QString error;                                                                                 \
+    QVERIFY2(hall.start(&error), qPrintable(error))
+
+void TestRecallCommand::allHubsAreOnTheLayoutAndAllIsWell()
+{
+    START_HALL;
+    LiveToolRun tool({QStringLiteral("recall"), QStringLiteral("2"), file.path()});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.errors, QString());
+    QCOMPARE(hall.device(stage)->currentPreset(), 2);
+    QCOMPARE(hall.device(gallery)->currentPreset(), 2);
+    for (const char* shown : {"Layout 2", "Stage", "127.32.1.1", "Gallery", "127.32.1.2", "ok"}) {
+        QVERIFY2(run.output.contains(QLatin1String(shown)), qPrintable(run.output));
+    }
+    QCOMPARE(hall.differences(), QStringList());
+}
+
+void TestRecallCommand::jsonTellsWhatWasReadBack()
+{
+    START_HALL;
+    hall.device(gallery)->setFault({.kind = FaultKind::NoAnswer});
+    LiveToolRun tool({QStringLiteral("recall"), QStringLiteral("3"), file.path(), shortWait,
+                      QStringLiteral("--json")});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 1);
+    const QJsonObject object = QJsonDocument::fromJson(run.output.toUtf8()).object();
+    const QJsonArray expected{QJsonObject{{QStringLiteral("address"), stage},
+                                          {QStringLiteral("label"), QStringLiteral("Stage")},
+                                          {QStringLiteral("preset"), 3},
+                                          {QStringLiteral("isRight"), true}},
+                              QJsonObject{{QStringLiteral("address"), gallery},
+                                          {QStringLiteral("label"), QStringLiteral("Gallery")},
+                                          {QStringLiteral("preset"), QJsonValue()},
+                                          {QStringLiteral("isRight"), false}}};
+    QCOMPARE(object.value(QLatin1String("layout")).toInt(), 3);
+    QCOMPARE(object.value(QLatin1String("hubs")).toArray(), expected);
+}
+
+void TestRecallCommand::hubThatIsNotThereIsNamed_data()
+{
+    QTest::addColumn<Fault>("fault");
+    QTest::addColumn<QString>("result");
+    const auto row = [](const char* result, const Fault& fault) {
+        QTest::newRow(result) << fault << QString::fromLatin1(result);
+    };
+    row("on no preset", {.exchange = Exchange::RecallCommand, .kind = FaultKind::NoEffect});
+    row("no answer", {.exchange = Exchange::CurrentPreset, .kind = FaultKind::NoAnswer});
+}
+
+void TestRecallCommand::hubThatIsNotThereIsNamed()
+{
+    QFETCH(const Fault, fault);
+    QFETCH(const QString, result);
+    START_HALL;
+    hall.device(gallery)->setFault(fault);
+    LiveToolRun tool({QStringLiteral("recall"), QStringLiteral("1"), file.path(), shortWait});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.errors,
+             QStringLiteral("tesselctl: Gallery (127.32.1.2): layout 1: %1\n").arg(result));
+    QVERIFY2(run.output.contains(result) && run.output.contains(u"ok"), qPrintable(run.output));
+}
+
+void TestRecallCommand::realHubRefusesWhatItDoesNotHold()
+{
+    const HallOnDisk file(stage, gallery);
+    Hall hall(*HallDescription::byCounts(2, 0, stage));
+    QString error;
+    QVERIFY2(hall.start(&error), qPrintable(error));
+    LiveToolRun tool({QStringLiteral("recall"), QStringLiteral("1"), file.path(), shortWait});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains(QStringLiteral("Stage (127.32.1.1): layout 1: on no preset")),
+             qPrintable(run.errors));
+}
+
+void TestRecallCommand::otherDevicesAreLeftAlone()
+{
+    const HallOnDisk file(stage, gallery);
+    // The third one has the address of the microphone.
+    HallDescription description = *HallDescription::byCounts(0, 3, stage);
+    description.peripherals.last().address = QStringLiteral("127.32.9.9");
+    Hall hall(description);
+    QString error;
+    QVERIFY2(hall.start(&error), qPrintable(error));
+    LiveToolRun tool({QStringLiteral("recall"), QStringLiteral("1"), file.path()});
+    QCOMPARE(tool.ended().exitCode, 0);
+    QCOMPARE(hall.device(QStringLiteral("127.32.9.9"))->exchangeNames(), QStringList());
+}
+
+void TestRecallCommand::wrongUsageIsOneLine_data()
+{
+    QTest::addColumn<QString>("number");
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const char* number, const char* option, const char* reason) {
+        QTest::newRow(reason) << QString::fromLatin1(number) << QString::fromLatin1(option)
+                              << QString::fromLatin1(reason);
+    };
+    row("4", "--json", "has no layout 4\n");
+    row("first", "--json", "has no layout first\n");
+    row("02", "--json", "has no layout 02\n");
+    row("1", "--wait=long", "recall: --wait is no number of seconds from 0 to 3600: long\n");
+}
+
+void TestRecallCommand::wrongUsageIsOneLine()
+{
+    QFETCH(const QString, number);
+    QFETCH(const QString, option);
+    QFETCH(const QString, reason);
+    START_HALL;
+    LiveToolRun tool({QStringLiteral("recall"), number, file.path(), option});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(isOneLine(run.errors) && run.errors.endsWith(reason), qPrintable(run.errors));
+    QCOMPARE(hall.device(stage)->exchangeNames(), QStringList());
+}
+
+TESSEL_TEST_MAIN(TestRecallCommand)
+#include "tst_recallcommand.moc"

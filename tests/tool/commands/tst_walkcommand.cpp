@@ -1,0 +1,249 @@
+#include "hall.h"
+#include "hallondisk.h"
+#include "livetoolrun.h"
+#include "testcase.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+namespace {
+
+const QString stage = QStringLiteral("127.33.1.1");
+const QString gallery = QStringLiteral("127.33.1.2");
+
+const QString walk = QStringLiteral("walk");
+const QString yes = QStringLiteral("--yes");
+const QString atOnce = QStringLiteral("--settle=0");
+const QString shortWait = QStringLiteral("--wait=0.1");
+
+/// So long that nothing comes of it while a test runs.
+const QString longSettle = QStringLiteral("--settle=600");
+const QString longWait = QStringLiteral("--wait=600");
+
+QStringList recalls(const SimulatedDevice* device)
+{
+    QStringList lines;
+    for (const JournalEntry& entry : device->journal()) {
+        if (entry.text.startsWith(u"ssrecall_ex config ")) {
+            lines.append(entry.text.section(u' ', 2));
+        }
+    }
+    return lines;
+}
+
+QString bytesOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+} // namespace
+
+/// `walk` beside a hall over real sockets. Peripherals stand for hubs: they follow every number.
+class TestWalkCommand : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyLayoutIsReadBackAndTheOldPresetIsActiveAgain();
+    void whatWillBeHeardIsSaidAndNothingIsDoneWithoutAYes_data();
+    void whatWillBeHeardIsSaidAndNothingIsDoneWithoutAYes();
+    void tableShowsLayoutsByHubsInEightyColumns();
+    void resultIsKept();
+    void resultThatCannotBeKeptStopsBeforeAnythingIsHeard();
+    void hubWhosePresetCouldNotBeReadIsNamed();
+    void hubThatDoesNotGoBackIsNamed();
+    void interruptionRestoresFirst();
+    void secondInterruptionLeaves();
+    void fileThatIsNoneIsOneLine();
+};
+
+#define START_HALL                                                                                 \
+    const HallOnDisk file(stage, gallery);                                                         \
+    QVERIFY(!file.path().isEmpty());                                                               \
+    Hall hall(*HallDescription::byCounts(0, 2, stage));                                            \
+    QString error;                                                                                 \
+    QVERIFY2(hall.start(&error), qPrintable(error))
+
+#define RECALL_ON_BOTH(number)                                                                     \
+    {                                                                                              \
+        LiveToolRun before({QStringLiteral("recall"), QStringLiteral(#number), file.path()});      \
+        QCOMPARE(before.ended().exitCode, 0);                                                      \
+        hall.device(stage)->clearJournal();                                                        \
+        hall.device(gallery)->clearJournal();                                                      \
+    }
+
+void TestWalkCommand::everyLayoutIsReadBackAndTheOldPresetIsActiveAgain()
+{
+    START_HALL;
+    RECALL_ON_BOTH(2);
+    LiveToolRun tool({walk, file.path(), yes, atOnce});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(recalls(hall.device(stage)).join(u' '), QStringLiteral("1 2 3 2"));
+    QCOMPARE(recalls(hall.device(gallery)).join(u' '), QStringLiteral("1 2 3 2"));
+    QCOMPARE(hall.device(stage)->currentPreset(), 2);
+    QVERIFY2(run.errors.contains(QStringLiteral(
+                 "tesselctl: layout 3: Stage (127.33.1.1) ok, Gallery (127.33.1.2) ok\n")),
+             qPrintable(run.errors));
+    QCOMPARE(hall.differences(), QStringList());
+}
+
+void TestWalkCommand::whatWillBeHeardIsSaidAndNothingIsDoneWithoutAYes_data()
+{
+    QTest::addColumn<QByteArray>("typed");
+    QTest::addColumn<int>("code");
+    QTest::newRow("yes") << QByteArray("Yes\n") << 0;
+    QTest::newRow("y") << QByteArray("y\n") << 0;
+    QTest::newRow("no") << QByteArray("no\n") << 3;
+    QTest::newRow("another word") << QByteArray("yesterday\n") << 3;
+    QTest::newRow("an empty line") << QByteArray("\n") << 3;
+    QTest::newRow("nobody there") << QByteArray() << 3;
+}
+
+void TestWalkCommand::whatWillBeHeardIsSaidAndNothingIsDoneWithoutAYes()
+{
+    QFETCH(const QByteArray, typed);
+    START_HALL;
+    LiveToolRun tool({walk, file.path(), atOnce}, typed);
+    const ToolRun run = tool.ended();
+    QTEST(run.exitCode, "code");
+    QVERIFY2(run.errors.startsWith(u"tesselctl: 3 layouts will be recalled on 2 hubs"),
+             qPrintable(run.errors));
+    QVERIFY2(run.errors.contains(u"hears it"), qPrintable(run.errors));
+    QCOMPARE(recalls(hall.device(stage)).isEmpty(), run.exitCode != 0);
+    QCOMPARE(run.errors.contains(u"nothing was recalled"), run.exitCode != 0);
+}
+
+void TestWalkCommand::tableShowsLayoutsByHubsInEightyColumns()
+{
+    START_HALL;
+    hall.device(gallery)->setFault(
+        {.exchange = Exchange::RecallCommand, .kind = FaultKind::NoEffect, .skip = 1});
+    LiveToolRun tool({walk, file.path(), yes, atOnce, shortWait});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 1);
+    const QStringList lines = run.output.split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 5);
+    for (const QString& line : lines) {
+        QVERIFY2(line.size() <= 80, qPrintable(line));
+    }
+    QCOMPARE(lines.at(2).simplified(), QStringLiteral("1 1/2/3 ok ok"));
+    QCOMPARE(lines.at(3).simplified(), QStringLiteral("2 1+2/3 ok on 1"));
+    QCOMPARE(lines.at(4).simplified(), QStringLiteral("3 1+2+3 ok on 1"));
+}
+
+void TestWalkCommand::resultIsKept()
+{
+    START_HALL;
+    RECALL_ON_BOTH(3);
+    hall.device(gallery)->setFault(
+        {.exchange = Exchange::CurrentPreset, .kind = FaultKind::NoAnswer, .skip = 1});
+    const QString kept = file.beside(QStringLiteral("result.json"));
+    LiveToolRun tool({walk, file.path(), yes, atOnce, shortWait, QStringLiteral("--json"),
+                      QStringLiteral("-o"), kept});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 1);
+    const QJsonObject object = QJsonDocument::fromJson(bytesOf(kept).toUtf8()).object();
+    QCOMPARE(object, QJsonDocument::fromJson(run.output.toUtf8()).object());
+    QVERIFY(QDateTime::fromString(object.value(QLatin1String("begun")).toString(), Qt::ISODate)
+                .isValid());
+    QVERIFY(!object.value(QLatin1String("isRight")).toBool(true));
+    const QJsonObject hub = object.value(QLatin1String("hubs")).toArray().at(0).toObject();
+    QCOMPARE(hub.value(QLatin1String("before")).toInt(), 3);
+    QCOMPARE(hub.value(QLatin1String("restored")).toInt(), 3);
+    const QJsonObject layout = object.value(QLatin1String("layouts")).toArray().at(1).toObject();
+    QCOMPARE(layout.value(QLatin1String("rooms")).toString(), QStringLiteral("1+2/3"));
+    const QJsonArray hubs = layout.value(QLatin1String("hubs")).toArray();
+    QCOMPARE(hubs.at(0).toObject().value(QLatin1String("preset")).toInt(), 2);
+    QVERIFY(hubs.at(0).toObject().value(QLatin1String("isRight")).toBool());
+    QVERIFY(hubs.at(1).toObject().value(QLatin1String("preset")).isNull());
+}
+
+void TestWalkCommand::resultThatCannotBeKeptStopsBeforeAnythingIsHeard()
+{
+    START_HALL;
+    LiveToolRun tool(
+        {walk, file.path(), yes, atOnce, QStringLiteral("-o"), file.beside(QStringLiteral("a/b"))});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(isOneLine(run.errors) && run.errors.contains(u"a/b: "), qPrintable(run.errors));
+    QCOMPARE(hall.device(stage)->exchangeNames(), QStringList());
+}
+
+void TestWalkCommand::hubWhosePresetCouldNotBeReadIsNamed()
+{
+    START_HALL;
+    RECALL_ON_BOTH(2);
+    hall.device(gallery)->setFault(
+        {.exchange = Exchange::CurrentPreset, .kind = FaultKind::NoAnswer, .times = 1});
+    LiveToolRun tool({walk, file.path(), yes, atOnce, shortWait});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: Gallery (127.33.1.2): which preset was "
+                                                "active before could not be read")),
+             qPrintable(run.errors));
+    QCOMPARE(hall.device(stage)->currentPreset(), 2);
+    QCOMPARE(hall.device(gallery)->currentPreset(), 3);
+}
+
+void TestWalkCommand::hubThatDoesNotGoBackIsNamed()
+{
+    START_HALL;
+    RECALL_ON_BOTH(2);
+    hall.device(gallery)->setFault(
+        {.exchange = Exchange::RecallCommand, .kind = FaultKind::ErrorAnswer, .skip = 3});
+    LiveToolRun tool({walk, file.path(), yes, atOnce, shortWait});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: Gallery (127.33.1.2): preset 2 was "
+                                                "active before and is not again")),
+             qPrintable(run.errors));
+}
+
+void TestWalkCommand::interruptionRestoresFirst()
+{
+    START_HALL;
+    RECALL_ON_BOTH(2);
+    LiveToolRun tool({walk, file.path(), yes, longSettle});
+    QTRY_COMPARE_WITH_TIMEOUT(hall.device(stage)->currentPreset(), 1, 30000);
+    QTRY_COMPARE_WITH_TIMEOUT(hall.device(gallery)->currentPreset(), 1, 30000);
+    tool.interrupt();
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(recalls(hall.device(stage)).join(u' '), QStringLiteral("1 2"));
+    QCOMPARE(hall.device(gallery)->currentPreset(), 2);
+    QVERIFY2(run.errors.contains(u"interrupted: "), qPrintable(run.errors));
+    QVERIFY2(run.output.contains(u"not tried"), qPrintable(run.output));
+}
+
+void TestWalkCommand::secondInterruptionLeaves()
+{
+    START_HALL;
+    RECALL_ON_BOTH(2);
+    hall.device(stage)->setFault(
+        {.exchange = Exchange::RecallCommand, .kind = FaultKind::ErrorAnswer, .skip = 1});
+    LiveToolRun tool({walk, file.path(), yes, longSettle, longWait});
+    QTRY_COMPARE_WITH_TIMEOUT(hall.device(stage)->currentPreset(), 1, 30000);
+    tool.interrupt();
+    QVERIFY(tool.hasSaid(QStringLiteral("interrupted: ")));
+    tool.interrupt();
+    QCOMPARE(tool.ended().exitCode, -1);
+    QCOMPARE(hall.device(stage)->currentPreset(), 1);
+}
+
+void TestWalkCommand::fileThatIsNoneIsOneLine()
+{
+    const HallOnDisk file(stage, gallery);
+    LiveToolRun tool({walk, file.beside(QStringLiteral("none.tessel")), yes});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(isOneLine(run.errors) && run.errors.contains(u"none.tessel"), qPrintable(run.errors));
+}
+
+TESSEL_TEST_MAIN(TestWalkCommand)
+#include "tst_walkcommand.moc"

@@ -1,0 +1,49 @@
+#include "livetoolrun.h"
+
+#include <QTest>
+
+#include <csignal>
+
+namespace {
+
+constexpr int patience = 60000; // milliseconds
+
+} // namespace
+
+LiveToolRun::LiveToolRun(const QStringList& arguments, const QByteArray& typed)
+{
+    m_program.start(QStringLiteral(TESSEL_TOOL), arguments);
+    m_program.write(typed);
+    m_program.closeWriteChannel();
+}
+
+LiveToolRun::~LiveToolRun()
+{
+    m_program.kill();
+    m_program.waitForFinished();
+}
+
+bool LiveToolRun::hasSaid(const QString& words)
+{
+    return QTest::qWaitFor(
+        [this, &words] {
+            m_said += QString::fromUtf8(m_program.readAllStandardError());
+            return m_said.contains(words);
+        },
+        patience);
+}
+
+void LiveToolRun::interrupt()
+{
+    ::kill(static_cast<pid_t>(m_program.processId()), SIGINT);
+}
+
+ToolRun LiveToolRun::ended()
+{
+    const bool isOver =
+        QTest::qWaitFor([this] { return m_program.state() == QProcess::NotRunning; }, patience);
+    const bool isByItself = isOver && m_program.exitStatus() == QProcess::NormalExit;
+    return {isByItself ? m_program.exitCode() : -1,
+            QString::fromUtf8(m_program.readAllStandardOutput()),
+            m_said + QString::fromUtf8(m_program.readAllStandardError())};
+}

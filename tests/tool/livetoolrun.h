@@ -1,0 +1,27 @@
+#pragma once
+
+#include "toolrun.h"
+
+#include <QProcess>
+
+/// The built tool beside a hall that this test serves: the event loop goes on while it runs.
+class LiveToolRun
+{
+public:
+    /// Starts it, with this as all that its user types.
+    explicit LiveToolRun(const QStringList& arguments, const QByteArray& typed = {});
+    ~LiveToolRun();
+
+    /// Waits until it has said this; false when that never comes.
+    bool hasSaid(const QString& words);
+
+    /// Presses Ctrl+C.
+    void interrupt();
+
+    /// Waits for its end.
+    ToolRun ended();
+
+private:
+    QProcess m_program;
+    QString m_said;
+};

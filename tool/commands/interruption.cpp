@@ -1,0 +1,83 @@
+#include "interruption.h"
+
+#ifdef Q_OS_UNIX
+
+#include <QSocketNotifier>
+
+#include <array>
+#include <csignal>
+#include <unistd.h>
+
+namespace {
+
+std::array<int, 2> wakeUpPipe = {-1, -1};
+
+// Of all that wakes an event loop, a handler may do no more than write a byte.
+extern "C" void noteInterruption(int number)
+{
+    std::signal(number, SIG_DFL);
+    const char byte = 0;
+    [[maybe_unused]] const ssize_t written = ::write(wakeUpPipe[1], &byte, 1);
+}
+
+} // namespace
+
+Interruption::Interruption(QObject* parent)
+    : QObject(parent)
+{
+    if (::pipe(wakeUpPipe.data()) != 0) {
+        return;
+    }
+    auto* const notifier = new QSocketNotifier(wakeUpPipe[0], QSocketNotifier::Read, this);
+    connect(notifier, SIGNAL(activated(QSocketDescriptor, QSocketNotifier::Type)), notifier,
+            SLOT(deleteLater()));
+    connect(notifier, SIGNAL(activated(QSocketDescriptor, QSocketNotifier::Type)), this,
+            SIGNAL(interrupted()));
+    std::signal(SIGINT, noteInterruption);
+    std::signal(SIGTERM, noteInterruption);
+}
+
+Interruption::~Interruption()
+{
+    std::signal(SIGINT, SIG_DFL);
+    std::signal(SIGTERM, SIG_DFL);
+    for (int& end : wakeUpPipe) {
+        ::close(end);
+        end = -1;
+    }
+}
+
+#elif defined(Q_OS_WIN)
+
+#include <atomic>
+#include <windows.h>
+
+namespace {
+
+std::atomic<Interruption*> listener = nullptr;
+
+// Runs in a thread of the system's own; what it does not take, ends the program.
+BOOL WINAPI noteInterruption(DWORD event)
+{
+    const bool isMeant = event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT;
+    Interruption* const first = isMeant ? listener.exchange(nullptr) : nullptr;
+    return first != nullptr &&
+           QMetaObject::invokeMethod(first, "interrupted", Qt::QueuedConnection);
+}
+
+} // namespace
+
+Interruption::Interruption(QObject* parent)
+    : QObject(parent)
+{
+    listener = this;
+    ::SetConsoleCtrlHandler(noteInterruption, TRUE);
+}
+
+Interruption::~Interruption()
+{
+    ::SetConsoleCtrlHandler(noteInterruption, FALSE);
+    listener = nullptr;
+}
+
+#endif

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QObject>
+
+/// Turns the first Ctrl+C, or the first polite kill, into a signal of the event loop, so that a
+/// command can put right what it has begun. The second one ends the program at once.
+class Interruption : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// There can be one at a time.
+    explicit Interruption(QObject* parent = nullptr);
+    /// From then on the first one ends the program at once.
+    ~Interruption() override;
+
+Q_SIGNALS:
+    void interrupted();
+};

@@ -1,0 +1,138 @@
+#include "walkreport.h"
+
+#include "hallhubs.h"
+#include "texttable.h"
+
+#include <QJsonArray>
+
+#include <algorithm>
+
+namespace {
+
+std::optional<int> presetOf(const HallWalk::Reading& reading, const DeviceData& hub)
+{
+    const auto found = reading.find(hub.ipAddress);
+    return found != reading.end() ? std::optional(*found) : std::nullopt;
+}
+
+QJsonValue value(std::optional<int> preset)
+{
+    return preset ? QJsonValue(*preset) : QJsonValue();
+}
+
+bool isReached(const WalkResult& result, const SceneInfo& layout)
+{
+    return result.walk.read(layout.number).has_value();
+}
+
+std::optional<int> readOf(const WalkResult& result, const SceneInfo& layout, const DeviceData& hub)
+{
+    return presetOf(result.walk.read(layout.number).value_or(HallWalk::Reading()), hub);
+}
+
+bool isRight(const WalkResult& result, const SceneInfo& layout)
+{
+    return std::all_of(result.hubs.begin(), result.hubs.end(), [&](const DeviceData& hub) {
+        return readOf(result, layout, hub) == layout.number;
+    });
+}
+
+QJsonObject layoutObject(const WalkResult& result, const SceneInfo& layout)
+{
+    QJsonArray hubs;
+    for (const DeviceData& hub : result.hubs) {
+        const std::optional<int> preset = readOf(result, layout, hub);
+        hubs.append(QJsonObject{{QStringLiteral("address"), hub.ipAddress},
+                                {QStringLiteral("preset"), value(preset)},
+                                {QStringLiteral("isRight"), preset == layout.number}});
+    }
+    return {{QStringLiteral("number"), layout.number},
+            {QStringLiteral("rooms"), layout.roomGroup},
+            {QStringLiteral("isReached"), isReached(result, layout)},
+            {QStringLiteral("hubs"), hubs}};
+}
+
+QJsonObject hubObject(const WalkResult& result, const DeviceData& hub)
+{
+    return {{QStringLiteral("address"), hub.ipAddress},
+            {QStringLiteral("label"), hub.label},
+            {QStringLiteral("mac"), hub.macAddress},
+            {QStringLiteral("before"), value(presetOf(result.walk.before(), hub))},
+            {QStringLiteral("restored"), value(presetOf(result.walk.restored(), hub))}};
+}
+
+} // namespace
+
+QString walkTable(const WalkResult& result)
+{
+    QStringList headings{QStringLiteral("Layout"), QStringLiteral("Rooms")};
+    for (const DeviceData& hub : result.hubs) {
+        headings.append(hubName(hub));
+    }
+    TextTable table(headings);
+    for (const SceneInfo& layout : result.layouts) {
+        QStringList cells{QString::number(layout.number), layout.roomGroup};
+        for (const DeviceData& hub : result.hubs) {
+            cells.append(walkWords(result, layout, hub));
+        }
+        table.addRow(cells);
+    }
+    return table.text();
+}
+
+QJsonObject walkObject(const WalkResult& result)
+{
+    QJsonArray hubs;
+    for (const DeviceData& hub : result.hubs) {
+        hubs.append(hubObject(result, hub));
+    }
+    QJsonArray layouts;
+    for (const SceneInfo& layout : result.layouts) {
+        layouts.append(layoutObject(result, layout));
+    }
+    return {{QStringLiteral("begun"), result.begun.toString(Qt::ISODate)},
+            {QStringLiteral("isRight"), isWalkRight(result)},
+            {QStringLiteral("hubs"), hubs},
+            {QStringLiteral("layouts"), layouts}};
+}
+
+QString walkWords(const WalkResult& result, const SceneInfo& layout, const DeviceData& hub)
+{
+    return isReached(result, layout) ? readBackWords(readOf(result, layout, hub), layout.number)
+                                     : QStringLiteral("not tried");
+}
+
+bool isWalkRight(const WalkResult& result)
+{
+    return std::all_of(result.layouts.begin(), result.layouts.end(),
+                       [&result](const SceneInfo& layout) { return isRight(result, layout); });
+}
+
+QStringList restoreFaults(const WalkResult& result)
+{
+    QStringList faults;
+    for (const DeviceData& hub : result.hubs) {
+        const std::optional<int> before = presetOf(result.walk.before(), hub);
+        if (!before) {
+            faults.append(QStringLiteral("%1: which preset was active before could not be read, so "
+                                         "none was recalled again")
+                              .arg(hubName(hub)));
+        } else if (*before != 0 && presetOf(result.walk.restored(), hub) != before) {
+            faults.append(QStringLiteral("%1: preset %2 was active before and is not again")
+                              .arg(hubName(hub), QString::number(*before)));
+        }
+    }
+    return faults;
+}
+
+QStringList restoreNotes(const WalkResult& result)
+{
+    QStringList notes;
+    for (const DeviceData& hub : result.hubs) {
+        if (presetOf(result.walk.before(), hub) == 0) {
+            notes.append(QStringLiteral("%1: no preset was active before; it stays as it is now")
+                             .arg(hubName(hub)));
+        }
+    }
+    return notes;
+}
