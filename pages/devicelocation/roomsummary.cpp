@@ -2,6 +2,7 @@
 
 #include "deviceclass.h"
 #include "devicelimits.h"
+#include "focusedcelldelegate.h"
 #include "roomcolor.h"
 
 namespace {
@@ -75,6 +76,7 @@ RoomSummary::RoomSummary(QWidget* parent)
         {tr("Room"), tr("PX-HB"), tr("Microphone"), tr("Speaker"), tr("Controller"), QString()});
     setRootIsDecorated(false);
     setColumnWidth(RoomColumn, roomWidth);
+    setItemDelegate(new FocusedCellDelegate(this));
     // A selected row would hide the colours that the table is read by.
     setSelectionMode(QAbstractItemView::NoSelection);
 }
