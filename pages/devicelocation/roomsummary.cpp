@@ -2,6 +2,7 @@
 
 #include "deviceclass.h"
 #include "devicelimits.h"
+#include "focusedcelldelegate.h"
 #include "records.h"
 #include "roomcolor.h"
 
@@ -74,6 +75,7 @@ RoomSummary::RoomSummary(QWidget* parent)
           {tr("Room"), tr("PX-HB"), tr("Microphone"), tr("Speaker"), tr("Controller"), QString()},
           RoomInfo::maxRooms, {{RoomColumn, roomWidth}}, parent)
 {
+    setItemDelegate(new FocusedCellDelegate(this));
     // A selected row would hide the colours that the table is read by.
     setSelectionMode(QAbstractItemView::NoSelection);
 }

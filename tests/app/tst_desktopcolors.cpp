@@ -169,6 +169,8 @@ private Q_SLOTS:
     void theMarkOfTheKeyboardIsSeenInEveryRow();
     void theDarkHidesNoCellThatTheKeyboardIsIn_data();
     void theDarkHidesNoCellThatTheKeyboardIsIn();
+    void aSelectedRowShowsWhetherTheKeyboardIsInIt_data();
+    void aSelectedRowShowsWhetherTheKeyboardIsInIt();
     void theMenuOfARoomCanBeRead_data() { addDesktops(); }
     void theMenuOfARoomCanBeRead();
     void theGridsLookTheSameOnEveryDesktop_data();
@@ -300,6 +302,7 @@ void TestDesktopColors::theDarkHidesNoCellThatTheKeyboardIsIn_data()
         QTest::addRow("page %d: %s", page, list) << page << QString::fromLatin1(list);
     };
     row(3, "hubTable");
+    row(3, "summaryTable");
     row(4, "layoutList");
     row(5, "roomGroupList");
     row(5, "summaryTable");
@@ -321,6 +324,52 @@ void TestDesktopColors::theDarkHidesNoCellThatTheKeyboardIsIn()
     const QImage before = table->viewport()->grab().toImage();
     table->setFocus(Qt::TabFocusReason);
     QVERIFY(changedContrast(before, table->viewport()->grab().toImage()) >= readableContrast);
+}
+
+void TestDesktopColors::aSelectedRowShowsWhetherTheKeyboardIsInIt_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<bool>("dark");
+    const auto row = [](int page, const char* list) {
+        for (const bool dark : {false, true}) {
+            QTest::addRow("page %d: %s, %s", page, list, dark ? "dark" : "light")
+                << page << QString::fromLatin1(list) << dark;
+        }
+    };
+    row(3, "hubTable");
+    row(4, "layoutList");
+    row(5, "roomGroupList");
+    row(5, "summaryTable");
+    row(5, "peripheralTable");
+    row(8, "hubList");
+}
+
+void TestDesktopColors::aSelectedRowShowsWhetherTheKeyboardIsInIt()
+{
+    QFETCH(const int, page);
+    QFETCH(const QString, list);
+    QFETCH(const bool, dark);
+    turn(dark);
+    const Wizard wizard(page);
+    QTreeWidget* table = tableOf(wizard.page(), list.toLatin1().constData());
+    if (page == 5 && list == QStringLiteral("peripheralTable")) {
+        press(wizard.removeButton(0)); // a removed device has a colour of its own
+    }
+    for (int column = 0; column < table->columnCount(); ++column) {
+        const QWidget* held = table->itemWidget(table->topLevelItem(0), column);
+        if (held && held->focusPolicy() != Qt::NoFocus) {
+            continue; // it has a mark of its own
+        }
+        table->setCurrentItem(table->topLevelItem(0), column);
+        table->clearFocus();
+        QCoreApplication::processEvents();
+        const QImage before = table->viewport()->grab().toImage();
+        table->setFocus(Qt::TabFocusReason);
+        const double found = changedContrast(before, table->viewport()->grab().toImage());
+        QVERIFY2(found >= readableContrast,
+                 qPrintable(QStringLiteral("column %1: %2").arg(column).arg(found)));
+    }
 }
 
 void TestDesktopColors::theMenuOfARoomCanBeRead()

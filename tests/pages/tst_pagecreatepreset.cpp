@@ -1,3 +1,4 @@
+#include "announcements.h"
 #include "fakecontroller.h"
 #include "hands.h"
 #include "layoutqueries.h"
@@ -40,6 +41,7 @@ private Q_SLOTS:
     void withoutLayoutsNothingIsListedAndNothingBreaks();
     void fieldsAreReachedWithTabFromTopToBottomBeforeTheButtons();
     void upAndDownLeadFromFieldToField();
+    void upAndDownReportTheFieldThatHasTheFocus();
     void fieldsSayWhatTheyName();
 };
 
@@ -76,6 +78,16 @@ struct Shown
     PageCreatePreset page{&controller, &doc, nullptr};
     QTreeWidget* list = tableOf(page, "roomGroupList");
 };
+
+/// What screen readers were told last of where the focus is.
+QObject* reportedFocus = nullptr;
+
+void noteFocus(QAccessibleEvent* event)
+{
+    if (event->type() == QAccessible::Focus) {
+        reportedFocus = event->object();
+    }
+}
 
 } // namespace
 
@@ -299,6 +311,25 @@ void TestPageCreatePreset::upAndDownLeadFromFieldToField()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_X);
     QCOMPARE(shown.names(),
              QStringList({QString(), QStringLiteral("x"), QString(), QString(), QString()}));
+}
+
+void TestPageCreatePreset::upAndDownReportTheFieldThatHasTheFocus()
+{
+    const Shown shown;
+    QVERIFY(QTest::qWaitForWindowActive(shown.page.window()));
+    press(shown.field(1));
+    const Announcements announcements;
+    if (!announcements.canHear()) {
+        QSKIP("This system has no ear for what screen readers are told.");
+    }
+    // The last of several is what is read out.
+    const auto before = QAccessible::installUpdateHandler(noteFocus);
+    const QList<std::pair<Qt::Key, int>> keys{{Qt::Key_Down, 2}, {Qt::Key_Up, 1}};
+    for (const auto& [key, row] : keys) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        QCOMPARE(reportedFocus, shown.field(row));
+    }
+    QAccessible::installUpdateHandler(before);
 }
 
 void TestPageCreatePreset::fieldsSayWhatTheyName()

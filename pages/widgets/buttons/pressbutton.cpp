@@ -110,10 +110,12 @@ void PressButton::mouseReleaseEvent(QMouseEvent* /*event*/)
 
 void PressButton::keyPressEvent(QKeyEvent* event)
 {
+    // Whichever key it is, its user looks for where the keyboard is.
+    m_focusMark.keyUsed();
+    update();
     if (!pressesButtons(event->key())) {
         QWidget::keyPressEvent(event);
     } else if (!event->isAutoRepeat()) {
-        m_focusMark.keyUsed();
         setPressed(true);
     }
 }

@@ -1,14 +1,36 @@
 #include "focusedcelldelegate.h"
 
+#include "contrast.h"
 #include "focusmark.h"
 #include "ground.h"
+
+namespace {
+
+/// Stands out from what lies behind the cell, in the colour of its texts where that does.
+QColor markColor(const QStyleOptionViewItem& shown)
+{
+    if (shown.state & QStyle::State_Selected) {
+        return readableGray(shown.palette.color(QPalette::HighlightedText),
+                            shown.palette.color(QPalette::Highlight));
+    }
+    const bool hasGround = shown.backgroundBrush.style() != Qt::NoBrush;
+    return readableGray(shown.palette.color(QPalette::Text),
+                        hasGround ? shown.backgroundBrush.color()
+                                  : shown.palette.color(QPalette::Base));
+}
+
+} // namespace
 
 void FocusedCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                 const QModelIndex& index) const
 {
     QStyledItemDelegate::paint(painter, option, index);
-    const QStyle::State marks = option.state & (QStyle::State_HasFocus | QStyle::State_Selected);
-    if (marks == QStyle::State_HasFocus && isDark(option.palette)) {
-        fillFrame(*painter, option.rect, option.palette.color(QPalette::Text));
+    if (!(option.state & QStyle::State_HasFocus)) {
+        return;
+    }
+    QStyleOptionViewItem shown = option;
+    initStyleOption(&shown, index);
+    if (isDark(option.palette) || (option.state & QStyle::State_Selected)) {
+        fillFrame(*painter, option.rect, markColor(shown));
     }
 }

@@ -2,9 +2,9 @@
 
 #include <QStyledItemDelegate>
 
-/// Draws the cells of a list as the desktop does and, in the dark, a frame around the one that the
-/// keyboard has come to. Styles mark it in a shade of the selection, which the dark swallows; where
-/// its row is selected, the selection itself is the mark.
+/// Draws the cells of a list as the desktop does and a frame around the one that the keyboard has
+/// come to, in the dark and in selected rows. Styles mark it in a shade of the selection, which
+/// neither of them lets be seen.
 class FocusedCellDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -38,6 +38,8 @@ private Q_SLOTS:
     void aDisabledButtonDoesNothing();
     void tabReachesItAndShowsTheRing();
     void theMouseShowsNoRing();
+    void theFirstKeyAfterAClickShowsTheRing_data();
+    void theFirstKeyAfterAClickShowsTheRing();
     void theRingShowsForAFocusBroughtByKeyOnly_data();
     void theRingShowsForAFocusBroughtByKeyOnly();
     void aWindowThatComesBackShowsTheRingThatItShowed_data();
@@ -222,6 +224,26 @@ void TestPressButton::theMouseShowsNoRing()
     QCOMPARE(picture(button).pixelColor(0, 0), face);
     QTest::keyClick(&button, Qt::Key_Space);
     QCOMPARE(picture(button).pixelColor(0, 0), QColor(Qt::black));
+}
+
+void TestPressButton::theFirstKeyAfterAClickShowsTheRing_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Shift, on the way to Shift+Tab") << Qt::Key_Shift;
+    QTest::newRow("an arrow that leads nowhere") << Qt::Key_Down;
+    QTest::newRow("a letter") << Qt::Key_X;
+}
+
+void TestPressButton::theFirstKeyAfterAClickShowsTheRing()
+{
+    QFETCH(const Qt::Key, key);
+    TesselButton button;
+    show(button);
+    QTest::mouseClick(button.windowHandle(), Qt::LeftButton, {}, {5, 5});
+    QCOMPARE(picture(button).pixelColor(0, 0), face);
+    QTest::keyClick(&button, key);
+    QCOMPARE(picture(button).pixelColor(0, 0), QColor(Qt::black));
+    QCOMPARE(picture(button).pixelColor(1, 1), QColor(Qt::white));
 }
 
 void TestPressButton::theRingShowsForAFocusBroughtByKeyOnly_data()
