@@ -1,5 +1,6 @@
 #include "mainwindow.h"
 
+#include "accessiblerole.h"
 #include "basepage.h"
 #include "devicedetector.h"
 #include "devicequeries.h"
@@ -8,6 +9,7 @@
 #include "pagefactory.h"
 #include "resumedialog.h"
 #include "sessionqueries.h"
+#include "spokenlabel.h"
 #include "windowevents.h"
 #include "wizardpage.h"
 
@@ -17,7 +19,6 @@
 #include <QDir>
 #include <QFile>
 #include <QIcon>
-#include <QLabel>
 #include <QMessageBox>
 #include <QStackedWidget>
 #include <QStandardPaths>
@@ -49,10 +50,11 @@ QString resumePath()
 MainWindow::MainWindow(QWidget* parent, IDocAccessor* doc)
     : QWidget(parent)
     , m_doc(doc)
-    , m_titleLabel(new QLabel(this))
+    , m_titleLabel(new SpokenLabel(this))
     , m_pageStack(new QStackedWidget(this))
 {
     setWindowTitle(tr("Divide / Combine Room Wizard"));
+    setAccessibleRole(this, QAccessible::Window);
     // Of all windows: some boxes belong to none.
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/tessel.svg")));
     setMinimumSize(minWindowSize);
@@ -200,8 +202,9 @@ void MainWindow::enterCurrentPage(const BasePage* previous)
 
 void MainWindow::showCurrentPage()
 {
+    // The title first: what the page itself says when it comes to sight is read out after it.
+    m_titleLabel->say(pageAt(m_currentIndex)->title());
     m_pageStack->setCurrentIndex(m_currentIndex);
-    m_titleLabel->setText(pageAt(m_currentIndex)->title());
 }
 
 void MainWindow::chooseInterface()

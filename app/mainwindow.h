@@ -10,9 +10,9 @@
 class BasePage;
 class DeviceDetector;
 class IDocAccessor;
-class QLabel;
 class QStackedWidget;
 class ResumeDialog;
+class SpokenLabel;
 
 /// The program's only window: a title line above the stack of wizard pages.
 ///
@@ -60,7 +60,7 @@ private:
     void saveResumeFile();
 
     IDocAccessor* m_doc;
-    QLabel* m_titleLabel;
+    SpokenLabel* m_titleLabel;
     QStackedWidget* m_pageStack;
     int m_currentIndex = 0;
     DeviceDetector* m_detector = nullptr;
