@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int patience = 30000; // milliseconds
+constexpr int patienceMs = 30000;
 
 QDir scripts()
 {
@@ -75,7 +75,7 @@ ScriptRun ScriptCopy::run(const QString& script, const QStringList& arguments,
     process.start(m_checkout.filePath(QStringLiteral("script/") + script), arguments);
     process.write("an answer to a question\n");
     process.closeWriteChannel();
-    if (!process.waitForFinished(patience)) {
+    if (!process.waitForFinished(patienceMs)) {
         return {};
     }
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
