@@ -32,6 +32,7 @@ void SpokenLabel::announce(const QString& words)
     if (accessibleName() == words) {
         setAccessibleName(QString()); // readers take no notice of a name that stays as it is
     }
+    m_announced = words;
     setAccessibleName(words);
 }
 
@@ -43,7 +44,9 @@ void SpokenLabel::showEvent(QShowEvent* event)
 
 void SpokenLabel::tell(const QString& words)
 {
-    if (isVisible() && !accessibleName().contains(words)) {
+    const QString name = accessibleName();
+    const bool isTold = name == words || (name == m_announced && name.contains(words));
+    if (isVisible() && !isTold) {
         setAccessibleName(words);
     }
 }

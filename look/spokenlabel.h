@@ -27,4 +27,6 @@ protected:
 
 private:
     void tell(const QString& words);
+
+    QString m_announced; ///< last
 };

@@ -93,7 +93,7 @@ std::optional<DeviceData> deviceFromArgument(const QString& argument)
     if (fields.size() < requiredFields) {
         return std::nullopt;
     }
-    const DeviceData device = deviceFrom(fields);
+    DeviceData device = deviceFrom(fields);
     if (!isDeviceAccepted(device.version, device.modelName) ||
         device.macAddress == u"00:00:00:00:00:00") {
         return std::nullopt;

@@ -52,6 +52,8 @@ void TestSpokenLabel::saysEachNewTextOnceAndNoneTwice()
     QCOMPARE(Announcements::takeSaid(), QStringList{one});
     label.say(one);
     QCOMPARE(Announcements::takeSaid(), QStringList());
+    label.say(one + u' ' + two);
+    QCOMPARE(Announcements::takeSaid(), QStringList{one + u' ' + two});
     label.say(two);
     QCOMPARE(Announcements::takeSaid(), QStringList{two});
     label.say(QString());
