@@ -68,7 +68,7 @@ void LoginAnswers::answer(QWidget* dialog)
     const QString hub = hubOf(dialog);
     m_prompts.append(hub);
     const bool isTired =
-        m_maxAnswers.contains(hub) && m_prompts.count(hub) > m_mostAnswers.value(hub);
+        m_maxAnswers.contains(hub) && m_prompts.count(hub) > m_maxAnswers.value(hub);
     if (isTired || m_cancelled.removeOne(hub)) {
         Hands::pressKey(dialog, Qt::Key_Escape);
         return;
