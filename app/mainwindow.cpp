@@ -1,5 +1,6 @@
 #include "mainwindow.h"
 
+#include "accessiblerole.h"
 #include "basepage.h"
 #include "configurationfile.h"
 #include "devicedetector.h"
@@ -10,6 +11,7 @@
 #include "pagefactory.h"
 #include "resumedialog.h"
 #include "sessionqueries.h"
+#include "spokenlabel.h"
 #include "windowevents.h"
 #include "windowplace.h"
 #include "wizardpage.h"
@@ -21,7 +23,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QIcon>
-#include <QLabel>
 #include <QMessageBox>
 #include <QStackedWidget>
 #include <QStandardPaths>
@@ -56,11 +57,12 @@ MainWindow::MainWindow(QWidget* parent, IDocAccessor* doc, ConfigurationFile* fi
     : QWidget(parent)
     , m_doc(doc)
     , m_file(file)
-    , m_titleLabel(new QLabel(this))
+    , m_titleLabel(new SpokenLabel(this))
     , m_pageStack(new QStackedWidget(this))
     , m_place(new WindowPlace(this, minWindowSize, maxWindowSize))
 {
     setWindowTitle(tr("Divide / Combine Room Wizard"));
+    setAccessibleRole(this, QAccessible::Window);
     // Of all windows: some boxes belong to none.
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/tessel.svg")));
     buildLayout();
@@ -206,8 +208,9 @@ void MainWindow::enterCurrentPage(const BasePage* previous)
 
 void MainWindow::showCurrentPage()
 {
+    // The title first: what the page itself says when it comes to sight is read out after it.
+    m_titleLabel->say(pageAt(m_currentIndex)->title());
     m_pageStack->setCurrentIndex(m_currentIndex);
-    m_titleLabel->setText(pageAt(m_currentIndex)->title());
 }
 
 void MainWindow::chooseInterface()

@@ -11,9 +11,9 @@ class BasePage;
 class ConfigurationFile;
 class DeviceDetector;
 class IDocAccessor;
-class QLabel;
 class QStackedWidget;
 class ResumeDialog;
+class SpokenLabel;
 class WindowPlace;
 
 /// The program's only window: a title line above the stack of wizard pages.
@@ -71,7 +71,7 @@ private:
     IDocAccessor* m_doc;
     ConfigurationFile* m_file;
     bool m_isFileRead = false; ///< or it was tried
-    QLabel* m_titleLabel;
+    SpokenLabel* m_titleLabel;
     QStackedWidget* m_pageStack;
     WindowPlace* m_place;
     int m_currentIndex = 0;

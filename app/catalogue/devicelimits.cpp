@@ -19,24 +19,25 @@ QList<LimitBreach> beyondLimit(const QList<LimitBreach>& counted)
     return breaches;
 }
 
-QString words(const char* text)
+/// Gives the texts their context, where extraction tools find it too.
+struct DeviceLimits
 {
-    return QCoreApplication::translate("DeviceLimits", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(DeviceLimits)
+};
 
 QString countedWords(LimitBreach::Limit limit)
 {
     switch (limit) {
     case Hubs:
-        return words("%1 PX-HBs; %2 is possible");
+        return DeviceLimits::tr("%1 PX-HBs; %2 is possible");
     case Microphones:
-        return words("%1 microphones; %2 are possible");
+        return DeviceLimits::tr("%1 microphones; %2 are possible");
     case Speakers:
-        return words("%1 speakers; %2 are possible");
+        return DeviceLimits::tr("%1 speakers; %2 are possible");
     case MicrophonesAndSpeakers:
-        return words("%1 microphones and speakers together; %2 are possible");
+        return DeviceLimits::tr("%1 microphones and speakers together; %2 are possible");
     case Controllers:
-        return words("%1 controllers; %2 are possible");
+        return DeviceLimits::tr("%1 controllers; %2 are possible");
     }
     return {};
 }

@@ -13,7 +13,7 @@ namespace {
 constexpr int noNic = -1; // how the starting program says that it has chosen no interface
 constexpr qsizetype requiredFields = 5;
 
-constexpr qsizetype mostShown = 40;
+constexpr qsizetype maxShown = 40;
 
 constexpr QLatin1String logOption("--log");
 
@@ -53,7 +53,7 @@ QString shown(const QString& argument)
     const QString separators = QStringLiteral(":=/");
     QString text;
     for (const QChar c : argument) {
-        if (text.size() == mostShown) {
+        if (text.size() == maxShown) {
             return text + QStringLiteral("...");
         }
         text += c >= u' ' && c <= u'~' ? c : QChar(u'?');

@@ -1,5 +1,7 @@
 #include "basepage.h"
 
+#include "accessiblerole.h"
+
 #include <QKeyEvent>
 #include <QPushButton>
 
@@ -11,6 +13,8 @@ BasePage::BasePage(const QString& title, int pageNumber, IPageController* contro
     , m_controller(controller)
     , m_doc(doc)
 {
+    setAccessibleRole(this, QAccessible::Pane);
+    setAccessibleName(title);
 }
 
 const QString& BasePage::title() const

@@ -8,6 +8,7 @@ class IDocAccessor;
 class IPageController;
 
 /// Base of every page: its title, its number, and the two interfaces that a page works through.
+/// Screen readers know it by its title.
 /// Entering, restoring and storing do nothing until a page overrides them.
 class BasePage : public QWidget, public IPage
 {

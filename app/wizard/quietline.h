@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QLabel>
+#include "spokenlabel.h"
 
 /// The line between a page's buttons that says what is still missing or what went wrong. Empty
-/// while there is nothing to say.
-///
-/// To screen readers it is a status bar: what it begins to say is told without being asked for.
-class QuietLine : public QLabel
+/// while there is nothing to say. Screen readers hear from it what it begins to say, and what else
+/// happens on the page.
+class QuietLine : public SpokenLabel
 {
     Q_OBJECT
 

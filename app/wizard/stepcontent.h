@@ -34,6 +34,10 @@ Q_SIGNALS:
     /// missing() may have changed although it is not empty, before and after.
     void missingChanged();
 
+    /// Something has happened that the keyboard's place does not tell: `words` are for screen
+    /// readers, whole and with names.
+    void announced(const QString& words);
+
 protected:
     /// `doc` is not owned and outlives the content.
     StepContent(IDocAccessor* doc, QWidget* parent);

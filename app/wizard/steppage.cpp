@@ -19,6 +19,7 @@ StepPage::StepPage(const QString& title, int pageNumber, StepContent* content, L
     buildLayout(left);
     connect(m_content, SIGNAL(nextButtonEnabled(bool)), this, SLOT(setNextButtonEnabled(bool)));
     connect(m_content, SIGNAL(missingChanged()), this, SLOT(showMissing()));
+    connect(m_content, SIGNAL(announced(QString)), m_quietLine, SLOT(announce(QString)));
 }
 
 void StepPage::enterFrom(int previousPageNumber)

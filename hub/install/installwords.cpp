@@ -4,10 +4,11 @@
 
 namespace {
 
-QString words(const char* text)
+/// Gives the texts their context, where extraction tools find it too.
+struct InstallWords
 {
-    return QCoreApplication::translate("InstallWords", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(InstallWords)
+};
 
 } // namespace
 
@@ -16,27 +17,28 @@ QString requestWords(const InstallPlace& place)
     const QString layout = QString::number(place.presetNumber);
     switch (place.step) {
     case InstallStep::Status:
-        return words("asking for the hub's state");
+        return InstallWords::tr("asking for the hub's state");
     case InstallStep::Token:
-        return words("asking for leave to log in");
+        return InstallWords::tr("asking for leave to log in");
     case InstallStep::Validate:
-        return words("setting the first password");
+        return InstallWords::tr("setting the first password");
     case InstallStep::Authenticate:
-        return words("logging in");
+        return InstallWords::tr("logging in");
     case InstallStep::StartExport:
-        return words("starting the export of the hub's configuration");
+        return InstallWords::tr("starting the export of the hub's configuration");
     case InstallStep::FetchExport:
-        return words("fetching the export of the hub's configuration");
+        return InstallWords::tr("fetching the export of the hub's configuration");
     case InstallStep::PresetEntry:
-        return words("making the preset of layout %1").arg(layout);
+        return InstallWords::tr("making the preset of layout %1").arg(layout);
     case InstallStep::HubFile:
-        return words("storing the hub's own file for layout %1").arg(layout);
+        return InstallWords::tr("storing the hub's own file for layout %1").arg(layout);
     case InstallStep::PeripheralFile:
-        return words("storing the file of %1 for layout %2").arg(place.deviceAddress, layout);
+        return InstallWords::tr("storing the file of %1 for layout %2")
+            .arg(place.deviceAddress, layout);
     case InstallStep::Recall:
-        return words("recalling the preset of layout 1");
+        return InstallWords::tr("recalling the preset of layout 1");
     case InstallStep::Invalidate:
-        return words("logging out");
+        return InstallWords::tr("logging out");
     }
     return {};
 }
@@ -47,22 +49,23 @@ QString troubleWords(const InstallOutcome& outcome)
     case InstallTrouble::None:
         return {};
     case InstallTrouble::OtherStatus:
-        return outcome.status.isEmpty() ? words("the hub answered without a status")
-                                        : words("the hub answered %1").arg(outcome.status);
+        return outcome.status.isEmpty()
+                   ? InstallWords::tr("the hub answered without a status")
+                   : InstallWords::tr("the hub answered %1").arg(outcome.status);
     case InstallTrouble::NotConfirmed:
-        return words("the hub answered, but did not do it");
+        return InstallWords::tr("the hub answered, but did not do it");
     case InstallTrouble::ConnectionRefused:
-        return words("the connection was refused");
+        return InstallWords::tr("the connection was refused");
     case InstallTrouble::Unreachable:
-        return words("the hub's address cannot be reached");
+        return InstallWords::tr("the hub's address cannot be reached");
     case InstallTrouble::ConnectionBroken:
-        return words("the hub closed the connection before it had answered");
+        return InstallWords::tr("the hub closed the connection before it had answered");
     case InstallTrouble::Silence:
-        return words("no answer for 30 seconds");
+        return InstallWords::tr("no answer for 30 seconds");
     case InstallTrouble::Cancelled:
-        return words("you cancelled the log-in");
+        return InstallWords::tr("you cancelled the log-in");
     case InstallTrouble::MissingRecords:
-        return words("what was entered for it is missing");
+        return InstallWords::tr("what was entered for it is missing");
     }
     return {};
 }
@@ -81,7 +84,7 @@ QString reasonWords(const InstallOutcome& outcome)
 QString progressWords(const InstallProgress& progress)
 {
     return progress.filesToStore == 0 ? QString()
-                                      : words("%1 of %2 files stored")
+                                      : InstallWords::tr("%1 of %2 files stored")
                                             .arg(QString::number(progress.filesStored),
                                                  QString::number(progress.filesToStore));
 }

@@ -3,6 +3,7 @@
 #include "counttable.h"
 #include "deviceclass.h"
 #include "devicetable.h"
+#include "emptylisttext.h"
 #include "removebutton.h"
 #include "removedtextdelegate.h"
 #include "roomdevices.h"
@@ -53,6 +54,8 @@ void DeviceSet::createWidgets()
     m_summaryTable->addTopLevelItem(new QTreeWidgetItem);
     m_hubTable = createDeviceTable(QStringLiteral("hubTable"), tr("PX-HB"));
     m_peripheralTable = createDeviceTable(QStringLiteral("peripheralTable"), tr("Peripheral"));
+    new EmptyListText(m_hubTable, tr("No PX-HB stands here."));
+    new EmptyListText(m_peripheralTable, tr("No peripheral stands here."));
 }
 
 DeviceTable* DeviceSet::createDeviceTable(const QString& name, const QString& title)
@@ -101,13 +104,25 @@ void DeviceSet::addRows()
         peripherals, [this](QTreeWidgetItem* row) { addRemoveButton(m_peripheralTable, row); });
 }
 
-void DeviceSet::paintRow(QTreeWidgetItem* row, bool removed)
+/// For eyes and, since screen readers see no colour, in words.
+void DeviceSet::showRemoved(QTreeWidgetItem* row, bool removed)
 {
     // A device in the set has no colour of ours: its texts are in that of the list.
     const QVariant color = removed ? QBrush(RemovedTextDelegate::textColor) : QVariant();
+    const QVariant words = removed ? tr("removed") : QVariant();
     for (const int column : textColumns) {
         row->setData(column, Qt::ForegroundRole, color);
+        row->setData(column, Qt::AccessibleDescriptionRole, words);
     }
+    const QString label = row->text(DeviceTable::LabelColumn);
+    row->setData(DeviceTable::LabelColumn, Qt::AccessibleTextRole,
+                 removed ? tr("%1, removed").arg(label) : QVariant());
+}
+
+/// The cell says what its button shows.
+void DeviceSet::describeButton(QTreeWidgetItem* row, const RemoveButton& button)
+{
+    row->setData(ChoiceColumn, Qt::AccessibleTextRole, button.text());
 }
 
 void DeviceSet::addRemoveButton(DeviceTable* table, QTreeWidgetItem* row)
@@ -118,8 +133,9 @@ void DeviceSet::addRemoveButton(DeviceTable* table, QTreeWidgetItem* row)
     button->setRemoved(removed);
     table->setItemWidget(row, ChoiceColumn, button);
     if (removed) {
-        paintRow(row, removed);
+        showRemoved(row, removed);
     }
+    describeButton(row, *button);
     m_rows.insert(button, row);
     connect(button, SIGNAL(clicked(bool)), this, SLOT(removeButtonClicked(bool)));
 }
@@ -169,7 +185,8 @@ void DeviceSet::reset()
     m_removed.clear();
     for (auto row = m_rows.cbegin(); row != m_rows.cend(); ++row) {
         row.key()->setRemoved(false);
-        paintRow(row.value(), false);
+        showRemoved(row.value(), false);
+        describeButton(row.value(), *row.key());
     }
     count();
 }
@@ -184,9 +201,11 @@ void DeviceSet::store()
 
 void DeviceSet::removeButtonClicked(bool on)
 {
-    QTreeWidgetItem* row = m_rows.value(qobject_cast<RemoveButton*>(sender()));
+    auto* button = qobject_cast<RemoveButton*>(sender());
+    QTreeWidgetItem* row = m_rows.value(button);
     if (row != nullptr) {
-        paintRow(row, on);
+        showRemoved(row, on);
+        describeButton(row, *button);
         const QString address = row->text(AddressColumn);
         if (on) {
             m_removed.insert(address);

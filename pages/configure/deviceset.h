@@ -59,7 +59,8 @@ private:
     void buildLayout();
     void chainTabOrder(QWidget* previous);
     void addRows();
-    static void paintRow(QTreeWidgetItem* row, bool removed);
+    static void showRemoved(QTreeWidgetItem* row, bool removed);
+    static void describeButton(QTreeWidgetItem* row, const RemoveButton& button);
     void addRemoveButton(DeviceTable* table, QTreeWidgetItem* row);
     void count();
     void showCounts(const DeviceCounts& counts);

@@ -21,6 +21,12 @@ enum Column
     NameColumn = RoomGroupList::RoomColumn + 1
 };
 
+/// Screen readers hear from the cell what its field shows.
+void describeName(QTreeWidgetItem* row, const QString& name)
+{
+    row->setData(NameColumn, Qt::AccessibleTextRole, name);
+}
+
 } // namespace
 
 PresetNameEdit::PresetNameEdit(const QString& name, QWidget* parent)
@@ -99,6 +105,8 @@ void CreatePreset::addNameFields()
     for (qsizetype index = 0; index < m_groups.size(); ++index) {
         PresetNameEdit* field = nameField(m_groups.at(index));
         m_groupList->setItemWidget(m_groupList->topLevelItem(int(index)), NameColumn, field);
+        describeName(m_groupList->topLevelItem(int(index)), field->text());
+        connect(field, SIGNAL(textChanged(QString)), this, SLOT(nameChanged(QString)));
         // Fields made after the page's buttons would be reached after them.
         m_groupList->chain(previous, field);
         previous = field;
@@ -128,6 +136,14 @@ void CreatePreset::reset()
 {
     for (PresetNameEdit* field : std::as_const(m_nameFields)) {
         field->clear();
+    }
+}
+
+void CreatePreset::nameChanged(const QString& name)
+{
+    const qsizetype index = m_nameFields.indexOf(qobject_cast<PresetNameEdit*>(sender()));
+    if (index >= 0) {
+        describeName(m_groupList->topLevelItem(int(index)), name);
     }
 }
 

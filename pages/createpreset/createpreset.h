@@ -49,6 +49,9 @@ public Q_SLOTS:
     /// Shows the layout that the current row belongs to.
     void deviceSetSelected();
 
+private Q_SLOTS:
+    void nameChanged(const QString& name);
+
 private:
     void createWidgets();
     void buildLayout();

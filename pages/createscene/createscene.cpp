@@ -93,6 +93,7 @@ void CreateScene::addButtonClicked()
     appendRow({m_list->topLevelItemCount() + 1, roomGroup, thumbnail});
     m_list->scrollToBottom();
     updateButtons();
+    Q_EMIT announced(tr("Layout %1 was added: %2.").arg(QString::number(m_rows.size()), roomGroup));
 }
 
 void CreateScene::removeButtonClicked()
@@ -203,6 +204,7 @@ void CreateScene::appendRow(const SceneInfo& layout)
     auto* row = new QTreeWidgetItem(m_list);
     setNumber(row, layout.number);
     row->setSizeHint(LayoutColumn, rowSize);
+    row->setData(LayoutColumn, Qt::AccessibleTextRole, tr("Layout %1").arg(layout.roomGroup));
     auto* item = new SceneItem(layout.thumbnail, layout.roomGroup);
     connect(item, SIGNAL(removeClicked()), this, SLOT(removeButtonClicked()));
     m_list->setItemWidget(row, LayoutColumn, item);

@@ -2,6 +2,7 @@
 
 #include "deviceclass.h"
 #include "devicetable.h"
+#include "emptylisttext.h"
 #include "listcombobox.h"
 #include "roomdevices.h"
 #include "setqueries.h"
@@ -43,6 +44,8 @@ void SpeakerPosition::createLists(QWidget* previous)
 {
     m_speakerTable =
         createTable(QStringLiteral("speakerTable"), tr("Speaker Position"), tr("Position"));
+    new EmptyListText(m_speakerTable, tr("No speaker is used here: none stands here, or all were "
+                                         "removed in step 5."));
     buildLayout();
     // The buttons and boxes in the rows chain themselves behind the list when the rows come.
     setTabOrder(previous, m_speakerTable);
@@ -77,19 +80,27 @@ void SpeakerPosition::addCombo(QTreeWidgetItem* row, qsizetype index)
     const Speaker& speaker = m_speakers.at(index);
     auto* combo = new ListComboBox(m_speakerTable);
     combo->setObjectName(QStringLiteral("positionCombo"));
-    combo->setAccessibleName(tr("Position of %1").arg(speaker.device.label));
+    combo->setPurpose(tr("Position of %1").arg(speaker.device.label));
     combo->addItems({left, right});
     combo->setCurrentText(speaker.position);
     m_speakerTable->setItemWidget(row, ChoiceColumn, combo);
-    m_combos.insert(combo, index);
+    describeChoice(row, speaker.position);
+    m_combos.insert(combo, {row, index});
     connect(combo, SIGNAL(currentTextChanged(QString)), this, SLOT(positionChosen(QString)));
+}
+
+/// The cell says what its box shows.
+void SpeakerPosition::describeChoice(QTreeWidgetItem* row, const QString& position)
+{
+    row->setData(ChoiceColumn, Qt::AccessibleTextRole, position);
 }
 
 void SpeakerPosition::positionChosen(const QString& position)
 {
     const auto combo = m_combos.constFind(qobject_cast<QComboBox*>(sender()));
     if (combo != m_combos.cend()) {
-        m_speakers[*combo].position = position;
+        m_speakers[combo->index].position = position;
+        describeChoice(combo->row, position);
     }
 }
 

@@ -41,13 +41,21 @@ private:
         QString position; ///< "L" or "R"
     };
 
+    /// Where a box stands, and what it chooses for.
+    struct Choice
+    {
+        QTreeWidgetItem* row;
+        qsizetype index; ///< into m_speakers
+    };
+
     void addSpeaker(const DeviceEntry& device);
     void buildLayout();
     void addRows();
     void addCombo(QTreeWidgetItem* row, qsizetype index);
+    static void describeChoice(QTreeWidgetItem* row, const QString& position);
 
     QList<Speaker> m_speakers; ///< room by room, in document order within a room
 
     DeviceTable* m_speakerTable = nullptr; ///< null until the list is built
-    QHash<QComboBox*, qsizetype> m_combos; ///< index into m_speakers by combo box
+    QHash<QComboBox*, Choice> m_combos;
 };

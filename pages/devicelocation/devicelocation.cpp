@@ -7,6 +7,7 @@
 #include "devicenamedialog.h"
 #include "devicequeries.h"
 #include "devicetable.h"
+#include "emptylisttext.h"
 #include "fontscale.h"
 #include "roomcombo.h"
 #include "roomeditor.h"
@@ -53,6 +54,8 @@ DeviceLocation::DeviceLocation(IDocAccessor* doc, QWidget* parent)
     , m_summary(new RoomSummary(this))
     , m_hubTable(createTable(QStringLiteral("hubTable"), tr("PX-HB")))
     , m_peripheralTable(createTable(QStringLiteral("peripheralTable"), tr("Peripheral")))
+    , m_noHubs(new EmptyListText(m_hubTable, QString()))
+    , m_noPeripherals(new EmptyListText(m_peripheralTable, QString()))
 {
     m_picture->setObjectName(QStringLiteral("roomPicture"));
     m_picture->setAccessibleName(tr("Room design"));
@@ -83,6 +86,7 @@ void DeviceLocation::load()
     fill(m_hubTable, hubs, roomOfAddress);
     fill(m_peripheralTable, peripherals, roomOfAddress);
     markRepeatedRows();
+    explainEmptyLists();
     updateSummary();
 }
 
@@ -271,6 +275,24 @@ DeviceLocation::Row DeviceLocation::decorate(DeviceTable* table, QTreeWidgetItem
     return row;
 }
 
+/// Where some devices have answered, the network is the right one and lets answers through.
+void DeviceLocation::explainEmptyLists()
+{
+    if (m_rows.isEmpty()) {
+        const QString nothing =
+            tr("No device has answered yet on this network interface. Check that the devices have "
+               "power and are cabled to the same network as this interface, and that no firewall "
+               "and no second wizard holds UDP port 54330; then start again.");
+        m_noHubs->setText(nothing);
+        m_noPeripherals->setText(nothing);
+        return;
+    }
+    m_noHubs->setText(tr("Other devices have answered, but no PX-HB yet. Check power, network "
+                         "cable and firmware of the PX-HBs; then start again."));
+    m_noPeripherals->setText(tr("PX-HBs have answered, but no peripheral yet. Check power, network "
+                                "cable and firmware of the peripherals; then start again."));
+}
+
 /// A device that is listed twice is counted once; all rows of an address have the same room.
 void DeviceLocation::markRepeatedRows()
 {
@@ -285,7 +307,7 @@ void DeviceLocation::nameWidgets(const Row& row)
 {
     const QString label = row.item->text(DeviceTable::LabelColumn);
     row.icon->setDeviceLabel(label);
-    row.room->setAccessibleName(tr("Room of %1").arg(label));
+    row.room->setPurpose(tr("Room of %1").arg(label));
 }
 
 void DeviceLocation::updateRow(const Row& row)

@@ -8,6 +8,7 @@
 
 class DeviceLabelEditIcon;
 class DeviceTable;
+class EmptyListText;
 class QTreeWidgetItem;
 class QVBoxLayout;
 class RoomCombo;
@@ -65,6 +66,7 @@ private:
     void fill(DeviceTable* table, const QList<DeviceEntry>& devices,
               const QHash<QString, int>& roomOfAddress);
     Row decorate(DeviceTable* table, QTreeWidgetItem* item, RoomCombo* combo);
+    void explainEmptyLists();
     void markRepeatedRows();
     static void nameWidgets(const Row& row);
     static void updateRow(const Row& row);
@@ -78,6 +80,8 @@ private:
     RoomSummary* m_summary;
     DeviceTable* m_hubTable;
     DeviceTable* m_peripheralTable;
+    EmptyListText* m_noHubs;
+    EmptyListText* m_noPeripherals;
     QList<Row> m_rows;
     int m_rooms = 0;
     QStringList m_missing;

@@ -4,6 +4,7 @@
 #include "deviceclass.h"
 #include "devicequeries.h"
 #include "devicetable.h"
+#include "emptylisttext.h"
 #include "installwords.h"
 #include "presetfilesender.h"
 #include "progressdelegate.h"
@@ -29,6 +30,12 @@ enum Column
     AddressColumn = DeviceTable::IdentifyColumn + 1,
     StatusColumn
 };
+
+/// What is told of the hub of a row.
+QString ofHub(const QTreeWidgetItem* row, const QString& words)
+{
+    return QStringLiteral("%1: %2").arg(row->text(DeviceTable::LabelColumn), words);
+}
 
 } // namespace
 
@@ -59,6 +66,7 @@ void Install::install()
         m_awaited.insert(ipAddress); // a hub of two rows is known by its address
     }
     for (const auto& [ipAddress, label] : hubs) {
+        announceStatus(ipAddress, tr("Installing..."), QString());
         setStatus(ipAddress, tr("Installing..."));
         setReason(ipAddress, QString());
         startSender(ipAddress, label);
@@ -106,6 +114,7 @@ void Install::createWidgets()
     new ColumnWidths(m_hubTable, {{DeviceTable::LabelColumn, labelWidth},
                                   {DeviceTable::IdentifyColumn, identifyWidth}});
     m_hubTable->setSortingEnabled(true);
+    new EmptyListText(m_hubTable, tr("No PX-HB stands in a room."));
     m_hubTable->setItemDelegateForColumn(StatusColumn, new ProgressDelegate(m_hubTable));
     connect(m_hubTable, SIGNAL(currentItemChanged(QTreeWidgetItem*, QTreeWidgetItem*)), this,
             SIGNAL(noteChanged()));
@@ -158,8 +167,11 @@ void Install::presetSendFinished(const QString& ipAddress, int status)
     }
     m_awaited.remove(ipAddress);
     const PresetFileSender* sender = m_senders.value(ipAddress);
-    setReason(ipAddress, sender ? reasonWords(sender->outcome()) : QString());
-    setStatus(ipAddress, succeeded ? tr("Done") : tr("Error"));
+    const QString reason = sender ? reasonWords(sender->outcome()) : QString();
+    const QString text = succeeded ? tr("Done") : tr("Error");
+    announceStatus(ipAddress, text, reason);
+    setReason(ipAddress, reason);
+    setStatus(ipAddress, text);
     Q_EMIT statusChanged();
     // A hub that failed before its log-in was answered must not hold the others back.
     senderLogin();
@@ -195,6 +207,16 @@ void Install::senderLogin()
 QString Install::status(int index) const
 {
     return m_hubTable->topLevelItem(index)->text(StatusColumn);
+}
+
+/// Before anything of it is shown: what of it is shown elsewhere too need not be told again.
+void Install::announceStatus(const QString& ipAddress, const QString& text, const QString& reason)
+{
+    const QTreeWidgetItem* row = m_hubTable->rowOf(ipAddress);
+    if (row != nullptr && row->text(StatusColumn) != text) {
+        Q_EMIT announced(reason.isEmpty() ? ofHub(row, text)
+                                          : text + QStringLiteral(". ") + ofHub(row, reason));
+    }
 }
 
 void Install::setStatus(const QString& ipAddress, const QString& text)
@@ -262,6 +284,5 @@ QString Install::note() const
 QString Install::noteOf(const QTreeWidgetItem* row) const
 {
     const QString reason = m_reasons.value(row->text(AddressColumn));
-    return reason.isEmpty() ? QString()
-                            : tr("%1: %2").arg(row->text(DeviceTable::LabelColumn), reason);
+    return reason.isEmpty() ? QString() : ofHub(row, reason);
 }

@@ -73,6 +73,7 @@ private:
     void startSender(const QString& ipAddress, const QString& label);
     bool isRunning(const QString& ipAddress) const;
     QString status(int index) const;
+    void announceStatus(const QString& ipAddress, const QString& text, const QString& reason);
     void setStatus(const QString& ipAddress, const QString& text);
     void setReason(const QString& ipAddress, const QString& reason);
     void explainStatus(const QString& ipAddress, const QString& words);

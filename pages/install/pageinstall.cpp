@@ -28,6 +28,7 @@ PageInstall::PageInstall(IPageController* controller, IDocAccessor* doc, QWidget
     connect(m_executeButton, SIGNAL(clicked()), this, SLOT(executeButtonClicked()));
     connect(m_content, SIGNAL(statusChanged()), this, SLOT(installStatusChanged()));
     connect(m_content, SIGNAL(noteChanged()), this, SLOT(showNote()));
+    connect(m_content, SIGNAL(announced(QString)), m_quietLine, SLOT(announce(QString)));
     pressOnBackKey(this, m_backButton);
     callOnNextKey(this, SLOT(nextKeyPressed()));
 }

@@ -22,6 +22,7 @@ RoomDesign::RoomDesign(IDocAccessor* doc, QWidget* parent)
     m_editor->setObjectName(QStringLiteral("roomEditor"));
     buildLayout();
     connect(m_editor, SIGNAL(roomCountChanged(int)), this, SLOT(roomCountChanged(int)));
+    connect(m_editor, SIGNAL(roomRefused()), this, SLOT(roomRefused()));
 }
 
 void RoomDesign::load()
@@ -68,6 +69,13 @@ QStringList RoomDesign::missing() const
 void RoomDesign::roomCountChanged(int count)
 {
     Q_EMIT nextButtonEnabled(count >= minRoomsToGoOn);
+}
+
+void RoomDesign::roomRefused()
+{
+    Q_EMIT announced(
+        tr("No room was drawn: there are %1 already, which is as many as are possible.")
+            .arg(RoomInfo::maxRooms));
 }
 
 void RoomDesign::buildLayout()

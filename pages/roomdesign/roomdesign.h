@@ -26,6 +26,7 @@ public:
 
 private Q_SLOTS:
     void roomCountChanged(int count);
+    void roomRefused();
 
 private:
     void buildLayout();

@@ -1,3 +1,4 @@
+#include "announcements.h"
 #include "documentfixtures.h"
 #include "mainwindow.h"
 #include "sessionqueries.h"
@@ -147,6 +148,11 @@ class TestAccessibility : public TestCase
 private Q_SLOTS:
     void everyTabStopHasANameOfItsOwn_data() { addPages(); }
     void everyTabStopHasANameOfItsOwn();
+    void windowAndPageFrameHaveARoleAndAName_data() { addPages(); }
+    void windowAndPageFrameHaveARoleAndAName();
+    void gridsHaveARoleAndAName_data();
+    void gridsHaveARoleAndAName();
+    void aNewPageIsToldOnceByItsTitle();
     void tabVisitsEverythingInReadingOrder_data() { addPages(); }
     void tabVisitsEverythingInReadingOrder();
     void nextByKeyGoesOnAtTheTopOfTheNewPage_data();
@@ -175,6 +181,63 @@ void TestAccessibility::everyTabStopHasANameOfItsOwn()
         names.insert(nameOf(stop));
     }
     QVERIFY(!names.isEmpty());
+}
+
+void TestAccessibility::windowAndPageFrameHaveARoleAndAName()
+{
+    QFETCH(const int, page);
+    const Wizard wizard(page);
+    const auto* window = QAccessible::queryAccessibleInterface(wizard.window.get());
+    QCOMPARE(window->role(), QAccessible::Window);
+    QCOMPARE(window->text(QAccessible::Name), QStringLiteral("Divide / Combine Room Wizard"));
+    const auto* frame = QAccessible::queryAccessibleInterface(wizard.stack()->currentWidget());
+    QCOMPARE(frame->role(), QAccessible::Pane);
+    QCOMPARE(frame->text(QAccessible::Name),
+             wizard.window->findChild<QLabel*>(QStringLiteral("titleLabel"))->text());
+}
+
+void TestAccessibility::gridsHaveARoleAndAName_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("grid");
+    QTest::addColumn<QAccessible::Role>("role");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("drawing") << 2 << QStringLiteral("roomEditor") << QAccessible::Canvas
+                             << QStringLiteral("Room design");
+    QTest::newRow("picture") << 3 << QStringLiteral("roomPicture") << QAccessible::Graphic
+                             << QStringLiteral("Room design");
+    QTest::newRow("picker") << 4 << QStringLiteral("tessel") << QAccessible::Grouping
+                            << QStringLiteral("Room combination");
+}
+
+void TestAccessibility::gridsHaveARoleAndAName()
+{
+    QFETCH(const int, page);
+    QFETCH(const QString, grid);
+    const Wizard wizard(page);
+    const auto* told =
+        QAccessible::queryAccessibleInterface(wizard.window->findChild<QWidget*>(grid));
+    QTEST(told->role(), "role");
+    QTEST(told->text(QAccessible::Name), "name");
+}
+
+void TestAccessibility::aNewPageIsToldOnceByItsTitle()
+{
+    const Wizard wizard(1);
+    const Announcements announcements;
+    if (!announcements.canHear()) {
+        QSKIP("This system has no ear for what screen readers are told.");
+    }
+    wizard.window->next();
+    wizard.window->next();
+    QCOMPARE(Announcements::takeSaid(),
+             QStringList({QStringLiteral("2. Room Design"),
+                          QStringLiteral("3. Assign Devices to the rooms")}));
+    wizard.window->back();
+    wizard.window->back();
+    Announcements::takeSaid();
+    wizard.window->back(); // the first page has none before it
+    QCOMPARE(Announcements::takeSaid(), QStringList());
 }
 
 void TestAccessibility::tabVisitsEverythingInReadingOrder()

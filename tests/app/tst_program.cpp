@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int patience = 10000; // milliseconds
+constexpr int patienceMs = 10000;
 
 struct Run
 {
@@ -30,7 +30,7 @@ Run runWithoutDisplay(const QStringList& arguments)
     QProcess program;
     program.setProcessEnvironment(withoutDisplay());
     program.start(QStringLiteral(TESSEL_PROGRAM), arguments);
-    if (!program.waitForFinished(patience) || program.exitStatus() != QProcess::NormalExit) {
+    if (!program.waitForFinished(patienceMs) || program.exitStatus() != QProcess::NormalExit) {
         return {};
     }
     return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
@@ -48,7 +48,7 @@ QStringList told(const QStringList& arguments, qsizetype lines)
         said += program.readAllStandardError();
         return QString::fromUtf8(said).split(u'\n').filter(QStringLiteral("tessel: "));
     };
-    const bool came = QTest::qWaitFor([&] { return told().size() >= lines; }, patience);
+    const bool came = QTest::qWaitFor([&] { return told().size() >= lines; }, patienceMs);
     program.kill();
     program.waitForFinished();
     return came ? told() : QStringList();
@@ -135,7 +135,7 @@ void TestProgram::outputThatCannotBeWrittenIsAFailure()
     QProcess program;
     program.setStandardOutputFile(QStringLiteral("/dev/full"));
     program.start(QStringLiteral(TESSEL_PROGRAM), {QStringLiteral("--help")});
-    QVERIFY(program.waitForFinished(patience));
+    QVERIFY(program.waitForFinished(patienceMs));
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program.exitCode(), 1);
 }

@@ -30,7 +30,7 @@ private Q_SLOTS:
 namespace {
 
 constexpr int refused = 77;
-constexpr int patience = 120000;
+constexpr int patienceMs = 120000;
 
 const QString script = QStringLiteral(TESSEL_WITH_NETWORK);
 
@@ -45,7 +45,7 @@ struct NetworkRun
 
     int exitCode()
     {
-        process.waitForFinished(patience);
+        process.waitForFinished(patienceMs);
         output = process.readAll();
         return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     }
@@ -164,7 +164,7 @@ void TestBroadcast::theScriptTellsWhyThereAreNoNamespaces()
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QStringLiteral("/bin/bash"), QStringList{script} + bothEnds({}, {}));
-    QVERIFY(process.waitForFinished(patience));
+    QVERIFY(process.waitForFinished(patienceMs));
     QCOMPARE(process.exitCode(), refused);
     QVERIFY(process.readAll().contains("with-network: the program 'ip' is missing"));
 }

@@ -79,7 +79,7 @@ void carryOutFaultRow(const QString& base)
         part.exchange = exchange;
         step.setFault(faultyHub, part);
     }
-    step.answers.giveUpAfter(step.address(faultyHub), mostAnswers);
+    step.answers.giveUpAfter(step.address(faultyHub), maxAnswers);
 
     press(step.execute());
     PresetFileSender* sender = senderOf(step.page, step.address(faultyHub));
@@ -101,7 +101,7 @@ void carryOutFaultRow(const QString& base)
 
     if (expected.status != u"Done") {
         step.hall.clearFaults();
-        step.answers.giveUpAfter(step.address(faultyHub), expected.prompts + mostAnswers);
+        step.answers.giveUpAfter(step.address(faultyHub), expected.prompts + maxAnswers);
         press(step.execute());
         QVERIFY(waitUntilOver(step.page));
     }

@@ -131,7 +131,7 @@ bool asksForPasswordsAgain(Exchange exchange, Hearing hearing)
 int expectedPrompts(Exchange exchange, Hearing hearing)
 {
     if (asksForPasswordsAgain(exchange, hearing)) {
-        return mostAnswers + 1;
+        return maxAnswers + 1;
     }
     if (hearing == Hearing::Good) {
         return exchange == Exchange::SetPassword ? 2 : 1;

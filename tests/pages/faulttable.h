@@ -32,12 +32,12 @@ struct FaultOutcome
 {
     QString status;   ///< of the hub on the page
     int finished = 1; ///< how often the run reports an end
-    int prompts = 1;  ///< how often a password is asked for, see mostAnswers
+    int prompts = 1;  ///< how often a password is asked for, see maxAnswers
     QString held;     ///< as heldBy() tells it
 };
 
 /// The user gives up when the same hub asks for a password once more than this.
-constexpr int mostAnswers = 2;
+constexpr int maxAnswers = 2;
 
 /// What is to come of a fault that strikes every reply to this request: one rule for all.
 FaultOutcome expectedOutcome(Exchange exchange, const ReplyFault& fault);

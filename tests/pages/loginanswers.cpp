@@ -38,7 +38,7 @@ void LoginAnswers::cancel(const QString& hub)
 
 void LoginAnswers::giveUpAfter(const QString& hub, int answers)
 {
-    m_mostAnswers.insert(hub, answers);
+    m_maxAnswers.insert(hub, answers);
 }
 
 void LoginAnswers::hold(const QString& hub, std::function<bool()> ready, std::function<void()> look)
@@ -68,7 +68,7 @@ void LoginAnswers::answer(QWidget* dialog)
     const QString hub = hubOf(dialog);
     m_prompts.append(hub);
     const bool isTired =
-        m_mostAnswers.contains(hub) && m_prompts.count(hub) > m_mostAnswers.value(hub);
+        m_maxAnswers.contains(hub) && m_prompts.count(hub) > m_maxAnswers.value(hub);
     if (isTired || m_cancelled.removeOne(hub)) {
         Hands::pressKey(dialog, Qt::Key_Escape);
         return;

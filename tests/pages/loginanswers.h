@@ -38,7 +38,7 @@ private:
     QString m_password;
     QHash<QString, QStringList> m_passwords;
     QStringList m_cancelled;
-    QHash<QString, int> m_mostAnswers;
+    QHash<QString, int> m_maxAnswers;
     QString m_heldHub;
     QDeadlineTimer m_patience; ///< a condition that never comes true must not hang the test
     std::function<bool()> m_ready;

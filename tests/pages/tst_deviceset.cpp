@@ -36,6 +36,8 @@ private Q_SLOTS:
     void aDeviceHandedOverTwiceIsListedOnce();
     void theIdentifyButtonMakesTheDeviceIdentifyItself();
     void removingWorksWithTheKeyboard();
+    void aRemovedDeviceSaysSo();
+    void aListWithoutDevicesSaysSo();
 };
 
 namespace {
@@ -346,6 +348,42 @@ void TestDeviceSet::removingWorksWithTheKeyboard()
     QTest::keyClick(step.button(1), Qt::Key_Space);
     QVERIFY(step.button(1)->isRemoved());
     QVERIFY(allTextsAre(step.row(1), Qt::darkGray));
+}
+
+void TestDeviceSet::aRemovedDeviceSaysSo()
+{
+    ConfigureStep step(network);
+    step.place("PX-DL", 2, 1);
+    addTestLayout(step.doc, 1, QStringLiteral("1"));
+    step.enter();
+    const auto said = [&step](int column) {
+        return step.row(1)->data(column, Qt::AccessibleTextRole).toString();
+    };
+    const auto explained = [&step](int column) {
+        return step.row(1)->data(column, Qt::AccessibleDescriptionRole).toString();
+    };
+    for (const bool removed : {false, true, false}) {
+        QCOMPARE(said(0), removed ? QStringLiteral("dev-001, removed") : QString());
+        QCOMPARE(said(5), removed ? QStringLiteral("Revert") : QStringLiteral("Remove"));
+        for (const int column : textColumns) {
+            QCOMPARE(explained(column), removed ? QStringLiteral("removed") : QString());
+        }
+        QCOMPARE(step.row(1)->text(0), QStringLiteral("dev-001"));
+        QCOMPARE(step.row(1)->text(5), QString());
+        press(step.button(1));
+    }
+    press(step.page.findChild<QWidget*>(QStringLiteral("resetButton")));
+    QCOMPARE(said(0), QString());
+}
+
+void TestDeviceSet::aListWithoutDevicesSaysSo()
+{
+    ConfigureStep step(network);
+    step.place("PX-DL", 1, 1);
+    addTestLayout(step.doc, 1, QStringLiteral("1"));
+    step.enter();
+    QCOMPARE(step.hubs()->accessibleDescription(), QStringLiteral("No PX-HB stands here."));
+    QCOMPARE(step.peripherals()->accessibleDescription(), QString());
 }
 
 TESSEL_TEST_MAIN(TestDeviceSet)

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void upAndDownLeadFromFieldToField();
     void upAndDownReportTheFieldThatHasTheFocus();
     void fieldsSayWhatTheyName();
+    void theCellSaysWhatItsFieldShows();
 };
 
 namespace {
@@ -339,6 +340,17 @@ void TestPageCreatePreset::fieldsSayWhatTheyName()
              QStringLiteral("Preset name of rooms 1,2 in layout 1"));
     QCOMPARE(shown.field(4)->accessibleName(),
              QStringLiteral("Preset name of rooms 3 in layout 2"));
+}
+
+void TestPageCreatePreset::theCellSaysWhatItsFieldShows()
+{
+    const Shown shown;
+    const auto* list = shown.page.findChild<QTreeWidget*>(QStringLiteral("roomGroupList"));
+    const QModelIndex cell = list->model()->index(1, 3);
+    QCOMPARE(cell.data(Qt::AccessibleTextRole).toString(), QString());
+    QTest::keyClicks(shown.field(1), QStringLiteral("Foyer"));
+    QCOMPARE(cell.data(Qt::AccessibleTextRole).toString(), QStringLiteral("Foyer"));
+    QVERIFY(cell.data().toString().isEmpty());
 }
 
 TESSEL_TEST_MAIN(TestPageCreatePreset)

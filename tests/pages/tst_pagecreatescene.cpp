@@ -394,6 +394,8 @@ void TestPageCreateScene::worksWithTheKeyboardAlone()
     }
     auto* remove = buttonOf(*step.item(0), "removeButton");
     QCOMPARE(remove->accessibleName(), QStringLiteral("Remove layout 1+2/3/4"));
+    const QModelIndex cell = step.tree->model()->index(0, 1);
+    QCOMPARE(cell.data(Qt::AccessibleTextRole).toString(), QStringLiteral("Layout 1+2/3/4"));
     QTest::keyClick(remove, Qt::Key_Space);
     QVERIFY(step.rows().isEmpty());
 }

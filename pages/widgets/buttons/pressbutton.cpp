@@ -7,13 +7,20 @@
 
 namespace {
 
+/// What can be checked is a check box to assistive technology, which toggles those.
+bool isOurs(const QString& actionName)
+{
+    return actionName == QAccessibleActionInterface::pressAction() ||
+           actionName == QAccessibleActionInterface::toggleAction();
+}
+
 bool pressesButtons(int key)
 {
     return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
-/// What assistive technology sees of a PressButton: a button that can be pressed, and that is
-/// checked or not where its face can be.
+/// What assistive technology sees of a PressButton: a button that can be pressed, or a check box
+/// where its face can be checked.
 class PressButtonAccessible : public QAccessibleWidget
 {
 public:
@@ -29,7 +36,7 @@ private:
 };
 
 PressButtonAccessible::PressButtonAccessible(PressButton* button)
-    : QAccessibleWidget(button, QAccessible::Button)
+    : QAccessibleWidget(button, button->isCheckable() ? QAccessible::CheckBox : QAccessible::Button)
 {
 }
 
@@ -47,13 +54,16 @@ QStringList PressButtonAccessible::actionNames() const
     QStringList names = QAccessibleWidget::actionNames();
     if (button()->isEnabled()) {
         names.prepend(pressAction());
+        if (button()->isCheckable()) {
+            names.prepend(toggleAction());
+        }
     }
     return names;
 }
 
 void PressButtonAccessible::doAction(const QString& actionName)
 {
-    if (actionName != pressAction()) {
+    if (!isOurs(actionName)) {
         QAccessibleWidget::doAction(actionName);
     } else if (button()->isEnabled()) {
         button()->press();
@@ -62,7 +72,7 @@ void PressButtonAccessible::doAction(const QString& actionName)
 
 QStringList PressButtonAccessible::keyBindingsForAction(const QString& actionName) const
 {
-    if (actionName != pressAction()) {
+    if (!isOurs(actionName)) {
         return QAccessibleWidget::keyBindingsForAction(actionName);
     }
     return {QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText)};

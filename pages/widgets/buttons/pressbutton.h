@@ -9,8 +9,8 @@
 /// A face derives from it, paints itself (paintFace) and says what the release means (activate).
 /// The mouse works with any button, and a release counts wherever the pointer is by then. On the
 /// keyboard Space and Return press and release. Assistive technology sees a button with a press
-/// action; its name is the accessible name, which every user of a face sets where the face does
-/// not.
+/// action, or a check box; its name is the accessible name, which every user of a face sets where
+/// the face does not.
 class PressButton : public QWidget
 {
     Q_OBJECT

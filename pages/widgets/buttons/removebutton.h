@@ -13,6 +13,8 @@ public:
     explicit RemoveButton(QWidget* parent = nullptr);
 
     bool isRemoved() const { return m_removed; }
+    /// What stands on it.
+    QString text() const;
     /// Sets the state without clicked().
     void setRemoved(bool removed);
 
@@ -31,7 +33,6 @@ protected:
     void activate() override;
 
 private:
-    QString text() const;
     void updateTexts();
 
     QString m_device;

@@ -1,5 +1,6 @@
 #include "roomeditor.h"
 
+#include "accessiblerole.h"
 #include "arrowkey.h"
 #include "sight.h"
 
@@ -22,6 +23,7 @@ RoomEditor::RoomEditor(QWidget* parent, int gap, int cellSize, bool readOnly)
     setCellSize(cellSize);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(readOnly ? Qt::NoFocus : Qt::StrongFocus);
+    setAccessibleRole(this, readOnly ? QAccessible::Graphic : QAccessible::Canvas);
     setAccessibleName(tr("Room design"));
     setToolTip(readOnly ? tr("The rooms as they were drawn")
                         : tr("Draw with the mouse, or with the arrow keys, Space and Shift"));
@@ -63,7 +65,7 @@ void RoomEditor::mousePressEvent(QMouseEvent* event)
     if (cell) {
         m_cursor = *cell;
     }
-    if (cell && m_drawing.begin(*cell)) {
+    if (cell && begin(*cell)) {
         m_pressPosition = position;
     }
     describeCursor();
@@ -160,6 +162,15 @@ void RoomEditor::showChanges(const RoomGrid& before)
     }
 }
 
+bool RoomEditor::begin(QPoint cell)
+{
+    const bool begun = m_drawing.begin(cell);
+    if (!begun) {
+        Q_EMIT roomRefused();
+    }
+    return begun;
+}
+
 void RoomEditor::endGesture()
 {
     m_pressPosition = noPosition;
@@ -170,7 +181,7 @@ void RoomEditor::clickAtCursor()
 {
     endKeyStroke();
     const RoomGrid before = m_drawing.grid();
-    if (m_drawing.begin(m_cursor)) {
+    if (begin(m_cursor)) {
         m_drawing.liftStroke();
         m_drawing.click(m_cursor);
         endGesture();
@@ -202,7 +213,7 @@ void RoomEditor::strokeTo(QPoint cell)
         endGesture();
         m_drawing.liftStroke();
         m_keyStroke = true;
-        m_drawing.begin(m_cursor);
+        begin(m_cursor);
         m_drawing.extend(m_cursor);
     }
     m_drawing.extend(cell);

@@ -47,6 +47,9 @@ Q_SIGNALS:
     /// After an edit that changed the number of rooms; after setRoom() and clear() always.
     void roomCountChanged(int count);
 
+    /// A gesture would have drawn a room too many; nothing was drawn.
+    void roomRefused();
+
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -59,6 +62,7 @@ protected:
 
 private:
     void showChanges(const RoomGrid& before);
+    bool begin(QPoint cell);
     void endGesture();
 
     void clickAtCursor();

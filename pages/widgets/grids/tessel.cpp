@@ -1,5 +1,6 @@
 #include "tessel.h"
 
+#include "accessiblerole.h"
 #include "arrowkey.h"
 #include "fontscale.h"
 #include "layoutthumbnail.h"
@@ -34,6 +35,7 @@ Tessel::Tessel(QWidget* parent, int gap, int cellSize, bool readOnly)
     setFixedSize(m_picture.geometry().side(), m_picture.geometry().side());
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(readOnly ? Qt::NoFocus : Qt::StrongFocus);
+    setAccessibleRole(this, QAccessible::Grouping);
     setAccessibleName(tr("Room combination"));
     setToolTip(readOnly ? tr("The combined rooms")
                         : tr("Combine rooms with the boxes between them or with a room's menu"));
@@ -63,8 +65,7 @@ void Tessel::clearAll()
     qDeleteAll(m_buttons);
     m_buttons.clear();
     m_links.clear();
-    m_currentRoom = 0;
-    update();
+    setCurrentRoom(0);
 }
 
 QString Tessel::roomGroupText() const
@@ -198,6 +199,7 @@ void Tessel::setLinked(RoomPair pair, bool linked)
 {
     m_links.set(pair, linked);
     m_picture.setGroups(combinedGroups());
+    describeCurrentRoom();
     update();
 }
 
@@ -230,8 +232,37 @@ void Tessel::openMenuAt(int room, QPoint globalPosition)
 void Tessel::setCurrentRoom(int room)
 {
     m_currentRoom = room;
-    setAccessibleDescription(room != 0 ? tr("Room %1").arg(room) : QString());
+    describeCurrentRoom();
     update();
+}
+
+/// Tells screen readers where the keyboard is and with which rooms that one is combined.
+void Tessel::describeCurrentRoom()
+{
+    QString words;
+    if (m_currentRoom != 0) {
+        const QStringList others = roomsCombinedWith(m_currentRoom);
+        words = others.isEmpty()
+                    ? tr("Room %1, not combined").arg(m_currentRoom)
+                    : tr("Room %1, combined with %2")
+                          .arg(QString::number(m_currentRoom), others.join(tr(" and ")));
+    }
+    if (accessibleDescription() != words) { // set anew, the same words would be read out again
+        setAccessibleDescription(words);
+    }
+}
+
+QStringList Tessel::roomsCombinedWith(int room) const
+{
+    QStringList others;
+    for (const QList<int>& group : combinedGroups()) {
+        for (const int other : group.contains(room) ? group : QList<int>()) {
+            if (other != room) {
+                others.append(tr("room %1").arg(other));
+            }
+        }
+    }
+    return others;
 }
 
 void Tessel::goToNeighbour(QPoint step)

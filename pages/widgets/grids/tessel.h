@@ -75,6 +75,8 @@ private:
     void openMenuAt(int room, QPoint globalPosition);
 
     void setCurrentRoom(int room);
+    void describeCurrentRoom();
+    QStringList roomsCombinedWith(int room) const;
     void goToNeighbour(QPoint step);
 
     QPoint markOf(const QRect& label) const;

@@ -131,6 +131,7 @@ void DeviceTable::addIdentifyButton(QTreeWidgetItem* row)
     auto* button = new IdentifyButton(addressOf(row), this);
     connect(button, SIGNAL(clicked(QString)), this, SIGNAL(identifyClicked(QString)));
     setItemWidget(row, IdentifyColumn, button);
+    row->setData(IdentifyColumn, Qt::AccessibleTextRole, tr("Identify"));
     nameIdentifyButton(row);
 }
 

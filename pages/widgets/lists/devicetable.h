@@ -8,6 +8,7 @@
 
 /// A table of devices: one row per device with its label in column 0, an identify button in
 /// column 1 and its IP address in a column that the page names; the address finds the row again.
+/// To screen readers a cell says what its widget shows: whoever adds widgets sees to theirs.
 class DeviceTable : public RowList
 {
     Q_OBJECT

@@ -8,6 +8,12 @@ ListComboBox::ListComboBox(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus); // not by the wheel
 }
 
+void ListComboBox::setPurpose(const QString& purpose)
+{
+    setAccessibleName(purpose);
+    setAccessibleDescription(purpose);
+}
+
 void ListComboBox::wheelEvent(QWheelEvent* event)
 {
     event->ignore();

@@ -12,6 +12,10 @@ class ListComboBox : public QComboBox
 public:
     explicit ListComboBox(QWidget* parent = nullptr);
 
+    /// Tells screen readers what is chosen here, and for which device. It is the accessible name;
+    /// where they are told the chosen text in its place, they find it as the description.
+    void setPurpose(const QString& purpose);
+
 protected:
     void wheelEvent(QWheelEvent* event) override;
 };

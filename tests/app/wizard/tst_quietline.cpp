@@ -17,6 +17,7 @@ private Q_SLOTS:
 void TestQuietLine::isAStatusBarNamedByWhatItSays()
 {
     QuietLine line(nullptr);
+    line.show();
     line.say({QStringLiteral("Draw two rooms or more.")});
     QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&line);
     QCOMPARE(told->role(), QAccessible::StatusBar);

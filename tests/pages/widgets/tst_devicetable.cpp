@@ -21,6 +21,7 @@ private Q_SLOTS:
     void twoDevicesOfOneAddressAreFoundAsTheFirst();
     void forgetsRowsThatAreGone();
     void everyRowHasAnIdentifyButtonNamedAfterItsDevice();
+    void theCellOfTheButtonSaysSo();
     void tellsWhichDeviceIsToIdentifyItself();
     void aNewLabelAlsoNamesTheIdentifyButton();
     void decoratesEveryRowOnceInTheOrderShown();
@@ -190,6 +191,15 @@ void TestDeviceTable::everyRowHasAnIdentifyButtonNamedAfterItsDevice()
                  QStringLiteral("Identify ") + table.topLevelItem(row)->text(0));
         QVERIFY(!table.buttonOf(row)->toolTip().isEmpty());
     }
+}
+
+void TestDeviceTable::theCellOfTheButtonSaysSo()
+{
+    Table table;
+    table.setRows({{QStringLiteral("Hub-A"), QString(), QStringLiteral("10.0.0.1"), QString()}});
+    const QModelIndex cell = table.model()->index(0, DeviceTable::IdentifyColumn);
+    QCOMPARE(cell.data(Qt::AccessibleTextRole).toString(), QStringLiteral("Identify"));
+    QVERIFY(cell.data().toString().isEmpty()); // nothing is painted beside the button
 }
 
 void TestDeviceTable::tellsWhichDeviceIsToIdentifyItself()

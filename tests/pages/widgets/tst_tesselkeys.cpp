@@ -21,6 +21,7 @@ private Q_SLOTS:
     void aKeyThatMovesNothingShowsTheOutlineAtOnce();
     void tabGoesThroughTheBoxesInReadingOrder();
     void otherKeysGoOn();
+    void thePickerSaysWithWhichRoomsARoomIsCombined();
     void assistiveTechnologyHearsNames();
 };
 
@@ -30,13 +31,13 @@ void TestTesselKeys::arrowsMoveFromRoomToRoom()
     picker.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&picker));
     picker.setFocus();
-    QCOMPARE(picker.accessibleDescription(), QStringLiteral("Room 1"));
+    QCOMPARE(picker.accessibleDescription(), QStringLiteral("Room 1, not combined"));
     const QList<std::pair<Qt::Key, int>> steps{
         {Qt::Key_Right, 2}, {Qt::Key_Right, 2}, {Qt::Key_Down, 4}, {Qt::Key_Left, 3},
         {Qt::Key_Left, 3},  {Qt::Key_Down, 3},  {Qt::Key_Up, 1},   {Qt::Key_Up, 1}};
     for (const auto& [key, room] : steps) {
         QTest::keyClick(&picker, key);
-        QCOMPARE(picker.accessibleDescription(), QStringLiteral("Room %1").arg(room));
+        QCOMPARE(picker.accessibleDescription(), QStringLiteral("Room %1, not combined").arg(room));
     }
 }
 
@@ -177,14 +178,33 @@ void TestTesselKeys::otherKeysGoOn()
     QVERIFY(!event.isAccepted());
 }
 
+void TestTesselKeys::thePickerSaysWithWhichRoomsARoomIsCombined()
+{
+    Picker picker(inARow(3));
+    picker.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&picker));
+    picker.setFocus();
+    picker.clickBox(1, 2);
+    QCOMPARE(picker.accessibleDescription(), QStringLiteral("Room 1, combined with room 2"));
+    QTest::keyClick(&picker, Qt::Key_Space);
+    QTest::keyClick(picker.menus().first(), Qt::Key_Down);
+    QTest::keyClick(picker.menus().first(), Qt::Key_Down);
+    QTest::keyClick(picker.menus().first(), Qt::Key_Return);
+    QCOMPARE(picker.accessibleDescription(),
+             QStringLiteral("Room 1, combined with room 2 and room 3"));
+    picker.clickBox(1, 2);
+    QCOMPARE(picker.accessibleDescription(), QStringLiteral("Room 1, combined with room 3"));
+}
+
 void TestTesselKeys::assistiveTechnologyHearsNames()
 {
     Picker picker(inARow(2));
     QCOMPARE(QAccessible::queryAccessibleInterface(&picker)->text(QAccessible::Name),
              QStringLiteral("Room combination"));
+    QCOMPARE(QAccessible::queryAccessibleInterface(&picker)->role(), QAccessible::Grouping);
     QVERIFY(!picker.toolTip().isEmpty());
     QAccessibleInterface* box = QAccessible::queryAccessibleInterface(picker.boxes().first());
-    QCOMPARE(box->role(), QAccessible::Button);
+    QCOMPARE(box->role(), QAccessible::CheckBox);
     QCOMPARE(box->text(QAccessible::Name), QStringLiteral("Link room 1 and room 2"));
     QVERIFY(!picker.boxes().first()->toolTip().isEmpty());
     box->actionInterface()->doAction(QAccessibleActionInterface::pressAction());

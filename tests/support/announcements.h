@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QList>
+#include <QStringList>
 
 #include <utility>
 
@@ -21,7 +22,11 @@ public:
     /// How often this was said of `object` since it was last asked for.
     static qsizetype count(const QObject* object, QAccessible::Event type);
 
+    /// What was read out since it was last asked for: the names that status bars took on.
+    static QStringList takeSaid();
+
 private:
     static QList<std::pair<const QObject*, QAccessible::Event>>& told();
+    static QStringList& said();
     static void hear(QAccessibleEvent* event);
 };

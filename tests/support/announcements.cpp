@@ -31,6 +31,7 @@ void setListening(bool listening)
 Announcements::Announcements()
 {
     told().clear();
+    said().clear();
     setListening(true);
     QAccessible::installUpdateHandler(hear);
 }
@@ -52,7 +53,23 @@ QList<std::pair<const QObject*, QAccessible::Event>>& Announcements::told()
     return all;
 }
 
+QStringList Announcements::takeSaid()
+{
+    return std::exchange(said(), {});
+}
+
+QStringList& Announcements::said()
+{
+    static QStringList all;
+    return all;
+}
+
 void Announcements::hear(QAccessibleEvent* event)
 {
     told().append({event->object(), event->type()});
+    const QAccessibleInterface* teller = event->accessibleInterface();
+    if (event->type() == QAccessible::NameChanged && teller &&
+        teller->role() == QAccessible::StatusBar && !teller->text(QAccessible::Name).isEmpty()) {
+        said().append(teller->text(QAccessible::Name));
+    }
 }

@@ -1,0 +1,129 @@
+#include "announcements.h"
+#include "spokenlabel.h"
+#include "testcase.h"
+
+#include <QTest>
+
+class TestSpokenLabel : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isAStatusBarNamedByWhatItSays();
+    void saysEachNewTextOnceAndNoneTwice();
+    void announcesWhatIsShownNowhere();
+    void announcesTheSameWordsAsOftenAsTheyCome();
+    void showsWhatWasJustAnnouncedWithoutSayingItAgain();
+    void saysWhatItShowsWhenItComesToSight();
+};
+
+namespace {
+
+const QString one = QStringLiteral("One.");
+const QString two = QStringLiteral("Two.");
+
+QString nameOf(QWidget& widget)
+{
+    return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
+}
+
+} // namespace
+
+void TestSpokenLabel::isAStatusBarNamedByWhatItSays()
+{
+    SpokenLabel label(nullptr);
+    label.show();
+    label.say(one);
+    QCOMPARE(QAccessible::queryAccessibleInterface(&label)->role(), QAccessible::StatusBar);
+    QCOMPARE(nameOf(label), one);
+    label.say(QString());
+    QCOMPARE(nameOf(label), QString());
+}
+
+void TestSpokenLabel::saysEachNewTextOnceAndNoneTwice()
+{
+    const Announcements announcements;
+    if (!announcements.canHear()) {
+        QSKIP("This system has no ear for what screen readers are told.");
+    }
+    SpokenLabel label(nullptr);
+    label.show();
+    label.say(one);
+    QCOMPARE(Announcements::takeSaid(), QStringList{one});
+    label.say(one);
+    QCOMPARE(Announcements::takeSaid(), QStringList());
+    label.say(one + u' ' + two);
+    QCOMPARE(Announcements::takeSaid(), QStringList{one + u' ' + two});
+    label.say(two);
+    QCOMPARE(Announcements::takeSaid(), QStringList{two});
+    label.say(QString());
+    QCOMPARE(Announcements::takeSaid(), QStringList());
+    label.say(two);
+    QCOMPARE(Announcements::takeSaid(), QStringList{two});
+    QCOMPARE(label.text(), two);
+}
+
+void TestSpokenLabel::announcesWhatIsShownNowhere()
+{
+    const Announcements announcements;
+    if (!announcements.canHear()) {
+        QSKIP("This system has no ear for what screen readers are told.");
+    }
+    SpokenLabel label(nullptr);
+    label.show();
+    label.announce(one);
+    QCOMPARE(Announcements::takeSaid(), QStringList{one});
+    QCOMPARE(nameOf(label), one);
+    QCOMPARE(label.text(), QString());
+}
+
+void TestSpokenLabel::announcesTheSameWordsAsOftenAsTheyCome()
+{
+    const Announcements announcements;
+    if (!announcements.canHear()) {
+        QSKIP("This system has no ear for what screen readers are told.");
+    }
+    SpokenLabel label(nullptr);
+    label.show();
+    label.announce(one);
+    label.announce(one);
+    QCOMPARE(Announcements::takeSaid(), QStringList({one, one}));
+    // Between them the name was another, or a reader would take no notice of the second.
+    QCOMPARE(Announcements::count(&label, QAccessible::NameChanged), 3);
+}
+
+void TestSpokenLabel::showsWhatWasJustAnnouncedWithoutSayingItAgain()
+{
+    const Announcements announcements;
+    if (!announcements.canHear()) {
+        QSKIP("This system has no ear for what screen readers are told.");
+    }
+    SpokenLabel label(nullptr);
+    label.show();
+    label.announce(one + u' ' + two);
+    QCOMPARE(Announcements::takeSaid(), QStringList{one + u' ' + two});
+    label.say(two);
+    QCOMPARE(Announcements::takeSaid(), QStringList());
+    QCOMPARE(label.text(), two);
+}
+
+void TestSpokenLabel::saysWhatItShowsWhenItComesToSight()
+{
+    const Announcements announcements;
+    if (!announcements.canHear()) {
+        QSKIP("This system has no ear for what screen readers are told.");
+    }
+    SpokenLabel label(nullptr);
+    label.say(one);
+    label.say(two);
+    label.announce(one);
+    QCOMPARE(Announcements::takeSaid(), QStringList());
+    label.show();
+    QCOMPARE(Announcements::takeSaid(), QStringList{two});
+    label.hide();
+    label.show();
+    QCOMPARE(Announcements::takeSaid(), QStringList());
+}
+
+TESSEL_TEST_MAIN(TestSpokenLabel)
+#include "tst_spokenlabel.moc"
