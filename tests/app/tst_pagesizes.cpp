@@ -308,12 +308,15 @@ void TestPageSizes::countsOfASetAreShownWhole()
     const QRect row = table->visualItemRect(table->topLevelItem(0));
     QVERIFY(row.top() >= 0 && row.bottom() < table->viewport()->height());
     QVERIFY(!table->verticalScrollBar()->isVisible());
+    int width = 0;
     for (int column = 0; column < 4; ++column) {
+        width += table->columnWidth(column);
         const QString header = table->headerItem()->text(column);
         QVERIFY2(table->fontMetrics().horizontalAdvance(header) + 2 * cellMargin <=
                      table->columnWidth(column),
                  qPrintable(header));
     }
+    QCOMPARE(table->horizontalScrollBar()->isVisible(), width + 1 > table->viewport()->width());
 }
 
 void TestPageSizes::columnsAreInProportionToTheFont_data()

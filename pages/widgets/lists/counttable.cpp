@@ -9,6 +9,13 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+/// Of a column without a header: it fills what is left, and is no reason to scroll.
+constexpr int leastWidth = 1;
+
+} // namespace
+
 CountTable::CountTable(const QStringList& headers, int rowCount, QMap<int, int> widths,
                        QWidget* parent)
     : QTreeWidget(parent)
@@ -17,6 +24,7 @@ CountTable::CountTable(const QStringList& headers, int rowCount, QMap<int, int> 
 {
     setHeaderLabels(headers);
     setRootIsDecorated(false);
+    header()->setMinimumSectionSize(leastWidth);
     connect(model(), SIGNAL(rowsInserted(QModelIndex, int, int)), this, SLOT(fitHeight()));
     connect(header(), SIGNAL(sectionResized(int, int, int)), this, SLOT(fitHeight()));
     setWidths();
@@ -54,11 +62,18 @@ void CountTable::fitHeight()
 
 void CountTable::setWidths()
 {
-    const int usual = header()->defaultSectionSize();
     for (int column = 0; column < columnCount(); ++column) {
-        const auto given = m_widths.constFind(column);
-        setColumnWidth(column, given != m_widths.cend()
-                                   ? scaledToFont(*given, this)
-                                   : std::max(usual, header()->sectionSizeHint(column)));
+        setColumnWidth(column, widthFor(column));
     }
+}
+
+int CountTable::widthFor(int column) const
+{
+    const auto given = m_widths.constFind(column);
+    if (given != m_widths.cend()) {
+        return scaledToFont(*given, this);
+    }
+    return headerItem()->text(column).isEmpty()
+               ? leastWidth
+               : std::max(header()->defaultSectionSize(), header()->sectionSizeHint(column));
 }

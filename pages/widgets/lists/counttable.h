@@ -26,6 +26,7 @@ private Q_SLOTS:
 
 private:
     void setWidths();
+    int widthFor(int column) const;
 
     int m_rowCount;
     QMap<int, int> m_widths; ///< by column
