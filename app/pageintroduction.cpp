@@ -45,8 +45,6 @@ PageIntroduction::PageIntroduction(IPageController* controller, IDocAccessor* do
     connect(closeButton, SIGNAL(clicked()), this, SLOT(closeButtonClicked()));
     connect(nextButton, SIGNAL(clicked()), this, SLOT(nextButtonClicked()));
     pressOnNextKey(this, nextButton);
-    // What stands first closes the wizard, which is not what Return is for at the beginning.
-    nextButton->setFocus();
 }
 
 void PageIntroduction::nextButtonClicked()

@@ -2,6 +2,7 @@
 
 #include "dialogplace.h"
 #include "emptylisttext.h"
+#include "focusedcelldelegate.h"
 #include "fontscale.h"
 #include "readablecolors.h"
 
@@ -134,6 +135,7 @@ void NetworkDialog::buildList()
     m_nicList->header()->setSectionResizeMode(MaskColumn, QHeaderView::ResizeToContents);
     m_nicList->installEventFilter(this);
     m_nicList->setFocus();
+    m_nicList->setItemDelegate(new FocusedCellDelegate(m_nicList));
     new ReadableColors(m_nicList);
     new EmptyListText(m_nicList, tr("This computer has no wired network interface. Check that a "
                                     "network adapter is connected and switched on, then start "

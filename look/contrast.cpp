@@ -1,6 +1,7 @@
 #include "contrast.h"
 
 #include <QColor>
+#include <QPalette>
 
 #include <algorithm>
 #include <cmath>
@@ -66,4 +67,10 @@ QColor readableGround(const QColor& wanted, const QColor& text)
         ground = next;
     }
     return ground;
+}
+
+bool isDark(const QPalette& palette)
+{
+    const QColor ground = palette.color(QPalette::Base);
+    return contrast(ground, Qt::white) > contrast(ground, Qt::black);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 class QColor;
+class QPalette;
 
 /// How much one colour stands out from the other, from their relative luminances: 1 for equal
 /// ones, 21 for black on white.
@@ -19,3 +20,6 @@ QColor readableGray(const QColor& wanted, const QColor& ground, double needed = 
 /// The colour for the ground of a given text: `wanted` if the text can be read there with ease,
 /// else the same hue, as much darker or lighter as it takes.
 QColor readableGround(const QColor& wanted, const QColor& text);
+
+/// Whether lists are nearer to black than to white.
+bool isDark(const QPalette& palette);

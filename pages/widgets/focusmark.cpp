@@ -1,5 +1,7 @@
 #include "focusmark.h"
 
+#include "frame.h"
+
 #include <QPainter>
 #include <QWidget>
 
@@ -22,13 +24,6 @@ void FocusMark::focusIn(const QFocusEvent* event)
 bool FocusMark::isShown(const QWidget* widget) const
 {
     return m_wanted && widget->hasFocus();
-}
-
-void fillFrame(QPainter& painter, const QRect& rect, const QColor& color)
-{
-    for (const QRect& side : QRegion(rect) - QRegion(rect.adjusted(1, 1, -1, -1))) {
-        painter.fillRect(side, color);
-    }
 }
 
 void drawFocusRing(QPainter& painter, const QRect& rect)

@@ -2,7 +2,6 @@
 
 #include <QFocusEvent>
 
-class QColor;
 class QPainter;
 class QRect;
 class QWidget;
@@ -26,10 +25,6 @@ public:
 private:
     bool m_wanted = false;
 };
-
-/// Draws the outermost pixels of `rect`. Filled rather than drawn with a pen, which on a scaled
-/// display would lie half outside.
-void fillFrame(QPainter& painter, const QRect& rect, const QColor& color);
 
 /// Draws a ring just inside `rect`, black outside and white inside, so that it stands out from
 /// light and dark surroundings alike.

@@ -1,7 +1,5 @@
 #include "ground.h"
 
-#include "contrast.h"
-
 #include <QAbstractItemView>
 
 namespace {
@@ -27,10 +25,4 @@ QColor groundOf(const QWidget* widget)
     const QPoint middle = widget->mapTo(list->viewport(), widget->rect().center());
     const bool selected = list->selectionModel()->isSelected(list->indexAt(middle));
     return list->palette().color(selected ? QPalette::Highlight : QPalette::Base);
-}
-
-bool isDark(const QPalette& palette)
-{
-    const QColor ground = palette.color(QPalette::Base);
-    return contrast(ground, Qt::white) > contrast(ground, Qt::black);
 }

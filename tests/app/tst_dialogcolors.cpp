@@ -83,6 +83,7 @@ private Q_SLOTS:
     void everyTextCanBeReadWithEase_data();
     void everyTextCanBeReadWithEase();
     void whatIsPaintedInAnEmptyListCanBeReadWithEase();
+    void aSelectedRowShowsWhetherTheKeyboardIsInIt();
 
 private:
     QPalette m_light = QApplication::palette();
@@ -135,6 +136,26 @@ void TestDialogColors::whatIsPaintedInAnEmptyListCanBeReadWithEase()
             }
         }
         QVERIFY2(most >= 4.5, qPrintable(QString::number(most)));
+    }
+}
+
+void TestDialogColors::aSelectedRowShowsWhetherTheKeyboardIsInIt()
+{
+    const auto window = makeWindow();
+    QDialog* dialog = makeDialog(QStringLiteral("network"), window.get());
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    auto* list = dialog->findChild<QTreeWidget*>();
+    for (const QPalette& palette : {m_light, darkPalette()}) {
+        QApplication::setPalette(palette);
+        list->setCurrentItem(list->topLevelItem(1));
+        list->clearFocus();
+        QCoreApplication::processEvents();
+        const QImage before = list->viewport()->grab().toImage();
+        list->setFocus(Qt::TabFocusReason);
+        const QImage after = list->viewport()->grab().toImage();
+        const QPoint corner = list->visualItemRect(list->topLevelItem(1)).topLeft();
+        QVERIFY(contrast(before.pixelColor(corner), after.pixelColor(corner)) >= 3.0);
     }
 }
 

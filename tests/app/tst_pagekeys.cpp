@@ -51,22 +51,12 @@ class TestPageKeys : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void returnBeginsTheWizard();
     void altAndArrowsTurnThePagesUpToTheInstallation();
     void noKeyExecutes();
     void aKeyThatIsHeldTurnsOnePage();
     void aDisabledNextStaysWhereItIs();
     void theButtonsNameTheirKeys();
 };
-
-void TestPageKeys::returnBeginsTheWizard()
-{
-    const Wizard wizard;
-    QVERIFY(QTest::qWaitForWindowActive(wizard.window.get()));
-    QCOMPARE(QApplication::focusWidget(), wizard.button("nextButton"));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    QCOMPARE(wizard.page(), 2);
-}
 
 void TestPageKeys::altAndArrowsTurnThePagesUpToTheInstallation()
 {

@@ -1,5 +1,7 @@
 #include "removebutton.h"
 
+#include "frame.h"
+
 #include <QPainter>
 
 namespace {

@@ -1,7 +1,7 @@
 #include "menustyle.h"
 
-#include "focusmark.h"
-#include "ground.h"
+#include "contrast.h"
+#include "frame.h"
 
 #include <QStyleOption>
 

@@ -1,8 +1,7 @@
 #include "focusedcelldelegate.h"
 
 #include "contrast.h"
-#include "focusmark.h"
-#include "ground.h"
+#include "frame.h"
 
 namespace {
 
