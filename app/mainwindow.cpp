@@ -53,8 +53,8 @@ MainWindow::MainWindow(QWidget* parent, IDocAccessor* doc)
     , m_titleLabel(new SpokenLabel(this))
     , m_pageStack(new QStackedWidget(this))
 {
-    setWindowTitle(tr("Divide / Combine Room Wizard"));
     setAccessibleRole(this, QAccessible::Window);
+    setWindowTitle(tr("Divide / Combine Room Wizard"));
     // Of all windows: some boxes belong to none.
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/tessel.svg")));
     setMinimumSize(minWindowSize);
