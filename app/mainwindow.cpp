@@ -61,8 +61,8 @@ MainWindow::MainWindow(QWidget* parent, IDocAccessor* doc, ConfigurationFile* fi
     , m_pageStack(new QStackedWidget(this))
     , m_place(new WindowPlace(this, minWindowSize, maxWindowSize))
 {
-    setWindowTitle(tr("Divide / Combine Room Wizard"));
     setAccessibleRole(this, QAccessible::Window);
+    setWindowTitle(tr("Divide / Combine Room Wizard"));
     // Of all windows: some boxes belong to none.
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/tessel.svg")));
     buildLayout();

@@ -67,9 +67,12 @@ QStringList& Announcements::said()
 void Announcements::hear(QAccessibleEvent* event)
 {
     told().append({event->object(), event->type()});
+    if (event->type() != QAccessible::NameChanged) {
+        return;
+    }
     const QAccessibleInterface* teller = event->accessibleInterface();
-    if (event->type() == QAccessible::NameChanged && teller &&
-        teller->role() == QAccessible::StatusBar && !teller->text(QAccessible::Name).isEmpty()) {
+    if (teller && teller->role() == QAccessible::StatusBar &&
+        !teller->text(QAccessible::Name).isEmpty()) {
         said().append(teller->text(QAccessible::Name));
     }
 }
