@@ -165,7 +165,7 @@ void TestPlanCommand::aFolderThatCannotBeMadeIsTold()
 void TestPlanCommand::addressesOfAFileLeaveTheFolderNot()
 {
     QByteArray text =
-        changed(sampleHallText(), "\"address\": \"127.0.1.1\"", "\"address\": \"../../up\"");
+        changed(sampleHallText(), "\"address\": \"127.0.1.1\"", "\"address\": \"../../../up\"");
     text = changed(text, "02:1A:FF:00:00:05", "../../mac/../..");
     plan(text, {QStringLiteral("--files"), path("inside/bodies")});
     QDirIterator files(m_folder.path(), QDir::Files, QDirIterator::Subdirectories);
