@@ -59,6 +59,17 @@ QPixmap bare(const QPixmap& picture)
                                   .copy());
 }
 
+/// The picture as it is written. An image tells the resolution of the screen that it was made on,
+/// which nobody asks for, and for which the same picture would be other bytes on another screen.
+QImage forAnyScreen(const QPixmap& picture)
+{
+    constexpr int usualDotsPerMeter = 3780; // 96 to the inch
+    QImage image = picture.toImage();
+    image.setDotsPerMeterX(usualDotsPerMeter);
+    image.setDotsPerMeterY(usualDotsPerMeter);
+    return image;
+}
+
 /// A picture is a marker and, unless that is 0, a PNG whose length is written nowhere.
 bool readPicture(QDataStream& stream, QPixmap& picture)
 {
@@ -126,7 +137,7 @@ QByteArray packResumeFile(const ResumeFile& content)
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream << content.xml << qint64(content.scenes.size());
     for (const SceneInfo& scene : content.scenes) {
-        stream << qint32(scene.number) << scene.roomGroup << scene.thumbnail;
+        stream << qint32(scene.number) << scene.roomGroup << forAnyScreen(scene.thumbnail);
     }
     return bytes;
 }

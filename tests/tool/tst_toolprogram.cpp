@@ -1,7 +1,9 @@
+#include "commandrun.h"
 #include "testcase.h"
 #include "toolrun.h"
 
 #include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -34,6 +36,9 @@ private Q_SLOTS:
     void wrongUsageIsOneLine_data();
     void wrongUsageIsOneLine();
     void outputThatCannotBeWrittenIsToldAndAFailure();
+    void aHallGoesThereAndBack();
+    void whatCannotBeReadIsOneLine_data();
+    void whatCannotBeReadIsOneLine();
 };
 
 void TestToolProgram::helpTellsOfEveryCommand()
@@ -110,6 +115,46 @@ void TestToolProgram::outputThatCannotBeWrittenIsToldAndAFailure()
     }
     const ToolRun run = runBuiltTool({QStringLiteral("--help")}, full);
     QCOMPARE(run.exitCode, 3);
+    QVERIFY2(isOneLine(run.errors), qPrintable(run.errors));
+}
+
+void TestToolProgram::aHallGoesThereAndBack()
+{
+    const QTemporaryDir folder;
+    const QString text = folder.filePath(QStringLiteral("hall.json"));
+    const QString hall = folder.filePath(QStringLiteral("hall.tessel"));
+    const QString again = folder.filePath(QStringLiteral("again.tessel"));
+    putFile(text, sampleHallText());
+    const ToolRun made = runBuiltTool({QStringLiteral("make"), text, QStringLiteral("-o"), hall});
+    QCOMPARE(made.errors, QString());
+    QCOMPARE(made.exitCode, 0);
+    const ToolRun shown = runBuiltTool({QStringLiteral("show"), hall, QStringLiteral("--json")});
+    QCOMPARE(shown.errors, QString());
+    QCOMPARE(shown.exitCode, 0);
+    putFile(text, shown.output.toUtf8());
+    QCOMPARE(runBuiltTool({QStringLiteral("make"), text, QStringLiteral("-o"), again}).exitCode, 0);
+    QCOMPARE(fileAt(again), fileAt(hall));
+    const ToolRun planned = runBuiltTool({QStringLiteral("plan"), hall});
+    QCOMPARE(planned.errors, QString());
+    QCOMPARE(planned.exitCode, 0);
+}
+
+void TestToolProgram::whatCannotBeReadIsOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    const QString none = QStringLiteral("none");
+    QTest::newRow("show") << QStringList{QStringLiteral("show"), none};
+    QTest::newRow("show a folder") << QStringList{QStringLiteral("show"), QStringLiteral("/")};
+    QTest::newRow("plan") << QStringList{QStringLiteral("plan"), none};
+    QTest::newRow("make") << QStringList{QStringLiteral("make"), none, QStringLiteral("-o"), none};
+}
+
+void TestToolProgram::whatCannotBeReadIsOneLine()
+{
+    QFETCH(const QStringList, arguments);
+    const ToolRun run = runBuiltTool(arguments);
+    QCOMPARE(run.exitCode, 3);
+    QCOMPARE(run.output, QString());
     QVERIFY2(isOneLine(run.errors), qPrintable(run.errors));
 }
 

@@ -74,7 +74,8 @@ QJsonArray JsonFields::list(const QString& key)
 QStringList JsonFields::texts(const QString& key)
 {
     QStringList texts;
-    for (const QJsonValue& item : list(key)) {
+    const QJsonArray items = list(key);
+    for (const QJsonValue item : items) {
         if (!item.isString()) {
             fault(key, QStringLiteral("not all of these are texts"));
             return {};

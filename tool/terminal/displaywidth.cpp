@@ -39,6 +39,13 @@ int widthOf(char32_t letter)
     }
 }
 
+/// Whether every letter takes one column and none acts on a terminal, as in most texts of a hall.
+bool isPlain(const QString& text)
+{
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar letter) { return letter >= u' ' && letter <= u'~'; });
+}
+
 bool actsOnTerminal(char32_t letter)
 {
     switch (QChar::category(letter)) {
@@ -73,6 +80,9 @@ qsizetype fitting(const QList<uint>& letters, qsizetype begin, int width)
 
 int displayWidth(const QString& text)
 {
+    if (isPlain(text)) {
+        return int(text.size());
+    }
     int width = 0;
     for (const uint letter : text.toUcs4()) {
         width += widthOf(letter);
@@ -82,6 +92,9 @@ int displayWidth(const QString& text)
 
 QString printable(const QString& text)
 {
+    if (isPlain(text)) {
+        return text;
+    }
     QString shown;
     for (const uint letter : text.toUcs4()) {
         shown += actsOnTerminal(letter)
@@ -93,6 +106,9 @@ QString printable(const QString& text)
 
 QStringList wrapped(const QString& text, int width)
 {
+    if (displayWidth(text) <= width) {
+        return {text};
+    }
     const QList<uint> letters = text.toUcs4();
     QStringList lines;
     qsizetype begin = 0;

@@ -125,6 +125,7 @@ private Q_SLOTS:
     void contentComesBack();
     void fileOfAPlainDataStreamIsRead();
     void sameContentIsTheSameBytes();
+    void theScreensResolutionChangesNoByte();
     void fileCutAtEveryLengthKeepsWhatIsWhole();
     void flippedBytesNeverBreakTheReader();
     void textLongerThanTheFileIsRefused_data();
@@ -190,6 +191,20 @@ void TestResumeFile::fileOfAPlainDataStreamIsRead()
     QCOMPARE(read->scenes.first().thumbnail.size(), QSize(64, 64));
     QCOMPARE(read->scenes.last().number, -1);
     QCOMPARE(read->scenes.last().thumbnail.size(), QSize(256, 256));
+}
+
+void TestResumeFile::theScreensResolutionChangesNoByte()
+{
+    QImage image = picture(Qt::green, {64, 64}).toImage();
+    QByteArray first;
+    for (const int dotsPerMeter : {2835, 3780, 7559}) {
+        image.setDotsPerMeterX(dotsPerMeter);
+        image.setDotsPerMeterY(dotsPerMeter);
+        const SceneInfo scene{1, QStringLiteral("1/2"), QPixmap::fromImage(image)};
+        const QByteArray bytes = packResumeFile({QString(), {scene}});
+        first = first.isEmpty() ? bytes : first;
+        QCOMPARE(bytes, first);
+    }
 }
 
 void TestResumeFile::sameContentIsTheSameBytes()

@@ -106,7 +106,7 @@ void TestPlanCommand::oneHubCanBeNamed()
     QCOMPARE(hubs.at(0)[QStringLiteral("address")].toString(), QStringLiteral("127.0.1.3"));
     const QJsonArray requests = hubs.at(0)[QStringLiteral("requests")].toArray();
     QStringList kinds;
-    for (const QJsonValue& request : requests) {
+    for (const QJsonValue request : requests) {
         kinds.append(request[QStringLiteral("kind")].toString());
     }
     QCOMPARE(kinds.join(u' '),
@@ -141,7 +141,7 @@ void TestPlanCommand::theBodiesAreThoseOfAnInstallation()
         QJsonDocument::fromJson(run.output.toUtf8())[QStringLiteral("hubs")][0];
     QCOMPARE(planned[QStringLiteral("address")].toString(), hub);
     QList<QByteArray> bodies;
-    for (const QJsonValue& request : planned[QStringLiteral("requests")].toArray()) {
+    for (const QJsonValue request : planned[QStringLiteral("requests")].toArray()) {
         bodies.append(fileAt(path("bodies/") + request[QStringLiteral("file")].toString()));
         QCOMPARE(request[QStringLiteral("bytes")].toInteger(), bodies.last().size());
     }
@@ -165,7 +165,7 @@ void TestPlanCommand::aFolderThatCannotBeMadeIsTold()
 void TestPlanCommand::addressesOfAFileLeaveTheFolderNot()
 {
     QByteArray text =
-        changed(sampleHallText(), "\"address\": \"127.0.1.1\"", "\"address\": \"../../up\"");
+        changed(sampleHallText(), "\"address\": \"127.0.1.1\"", "\"address\": \"../../../up\"");
     text = changed(text, "02:1A:FF:00:00:05", "../../mac/../..");
     plan(text, {QStringLiteral("--files"), path("inside/bodies")});
     QDirIterator files(m_folder.path(), QDir::Files, QDirIterator::Subdirectories);

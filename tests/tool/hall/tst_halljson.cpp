@@ -21,7 +21,7 @@ struct OddHall
     void (*change)(DocumentData& hall);
 };
 
-const OddHall oddHalls[] = {
+constexpr OddHall oddHalls[] = {
     {"nothing at all", [](DocumentData& hall) { hall = DocumentData(); }},
     {"no sets and presets yet",
      [](DocumentData& hall) {
