@@ -232,7 +232,8 @@ void TestWalkCommand::secondInterruptionLeaves()
     tool.interrupt();
     QVERIFY(tool.hasSaid(QStringLiteral("interrupted: ")));
     tool.interrupt();
-    QCOMPARE(tool.ended().exitCode, -1);
+    tool.ended();
+    QVERIFY(tool.isKilled());
     QCOMPARE(hall.device(stage)->currentPreset(), 1);
 }
 
