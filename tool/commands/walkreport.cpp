@@ -44,11 +44,11 @@ QJsonObject layoutObject(const WalkResult& result, const SceneInfo& layout)
         const std::optional<int> preset = readOf(result, layout, hub);
         hubs.append(QJsonObject{{QStringLiteral("address"), hub.ipAddress},
                                 {QStringLiteral("preset"), value(preset)},
-                                {QStringLiteral("isRight"), preset == layout.number}});
+                                {QStringLiteral("ok"), preset == layout.number}});
     }
     return {{QStringLiteral("number"), layout.number},
             {QStringLiteral("rooms"), layout.roomGroup},
-            {QStringLiteral("isReached"), isReached(result, layout)},
+            {QStringLiteral("reached"), isReached(result, layout)},
             {QStringLiteral("hubs"), hubs}};
 }
 
@@ -91,7 +91,7 @@ QJsonObject walkObject(const WalkResult& result)
         layouts.append(layoutObject(result, layout));
     }
     return {{QStringLiteral("begun"), result.begun.toString(Qt::ISODate)},
-            {QStringLiteral("isRight"), isWalkRight(result)},
+            {QStringLiteral("ok"), isWalkRight(result)},
             {QStringLiteral("hubs"), hubs},
             {QStringLiteral("layouts"), layouts}};
 }

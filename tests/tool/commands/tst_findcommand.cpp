@@ -83,8 +83,8 @@ void TestFindCommand::whatADeviceTellsIsListedAndAllIsWell()
     QCOMPARE(text(found, "model"), QStringLiteral("PX-HB"));
     QCOMPARE(text(found, "firmware"), QStringLiteral("2.1.0"));
     QCOMPARE(text(found, "mac"), QStringLiteral("02:00:00:00:00:01"));
-    QCOMPARE(text(found, "serialNumber"), QStringLiteral("H1"));
-    QCOMPARE(found.value(QLatin1String("currentPreset")).toInt(-1), 0);
+    QCOMPARE(text(found, "serial"), QStringLiteral("H1"));
+    QCOMPARE(found.value(QLatin1String("preset")).toInt(-1), 0);
     QCOMPARE(text(found, "verdict"), QStringLiteral("taken"));
     const QJsonObject side = run.object().value(QLatin1String("interface")).toObject();
     QCOMPARE(text(side, "name"), QStringLiteral("wizard"));
@@ -155,7 +155,7 @@ void TestFindCommand::secondPortNamesItsHubAndIsNoFault()
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(text(device(run, QStringLiteral("10.54.2.1")), "verdict"), QStringLiteral("taken"));
     QCOMPARE(text(device(run, hub), "verdict"), QStringLiteral("second-port"));
-    QCOMPARE(text(device(run, hub), "otherAddress"), QStringLiteral("10.54.2.1"));
+    QCOMPARE(text(device(run, hub), "other"), QStringLiteral("10.54.2.1"));
 }
 
 void TestFindCommand::nobodyAnswering()
@@ -214,7 +214,7 @@ void TestFindCommand::whatAnswersTextCommandsOnlyIsNotJudged()
         run.object().value(QLatin1String("probes")).toArray().first().toObject();
     QCOMPARE(text(probe, "label"), QStringLiteral("Stage"));
     QCOMPARE(text(probe, "firmware"), QStringLiteral("1.0"));
-    QCOMPARE(text(probe, "serialNumber"), QStringLiteral("H1"));
+    QCOMPARE(text(probe, "serial"), QStringLiteral("H1"));
     QVERIFY(!probe.contains(QLatin1String("verdict")));
     QVERIFY(run.object().value(QLatin1String("devices")).toArray().isEmpty());
 }

@@ -152,7 +152,7 @@ void TestWalkCommand::resultIsKept()
     QCOMPARE(object, QJsonDocument::fromJson(run.output.toUtf8()).object());
     QVERIFY(QDateTime::fromString(object.value(QLatin1String("begun")).toString(), Qt::ISODate)
                 .isValid());
-    QVERIFY(!object.value(QLatin1String("isRight")).toBool(true));
+    QVERIFY(!object.value(QLatin1String("ok")).toBool(true));
     const QJsonObject hub = object.value(QLatin1String("hubs")).toArray().at(0).toObject();
     QCOMPARE(hub.value(QLatin1String("before")).toInt(), 3);
     QCOMPARE(hub.value(QLatin1String("restored")).toInt(), 3);
@@ -160,7 +160,7 @@ void TestWalkCommand::resultIsKept()
     QCOMPARE(layout.value(QLatin1String("rooms")).toString(), QStringLiteral("1+2/3"));
     const QJsonArray hubs = layout.value(QLatin1String("hubs")).toArray();
     QCOMPARE(hubs.at(0).toObject().value(QLatin1String("preset")).toInt(), 2);
-    QVERIFY(hubs.at(0).toObject().value(QLatin1String("isRight")).toBool());
+    QVERIFY(hubs.at(0).toObject().value(QLatin1String("ok")).toBool());
     QVERIFY(hubs.at(1).toObject().value(QLatin1String("preset")).isNull());
 }
 
