@@ -30,13 +30,6 @@ std::optional<int> readOf(const WalkResult& result, const SceneInfo& layout, con
     return presetOf(result.walk.read(layout.number).value_or(HallWalk::Reading()), hub);
 }
 
-bool isRight(const WalkResult& result, const SceneInfo& layout)
-{
-    return std::all_of(result.hubs.begin(), result.hubs.end(), [&](const DeviceData& hub) {
-        return readOf(result, layout, hub) == layout.number;
-    });
-}
-
 QJsonObject layoutObject(const WalkResult& result, const SceneInfo& layout)
 {
     QJsonArray hubs;
@@ -96,6 +89,13 @@ QJsonObject walkObject(const WalkResult& result)
             {QStringLiteral("layouts"), layouts}};
 }
 
+qsizetype rightHubCount(const WalkResult& result, const SceneInfo& layout)
+{
+    return std::count_if(result.hubs.begin(), result.hubs.end(), [&](const DeviceData& hub) {
+        return readOf(result, layout, hub) == layout.number;
+    });
+}
+
 QString walkWords(const WalkResult& result, const SceneInfo& layout, const DeviceData& hub)
 {
     return isReached(result, layout) ? readBackWords(readOf(result, layout, hub), layout.number)
@@ -105,7 +105,9 @@ QString walkWords(const WalkResult& result, const SceneInfo& layout, const Devic
 bool isWalkRight(const WalkResult& result)
 {
     return std::all_of(result.layouts.begin(), result.layouts.end(),
-                       [&result](const SceneInfo& layout) { return isRight(result, layout); });
+                       [&result](const SceneInfo& layout) {
+                           return rightHubCount(result, layout) == result.hubs.size();
+                       });
 }
 
 QStringList restoreFaults(const WalkResult& result)
@@ -118,8 +120,9 @@ QStringList restoreFaults(const WalkResult& result)
                                          "none was recalled again")
                               .arg(hubName(hub)));
         } else if (*before != 0 && presetOf(result.walk.restored(), hub) != before) {
-            faults.append(QStringLiteral("%1: preset %2 was active before and is not again")
-                              .arg(hubName(hub), QString::number(*before)));
+            faults.append(QStringLiteral("%1: preset %2 was active before and is not again: %3")
+                              .arg(hubName(hub), QString::number(*before),
+                                   readBackWords(presetOf(result.walk.restored(), hub), *before)));
         }
     }
     return faults;

@@ -21,7 +21,7 @@ QByteArray hallOf(const QByteArray& hubs, const QByteArray& peripherals = "[]",
 const QByteArray oneHub = hallOf(R"([{"label": "Stage", "version": "2.1.0", "serial": "H1",
                                       "mac": "02:00:00:00:00:01"}])");
 const QString hub = QStringLiteral("10.54.1.1");
-const QString find = QStringLiteral("tesselctl find --wait 0.4 --json ");
+const QString find = QStringLiteral("tesselctl find --wait 1 --json ");
 
 QJsonObject device(const NetworkRun& run, const QString& address)
 {
@@ -96,7 +96,7 @@ void TestFindCommand::tablesKeepToEightyColumns()
     const NetworkRun run = runBesideHall(
         hallOf(R"([{"label": "A label as long as labels of a hall can be", "version": "1.0.0"}])",
                "3"),
-        QStringLiteral("tesselctl find --wait 0.4 --probe 10.54.0.77"));
+        QStringLiteral("tesselctl find --wait 1 --probe 10.54.0.77"));
     QCOMPARE(run.exitCode, 1);
     for (const QString& line : run.output.split(u'\n')) {
         QVERIFY2(line.size() <= terminalWidth, qPrintable(line));

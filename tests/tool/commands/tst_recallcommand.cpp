@@ -14,7 +14,7 @@ const QString stage = QStringLiteral("127.32.1.1");
 const QString gallery = QStringLiteral("127.32.1.2");
 
 // Enough for a hub that never will be there; those that are, end the wait themselves.
-const QString shortWait = QStringLiteral("--wait=0.1");
+const QString shortWait = QStringLiteral("--wait=1");
 
 } // namespace
 
