@@ -83,13 +83,12 @@ void DeviceDetector::deviceInfoReceived()
     found->version = receiver->version();
     found->serialNumber = receiver->serialNumber();
     found->currentPreset = receiver->currentPreset();
-    const DetectedDevice device = *found;
-    Q_EMIT deviceIdentified(ipText);
-    if (isHub(device.modelName)) {
-        groupHub(device);
+    if (isHub(found->modelName)) {
+        groupHub(*found);
     } else {
         Q_EMIT deviceDetected(ipText);
     }
+    Q_EMIT deviceIdentified(ipText);
 }
 
 QNetworkAddressEntry DeviceDetector::localEntry() const

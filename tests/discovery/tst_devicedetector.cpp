@@ -4,6 +4,7 @@
 #include "testcase.h"
 
 #include <QNetworkAddressEntry>
+#include <QNetworkDatagram>
 #include <QTest>
 
 #include <functional>
@@ -36,6 +37,9 @@ private Q_SLOTS:
     void withoutAnInterfaceNothingIsFound();
     void aTakenPortFindsNothing();
     void detectingAgainKeepsTheSocket();
+    void whoAnswersAndWhoTellsAnIdentityIsToldToo();
+    void oneAddressAloneIsAskedTheSameQuery();
+    void itListensOnceAPortWasToBeHad();
     void destroyingTheDetectorInTheMiddleIsHarmless();
     void theFirstIpv4EntryIsTheLocalAddress();
 };
@@ -343,6 +347,48 @@ void TestDeviceDetector::detectingAgainKeepsTheSocket()
     QCOMPARE(search.detector.findChildren<QUdpSocket*>(), sockets);
     waitForControlDevice(search);
     QCOMPARE(search.spy.size(), 1);
+}
+
+void TestDeviceDetector::whoAnswersAndWhoTellsAnIdentityIsToldToo()
+{
+    SimpleDevice told(address(1), "PX-DL5", "S1", 1);
+    SimpleDevice mute(address(2), "PX-DL5", "S2", 2);
+    QVERIFY(told.open() && mute.open());
+    mute.commands().switchOff();
+    Search search;
+    const QSignalSpy answered(&search.detector, SIGNAL(deviceAnswered(QString)));
+    const QSignalSpy identified(&search.detector, SIGNAL(deviceIdentified(QString)));
+    answer(mute);
+    QTRY_COMPARE(answered.size(), 1);
+    answer(told);
+    QTRY_COMPARE(identified.size(), 1);
+    QCOMPARE(answered.first(), QVariantList{address(2)});
+    QCOMPARE(answered.last(), QVariantList{address(1)});
+    QCOMPARE(identified.first(), QVariantList{address(1)});
+}
+
+void TestDeviceDetector::oneAddressAloneIsAskedTheSameQuery()
+{
+    QUdpSocket asked;
+    QVERIFY(asked.bind(QHostAddress(address(1)), DeviceDetector::port));
+    Search search;
+    search.detector.ask(address(1));
+    QTRY_VERIFY(asked.hasPendingDatagrams());
+    const QNetworkDatagram datagram = asked.receiveDatagram();
+    QCOMPARE(datagram.data(), buildDiscoveryQuery(wizard, 0, 0));
+    QCOMPARE(datagram.senderPort(), int(DeviceDetector::port));
+}
+
+void TestDeviceDetector::itListensOnceAPortWasToBeHad()
+{
+    QUdpSocket occupant;
+    QVERIFY(occupant.bind(QHostAddress(wizard), DeviceDetector::port));
+    const Search inVain;
+    QVERIFY(!inVain.detector.isListening());
+    occupant.close();
+    const Search search;
+    QVERIFY(search.detector.isListening());
+    QVERIFY(!DeviceDetector(nullptr, loopbackIndex()).isListening());
 }
 
 void TestDeviceDetector::destroyingTheDetectorInTheMiddleIsHarmless()

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void recallNumber();
     void currentPresetNumber_data();
     void currentPresetNumber();
+    void refusedConnectionIsToldAndASilentOneIsNot();
     void startingTwiceSendsOnce();
     void everyPeerMisbehaviourLeavesTheSendersSilent();
 };
@@ -205,6 +206,24 @@ void TestTextCommands::currentPresetNumber()
         numbers += arguments.last().toInt();
     }
     QTEST(numbers, "numbers");
+}
+
+void TestTextCommands::refusedConnectionIsToldAndASilentOneIsNot()
+{
+    CurrentPresetSender refused(QHostAddress(QStringLiteral("127.30.2.99")), nullptr);
+    const QSignalSpy refusals(&refused, SIGNAL(connectionRefused()));
+    refused.start();
+    QTRY_COMPARE(refusals.size(), 1);
+
+    TextPeer peer(QStringLiteral("127.30.2.98"));
+    QVERIFY(peer.listen());
+    CurrentPresetSender other(peer.hostAddress(), nullptr);
+    const QSignalSpy otherRefusals(&other, SIGNAL(connectionRefused()));
+    other.start();
+    QTRY_COMPARE(peer.lines(), 1);
+    peer.hangUp();
+    QTRY_VERIFY(isClosed(other));
+    QCOMPARE(otherRefusals.size(), 0);
 }
 
 void TestTextCommands::startingTwiceSendsOnce()

@@ -38,6 +38,12 @@ void LiveToolRun::interrupt()
     ::kill(static_cast<pid_t>(m_program.processId()), SIGINT);
 }
 
+bool LiveToolRun::isKilled() const
+{
+    return m_program.state() == QProcess::NotRunning &&
+           m_program.exitStatus() == QProcess::CrashExit;
+}
+
 ToolRun LiveToolRun::ended()
 {
     const bool isOver =

@@ -21,6 +21,9 @@ public:
     /// Waits for its end.
     ToolRun ended();
 
+    /// Whether a signal ended it.
+    bool isKilled() const;
+
 private:
     QProcess m_program;
     QString m_said;

@@ -98,13 +98,13 @@ QJsonObject deviceObject(const JudgedDevice& device)
             {QStringLiteral("model"), told.modelName},
             {QStringLiteral("label"), told.deviceName},
             {QStringLiteral("firmware"), told.version},
-            {QStringLiteral("serialNumber"), told.serialNumber},
-            {QStringLiteral("deviceId"), told.deviceId},
-            {QStringLiteral("currentPreset"), presetValue(told.currentPreset)},
+            {QStringLiteral("serial"), told.serialNumber},
+            {QStringLiteral("id"), told.deviceId},
+            {QStringLiteral("preset"), presetValue(told.currentPreset)},
             {QStringLiteral("verdict"), verdictName(device.verdict)},
             {QStringLiteral("reason"), verdictWords(device)},
-            {QStringLiteral("neededFirmware"), device.neededFirmware},
-            {QStringLiteral("otherAddress"), device.otherAddress}};
+            {QStringLiteral("needs"), device.neededFirmware},
+            {QStringLiteral("other"), device.otherAddress}};
 }
 
 QJsonObject probeObject(const Probe& probe)
@@ -114,9 +114,9 @@ QJsonObject probeObject(const Probe& probe)
             {QStringLiteral("reason"), resultWords(probe)},
             {QStringLiteral("label"), probe.label},
             {QStringLiteral("firmware"), probe.version},
-            {QStringLiteral("serialNumber"), probe.serialNumber},
-            {QStringLiteral("deviceId"), probe.deviceId},
-            {QStringLiteral("currentPreset"), presetValue(probe.currentPreset)}};
+            {QStringLiteral("serial"), probe.serialNumber},
+            {QStringLiteral("id"), probe.deviceId},
+            {QStringLiteral("preset"), presetValue(probe.currentPreset)}};
 }
 
 QJsonObject sideObject(const InterfaceChoice& side)

@@ -64,7 +64,7 @@ QJsonObject objectOf(const Recall& recall)
             QJsonObject{{QStringLiteral("address"), hub.ipAddress},
                         {QStringLiteral("label"), hub.label},
                         {QStringLiteral("preset"), preset ? QJsonValue(*preset) : QJsonValue()},
-                        {QStringLiteral("isRight"), preset == recall.layout}});
+                        {QStringLiteral("ok"), preset == recall.layout}});
     }
     return {{QStringLiteral("layout"), recall.layout}, {QStringLiteral("hubs"), hubs}};
 }

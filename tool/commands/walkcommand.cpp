@@ -52,10 +52,9 @@ bool isAgreedTo(const DocumentData& hall, Terminal& terminal)
     terminal.say(
         QStringLiteral("%1 layouts will be recalled on %2 hubs, one after the other.")
             .arg(QString::number(hall.scenes.size()), QString::number(placedHubs(hall).size())));
-    terminal.say(QStringLiteral("Whoever is in the hall hears it: with each layout microphones and "
-                                "loudspeakers"));
-    terminal.say(QStringLiteral("switch to other rooms, and the sound is interrupted. Begin? "
-                                "(y/n)"));
+    terminal.say(QStringLiteral("Whoever is in the hall hears it: microphones and loudspeakers"));
+    terminal.say(QStringLiteral("switch to other rooms, and the sound is interrupted."));
+    terminal.say(QStringLiteral("Begin? (y/n)"));
     QFile input;
     if (!terminal.flush() || !input.open(stdin, QIODevice::ReadOnly)) {
         return false;

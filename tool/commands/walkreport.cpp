@@ -30,13 +30,6 @@ std::optional<int> readOf(const WalkResult& result, const SceneInfo& layout, con
     return presetOf(result.walk.read(layout.number).value_or(HallWalk::Reading()), hub);
 }
 
-bool isRight(const WalkResult& result, const SceneInfo& layout)
-{
-    return std::all_of(result.hubs.begin(), result.hubs.end(), [&](const DeviceData& hub) {
-        return readOf(result, layout, hub) == layout.number;
-    });
-}
-
 QJsonObject layoutObject(const WalkResult& result, const SceneInfo& layout)
 {
     QJsonArray hubs;
@@ -44,11 +37,11 @@ QJsonObject layoutObject(const WalkResult& result, const SceneInfo& layout)
         const std::optional<int> preset = readOf(result, layout, hub);
         hubs.append(QJsonObject{{QStringLiteral("address"), hub.ipAddress},
                                 {QStringLiteral("preset"), value(preset)},
-                                {QStringLiteral("isRight"), preset == layout.number}});
+                                {QStringLiteral("ok"), preset == layout.number}});
     }
     return {{QStringLiteral("number"), layout.number},
             {QStringLiteral("rooms"), layout.roomGroup},
-            {QStringLiteral("isReached"), isReached(result, layout)},
+            {QStringLiteral("reached"), isReached(result, layout)},
             {QStringLiteral("hubs"), hubs}};
 }
 
@@ -91,9 +84,16 @@ QJsonObject walkObject(const WalkResult& result)
         layouts.append(layoutObject(result, layout));
     }
     return {{QStringLiteral("begun"), result.begun.toString(Qt::ISODate)},
-            {QStringLiteral("isRight"), isWalkRight(result)},
+            {QStringLiteral("ok"), isWalkRight(result)},
             {QStringLiteral("hubs"), hubs},
             {QStringLiteral("layouts"), layouts}};
+}
+
+qsizetype rightHubCount(const WalkResult& result, const SceneInfo& layout)
+{
+    return std::count_if(result.hubs.begin(), result.hubs.end(), [&](const DeviceData& hub) {
+        return readOf(result, layout, hub) == layout.number;
+    });
 }
 
 QString walkWords(const WalkResult& result, const SceneInfo& layout, const DeviceData& hub)
@@ -105,7 +105,9 @@ QString walkWords(const WalkResult& result, const SceneInfo& layout, const Devic
 bool isWalkRight(const WalkResult& result)
 {
     return std::all_of(result.layouts.begin(), result.layouts.end(),
-                       [&result](const SceneInfo& layout) { return isRight(result, layout); });
+                       [&result](const SceneInfo& layout) {
+                           return rightHubCount(result, layout) == result.hubs.size();
+                       });
 }
 
 QStringList restoreFaults(const WalkResult& result)
@@ -118,8 +120,9 @@ QStringList restoreFaults(const WalkResult& result)
                                          "none was recalled again")
                               .arg(hubName(hub)));
         } else if (*before != 0 && presetOf(result.walk.restored(), hub) != before) {
-            faults.append(QStringLiteral("%1: preset %2 was active before and is not again")
-                              .arg(hubName(hub), QString::number(*before)));
+            faults.append(QStringLiteral("%1: preset %2 was active before and is not again: %3")
+                              .arg(hubName(hub), QString::number(*before),
+                                   readBackWords(presetOf(result.walk.restored(), hub), *before)));
         }
     }
     return faults;

@@ -24,6 +24,9 @@ QJsonObject walkObject(const WalkResult& result);
 /// What was read back from one hub for one layout, in words.
 QString walkWords(const WalkResult& result, const SceneInfo& layout, const DeviceData& hub);
 
+/// On how many hubs the layout was active when they were read back.
+qsizetype rightHubCount(const WalkResult& result, const SceneInfo& layout);
+
 /// Whether every layout was read back from every hub, and nothing was left out.
 bool isWalkRight(const WalkResult& result);
 

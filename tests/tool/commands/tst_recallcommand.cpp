@@ -14,7 +14,7 @@ const QString stage = QStringLiteral("127.32.1.1");
 const QString gallery = QStringLiteral("127.32.1.2");
 
 // Enough for a hub that never will be there; those that are, end the wait themselves.
-const QString shortWait = QStringLiteral("--wait=0.1");
+const QString shortWait = QStringLiteral("--wait=1");
 
 } // namespace
 
@@ -68,11 +68,11 @@ void TestRecallCommand::jsonTellsWhatWasReadBack()
     const QJsonArray expected{QJsonObject{{QStringLiteral("address"), stage},
                                           {QStringLiteral("label"), QStringLiteral("Stage")},
                                           {QStringLiteral("preset"), 3},
-                                          {QStringLiteral("isRight"), true}},
+                                          {QStringLiteral("ok"), true}},
                               QJsonObject{{QStringLiteral("address"), gallery},
                                           {QStringLiteral("label"), QStringLiteral("Gallery")},
                                           {QStringLiteral("preset"), QJsonValue()},
-                                          {QStringLiteral("isRight"), false}}};
+                                          {QStringLiteral("ok"), false}}};
     QCOMPARE(object.value(QLatin1String("layout")).toInt(), 3);
     QCOMPARE(object.value(QLatin1String("hubs")).toArray(), expected);
 }

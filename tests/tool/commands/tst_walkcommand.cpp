@@ -18,7 +18,7 @@ const QString gallery = QStringLiteral("127.33.1.2");
 const QString walk = QStringLiteral("walk");
 const QString yes = QStringLiteral("--yes");
 const QString atOnce = QStringLiteral("--settle=0");
-const QString shortWait = QStringLiteral("--wait=0.1");
+const QString shortWait = QStringLiteral("--wait=1");
 
 /// So long that nothing comes of it while a test runs.
 const QString longSettle = QStringLiteral("--settle=600");
@@ -87,8 +87,7 @@ void TestWalkCommand::everyLayoutIsReadBackAndTheOldPresetIsActiveAgain()
     QCOMPARE(recalls(hall.device(stage)).join(u' '), QStringLiteral("1 2 3 2"));
     QCOMPARE(recalls(hall.device(gallery)).join(u' '), QStringLiteral("1 2 3 2"));
     QCOMPARE(hall.device(stage)->currentPreset(), 2);
-    QVERIFY2(run.errors.contains(QStringLiteral(
-                 "tesselctl: layout 3: Stage (127.33.1.1) ok, Gallery (127.33.1.2) ok\n")),
+    QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: layout 3: active on 2 of 2 hubs\n")),
              qPrintable(run.errors));
     QCOMPARE(hall.differences(), QStringList());
 }
@@ -152,7 +151,7 @@ void TestWalkCommand::resultIsKept()
     QCOMPARE(object, QJsonDocument::fromJson(run.output.toUtf8()).object());
     QVERIFY(QDateTime::fromString(object.value(QLatin1String("begun")).toString(), Qt::ISODate)
                 .isValid());
-    QVERIFY(!object.value(QLatin1String("isRight")).toBool(true));
+    QVERIFY(!object.value(QLatin1String("ok")).toBool(true));
     const QJsonObject hub = object.value(QLatin1String("hubs")).toArray().at(0).toObject();
     QCOMPARE(hub.value(QLatin1String("before")).toInt(), 3);
     QCOMPARE(hub.value(QLatin1String("restored")).toInt(), 3);
@@ -160,7 +159,7 @@ void TestWalkCommand::resultIsKept()
     QCOMPARE(layout.value(QLatin1String("rooms")).toString(), QStringLiteral("1+2/3"));
     const QJsonArray hubs = layout.value(QLatin1String("hubs")).toArray();
     QCOMPARE(hubs.at(0).toObject().value(QLatin1String("preset")).toInt(), 2);
-    QVERIFY(hubs.at(0).toObject().value(QLatin1String("isRight")).toBool());
+    QVERIFY(hubs.at(0).toObject().value(QLatin1String("ok")).toBool());
     QVERIFY(hubs.at(1).toObject().value(QLatin1String("preset")).isNull());
 }
 
@@ -201,7 +200,7 @@ void TestWalkCommand::hubThatDoesNotGoBackIsNamed()
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: Gallery (127.33.1.2): preset 2 was "
-                                                "active before and is not again")),
+                                                "active before and is not again: on 3")),
              qPrintable(run.errors));
 }
 
@@ -232,7 +231,8 @@ void TestWalkCommand::secondInterruptionLeaves()
     tool.interrupt();
     QVERIFY(tool.hasSaid(QStringLiteral("interrupted: ")));
     tool.interrupt();
-    QCOMPARE(tool.ended().exitCode, -1);
+    tool.ended();
+    QVERIFY(tool.isKilled());
     QCOMPARE(hall.device(stage)->currentPreset(), 1);
 }
 

@@ -12,7 +12,7 @@ const QString second = QStringLiteral("127.31.1.2");
 
 // So long a wait ends a test as failed; where a hub never answers, a short one is enough.
 constexpr int patienceMs = 20000;
-constexpr int shortMs = 50;
+constexpr int shortMs = 500;
 
 /// Peripherals stand for hubs: they follow the recall of every number.
 HallDescription twoDevices()
