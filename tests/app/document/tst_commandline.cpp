@@ -275,7 +275,7 @@ void TestCommandLine::theLogIsTheArgumentBehindItsOption_data()
     row("-N:1", "", "", {});
     row("--log a.jsonl", "a.jsonl", "", {});
     row("--log a.jsonl hall.tessel", "a.jsonl", "hall.tessel", {});
-    row("hall.tessel --log /tmp/b.tessel", "/tmp/b.tessel", "hall.tessel", {});
+    row("hall.tessel --log /logs/b.tessel", "/logs/b.tessel", "hall.tessel", {});
     row("--log a.jsonl --log b.jsonl", "b.jsonl", "", {});
     row("--log /logs/a stray", "/logs/a", "", {QStringLiteral("stray")});
     row("--log", "", "", {QStringLiteral("--log")});
