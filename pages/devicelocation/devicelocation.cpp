@@ -256,7 +256,6 @@ void DeviceLocation::fill(DeviceTable* table, const QList<DeviceEntry>& devices,
         auto* combo = new RoomCombo(choices);
         combo->setRoom(roomOfAddress.value(table->addressOf(item)));
         combo->setToolTip(keys);
-        combo->setAccessibleDescription(keys);
         m_rows.append(decorate(table, item, combo));
     });
 }

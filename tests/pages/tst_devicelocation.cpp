@@ -334,7 +334,7 @@ void TestDeviceLocation::everyWidgetHasANameForScreenReaders()
     step.enter();
     QCOMPARE(step.combo(firstAddress)->accessibleName(), QStringLiteral("Room of dev-001"));
     // On some platforms screen readers hear the chosen text in place of the name.
-    QCOMPARE(step.combo(firstAddress)->accessibleDescription(), QStringLiteral("Room of dev-001"));
+    QVERIFY(step.combo(firstAddress)->accessibleDescription().startsWith(u"Room of dev-001"));
     QCOMPARE(step.pencil(step.hubs, firstAddress)->accessibleName(),
              QStringLiteral("Change name of dev-001"));
     const QList<QWidget*> named{step.hubs, step.peripherals, step.summary, step.picture,

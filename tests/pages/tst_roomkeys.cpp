@@ -223,7 +223,8 @@ void TestRoomKeys::theComboTellsOfTheKeys()
     QCOMPARE(combo->toolTip(),
              QStringLiteral("Ctrl+1 to Ctrl+3 choose the room, Ctrl+0 takes the device out of its "
                             "room; each goes on to the next device."));
-    QCOMPARE(combo->accessibleDescription(), combo->toolTip());
+    QCOMPARE(combo->accessibleDescription(),
+             QStringLiteral("Room of dev-001. ") + combo->toolTip());
 }
 
 TESSEL_TEST_MAIN(TestRoomKeys)

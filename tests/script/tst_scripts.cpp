@@ -165,7 +165,7 @@ void TestScripts::checkersComeWithTheirChecks_data()
 {
     QTest::addColumn<QString>("purpose");
     QTest::addColumn<QStringList>("packages");
-    QTest::newRow("check") << QStringLiteral("check") << words("clang-format clang-tidy git");
+    QTest::newRow("check") << QStringLiteral("check") << words("clang-format clang-tidy-22 git");
     QTest::newRow("fuzz") << QStringLiteral("fuzz") << words("clang libclang-rt-dev");
     QTest::newRow("bench") << QStringLiteral("bench") << words("libbenchmark-dev");
     QTest::newRow("display") << QStringLiteral("display") << words("xvfb");

@@ -11,7 +11,8 @@ ListComboBox::ListComboBox(QWidget* parent)
 void ListComboBox::setPurpose(const QString& purpose)
 {
     setAccessibleName(purpose);
-    setAccessibleDescription(purpose);
+    setAccessibleDescription(toolTip().isEmpty() ? purpose
+                                                 : purpose + QStringLiteral(". ") + toolTip());
 }
 
 void ListComboBox::wheelEvent(QWheelEvent* event)
