@@ -101,8 +101,11 @@ void TestPasswordMemory::initTestCase()
                   QStringLiteral("0"), QStringLiteral("--base"), address,
                   QStringLiteral("--export-polls"), QStringLiteral("0")});
     QByteArray said;
-    QTRY_VERIFY_WITH_TIMEOUT((said += m_hall.readAll()).contains("The hall is open"),
-                             longestWaitMs);
+    const auto isOpen = [&] {
+        said += m_hall.readAll();
+        return said.contains("The hall is open");
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isOpen(), longestWaitMs);
     m_before.emplace();
     if (!m_before->isTaken()) {
         QSKIP("This system lets nobody look into a program's memory");
