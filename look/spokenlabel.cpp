@@ -2,6 +2,8 @@
 
 #include "accessiblerole.h"
 
+#include <QShowEvent>
+
 SpokenLabel::SpokenLabel(QWidget* parent)
     : QLabel(parent)
 {
@@ -16,8 +18,7 @@ void SpokenLabel::say(const QString& newText)
     // A label without a name tells of each new text by itself. With the name first and the text
     // second, or the other way round where it ends, each change is told once.
     if (newText.isEmpty()) {
-        setText(newText);
-        setAccessibleName(newText);
+        forget();
         return;
     }
     tell(newText);
@@ -39,7 +40,22 @@ void SpokenLabel::announce(const QString& words)
 void SpokenLabel::showEvent(QShowEvent* event)
 {
     QLabel::showEvent(event);
-    tell(text());
+    if (event->spontaneous()) {
+        return;
+    }
+    const QString shown = text();
+    if (!accessibleName().isEmpty()) {
+        forget(); // or the same name would be taken for none, and another for this one
+    }
+    tell(shown);
+    setText(shown);
+}
+
+void SpokenLabel::forget()
+{
+    setText(QString());
+    setAccessibleName(QString());
+    m_announced.clear();
 }
 
 void SpokenLabel::tell(const QString& words)

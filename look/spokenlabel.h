@@ -6,7 +6,7 @@
 ///
 /// To them it is a status bar, and what it said last is its name: readers wait for such a name to
 /// change. Alerts are meant for this too, but Qt does not hand them on everywhere. While it is
-/// hidden it is silent; what it shows by then is read out when it comes to sight.
+/// hidden it is silent; what it shows by then is read out each time it comes to sight.
 class SpokenLabel : public QLabel
 {
     Q_OBJECT
@@ -26,6 +26,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void forget();
     void tell(const QString& words);
 
     QString m_announced; ///< last

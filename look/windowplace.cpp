@@ -37,11 +37,26 @@ bool WindowPlace::eventFilter(QObject* watched, QEvent* event)
 
 void WindowPlace::adjust()
 {
+    fit();
+    if (isFree()) {
+        bringInside();
+    }
+}
+
+/// Moves nothing: a window comes to another screen in the middle of a drag.
+void WindowPlace::fit()
+{
     setLimits();
     watchScreen();
-    if (!m_window->isMaximized() && !m_window->isFullScreen()) {
-        restore(m_window->size());
+    if (isFree()) {
+        m_window->resize(m_window->size().boundedTo(roomOnScreen(m_window)));
     }
+}
+
+/// Whether size and place are the window's own and not the screen's.
+bool WindowPlace::isFree() const
+{
+    return !m_window->isMaximized() && !m_window->isFullScreen();
 }
 
 /// A window as wide as its screen needs no frame at its sides; a title bar it has everywhere.
@@ -77,8 +92,7 @@ void WindowPlace::bringInside()
 void WindowPlace::watchScreen()
 {
     if (const QWindow* window = m_window->windowHandle()) {
-        connect(window, SIGNAL(screenChanged(QScreen*)), this, SLOT(adjust()),
-                Qt::UniqueConnection);
+        connect(window, SIGNAL(screenChanged(QScreen*)), this, SLOT(fit()), Qt::UniqueConnection);
         connect(window->screen(), SIGNAL(availableGeometryChanged(QRect)), this, SLOT(adjust()),
                 Qt::UniqueConnection);
     }

@@ -20,8 +20,10 @@ public:
 
 private Q_SLOTS:
     void adjust();
+    void fit();
 
 private:
+    bool isFree() const;
     QSize leastSize() const;
     void setLimits();
     void bringInside();

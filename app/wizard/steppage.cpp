@@ -3,6 +3,7 @@
 #include "ipagecontroller.h"
 #include "pagekeys.h"
 #include "pagescroll.h"
+#include "plaintooltip.h"
 #include "quietline.h"
 #include "stepcontent.h"
 
@@ -49,7 +50,7 @@ void StepPage::showMissing()
 {
     const QStringList missing = m_nextButton->isEnabled() ? QStringList() : m_content->missing();
     m_quietLine->say(missing);
-    m_nextButton->setToolTip(missing.isEmpty() ? nextKeyHint() : missing.join(u'\n'));
+    m_nextButton->setToolTip(missing.isEmpty() ? nextKeyHint() : plainToolTip(missing.join(u'\n')));
     m_nextButton->setAccessibleDescription(missing.join(u' '));
 }
 

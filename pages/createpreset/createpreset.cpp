@@ -1,5 +1,6 @@
 #include "createpreset.h"
 
+#include "plaintooltip.h"
 #include "presetqueries.h"
 #include "roomgrouplist.h"
 #include "textlabel.h"
@@ -49,7 +50,7 @@ void PresetNameEdit::resizeEvent(QResizeEvent* event)
 void PresetNameEdit::tellHiddenText()
 {
     const bool isWhole = fontMetrics().horizontalAdvance(text()) < width() - 2 * textMargin;
-    setToolTip(isWhole ? QString() : text());
+    setToolTip(isWhole ? QString() : plainToolTip(text()));
 }
 
 CreatePreset::CreatePreset(IDocAccessor* doc, QWidget* parent)

@@ -15,6 +15,8 @@ private Q_SLOTS:
     void announcesTheSameWordsAsOftenAsTheyCome();
     void showsWhatWasJustAnnouncedWithoutSayingItAgain();
     void saysWhatItShowsWhenItComesToSight();
+    void saysItAgainEachTimeItComesToSight();
+    void isNotNamedByWhatWasAnnouncedBeforeItWasHidden();
 };
 
 namespace {
@@ -120,8 +122,41 @@ void TestSpokenLabel::saysWhatItShowsWhenItComesToSight()
     QCOMPARE(Announcements::takeSaid(), QStringList());
     label.show();
     QCOMPARE(Announcements::takeSaid(), QStringList{two});
+}
+
+void TestSpokenLabel::saysItAgainEachTimeItComesToSight()
+{
+    const Announcements announcements;
+    if (!announcements.canHear()) {
+        QSKIP("This system has no ear for what screen readers are told.");
+    }
+    SpokenLabel label(nullptr);
+    label.show();
+    label.say(one);
+    Announcements::takeSaid();
+    Announcements::count(&label, QAccessible::NameChanged);
+    label.hide();
+    QCOMPARE(Announcements::takeSaid(), QStringList());
+    label.show();
+    QCOMPARE(Announcements::takeSaid(), QStringList{one});
+    // Between them the name was another, or a reader would take no notice.
+    QCOMPARE(Announcements::count(&label, QAccessible::NameChanged), 2);
+    QCOMPARE(label.text(), one);
+}
+
+void TestSpokenLabel::isNotNamedByWhatWasAnnouncedBeforeItWasHidden()
+{
+    const Announcements announcements;
+    if (!announcements.canHear()) {
+        QSKIP("This system has no ear for what screen readers are told.");
+    }
+    SpokenLabel label(nullptr);
+    label.show();
+    label.announce(one);
+    Announcements::takeSaid();
     label.hide();
     label.show();
+    QCOMPARE(nameOf(label), QString());
     QCOMPARE(Announcements::takeSaid(), QStringList());
 }
 

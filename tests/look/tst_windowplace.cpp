@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QTest>
 #include <QWidget>
+#include <QWindow>
 
 namespace {
 
@@ -37,6 +38,8 @@ private Q_SLOTS:
     void aSizeThatTheScreenHoldsIsRestored();
     void aLargerSizeIsBroughtBackWithinTheScreen();
     void aWindowBeyondTheEdgeComesBack();
+    void aWindowDraggedToAnotherScreenFitsItWithoutBeingMoved();
+    void aScreenThatBecomesAnotherHasTheWindowInside();
     void aMaximizedWindowStaysSo();
 };
 
@@ -100,6 +103,31 @@ void TestWindowPlace::aWindowBeyondTheEdgeComesBack()
         place.restore({500, 400});
         QVERIFY(screenOf(window).contains(window.frameGeometry()));
     }
+}
+
+void TestWindowPlace::aWindowDraggedToAnotherScreenFitsItWithoutBeingMoved()
+{
+    QWidget window;
+    new WindowPlace(&window, least, largest * 10);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QPoint place = screenOf(window).center();
+    window.move(place);
+    window.resize(screenOf(window).size() * 2);
+    Q_EMIT window.windowHandle()->screenChanged(window.screen());
+    QCOMPARE(window.size(), roomOnScreen(&window));
+    QCOMPARE(window.pos(), place);
+}
+
+void TestWindowPlace::aScreenThatBecomesAnotherHasTheWindowInside()
+{
+    QWidget window;
+    new WindowPlace(&window, least, largest);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.move(screenOf(window).center());
+    Q_EMIT window.screen()->availableGeometryChanged(screenOf(window));
+    QVERIFY(screenOf(window).contains(window.frameGeometry()));
 }
 
 void TestWindowPlace::aMaximizedWindowStaysSo()

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void worksWithTheKeyboardAlone();
     void theLayoutThatTabComesToIsInSight();
     void removingByKeyGoesOnInTheList();
+    void arrowsLeadFromRemoveToThatOfAnotherRow();
     void removingLeavesTheFocusElsewhereAlone();
     void nothingIsClippedAtTheSmallestWindow();
 };
@@ -411,6 +412,22 @@ void TestPageCreateScene::theLayoutThatTabComesToIsInSight()
         QCOMPARE(QApplication::focusWidget(), step.removeButton(row));
         QCOMPARE(step.tree->currentItem(), step.tree->topLevelItem(row));
         QVERIFY(step.isInSight(row));
+    }
+}
+
+void TestPageCreateScene::arrowsLeadFromRemoveToThatOfAnotherRow()
+{
+    Step step;
+    step.list(combinationsOfFour.mid(0, 3));
+    QVERIFY(step.activate());
+    step.removeButton(2)->setFocus(Qt::TabFocusReason);
+    const QList<std::pair<Qt::Key, int>> keys{{Qt::Key_Up, 1},   {Qt::Key_Up, 0},
+                                              {Qt::Key_Up, 0},   {Qt::Key_Down, 1},
+                                              {Qt::Key_Down, 2}, {Qt::Key_Down, 2}};
+    for (const auto& [key, row] : keys) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        QCOMPARE(QApplication::focusWidget(), step.removeButton(row));
+        QCOMPARE(step.tree->currentIndex().row(), row);
     }
 }
 

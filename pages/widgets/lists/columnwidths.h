@@ -12,16 +12,15 @@ class ColumnWidths : public QObject
 
 public:
     /// Belongs to `list`. `widths` are those of some columns, in pixels, for the usual font; the
-    /// others are as wide as they should be with the font that the list has now.
-    ColumnWidths(QTreeView* list, QMap<int, int> widths);
+    /// others are as wide as they should be with the font that the list has now. What the user
+    /// changes later stays changed.
+    ColumnWidths(QTreeView* list, const QMap<int, int>& widths);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void setWidths();
-    void scaleOthers(double factor);
+    void scale(double factor);
 
     QTreeView* m_list;
-    QMap<int, int> m_widths; ///< by column
-    double m_scale;          ///< of the font that the columns are for
+    double m_scale; ///< of the font that the columns are for
 };

@@ -2,8 +2,20 @@
 
 #include "focusmark.h"
 
+#include <QAbstractButton>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QTreeWidget>
+
+namespace {
+
+/// Buttons take these for Tab and Shift+Tab.
+bool isUpOrDown(int key)
+{
+    return key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
+} // namespace
 
 FocusedRow::FocusedRow(QTreeWidget* list)
     : QObject(list)
@@ -18,6 +30,11 @@ void FocusedRow::watch(QWidget* stop)
 
 bool FocusedRow::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::KeyPress && qobject_cast<QAbstractButton*>(watched) &&
+        isUpOrDown(static_cast<QKeyEvent*>(event)->key())) {
+        event->ignore(); // goes on to the list
+        return true;
+    }
     // Not by mouse: what is pressed must not move away under the pointer.
     if (event->type() == QEvent::FocusIn && isByKey(static_cast<QFocusEvent*>(event)->reason())) {
         show(static_cast<QWidget*>(watched));

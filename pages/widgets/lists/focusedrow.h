@@ -12,6 +12,8 @@ class QWidget;
 /// Lists do that themselves only for a widget that fills its cell, not for the parts that such a
 /// widget may consist of, and only while its row is not the current one yet. Without it Tab and
 /// Space would press what nobody sees.
+///
+/// Up and Down in a button are the list's.
 class FocusedRow : public QObject
 {
     Q_OBJECT

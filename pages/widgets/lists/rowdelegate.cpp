@@ -1,6 +1,7 @@
 #include "rowdelegate.h"
 
 #include "fontscale.h"
+#include "plaintooltip.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
@@ -38,7 +39,7 @@ bool RowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
         QToolTip::hideText();
         return false;
     }
-    QToolTip::showText(event->globalPos(), tip, view, option.rect);
+    QToolTip::showText(event->globalPos(), plainToolTip(tip), view, option.rect);
     return true;
 }
 

@@ -2,6 +2,8 @@
 
 #include "focusedrow.h"
 
+#include <QKeyEvent>
+
 #include <algorithm>
 
 namespace {
@@ -29,6 +31,18 @@ QWidget* firstOpen(const QList<QWidget*>& stops)
         return stop->isEnabled() && stop->isVisible();
     });
     return found == stops.end() ? nullptr : *found;
+}
+
+bool leadsOn(int key)
+{
+    return key >= Qt::Key_Home && key <= Qt::Key_PageDown; // the arrows lie between
+}
+
+bool isText(const QKeyEvent& event)
+{
+    const Qt::KeyboardModifiers command =
+        event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    return !command && !event.text().isEmpty() && event.text().at(0).isPrint();
 }
 
 } // namespace
@@ -69,6 +83,11 @@ void RowList::chain(QWidget* previous, QWidget* stop)
 
 void RowList::keyPressEvent(QKeyEvent* event)
 {
+    // Whatever else is pressed, as for copying, is meant for the cell that was clicked.
+    if (!leadsOn(event->key()) && !isText(*event)) {
+        QTreeWidget::keyPressEvent(event);
+        return;
+    }
     const QModelIndex cell = m_focusedRow->cellOf(window()->focusWidget());
     beginAt(cell.isValid() ? cell : currentIndex());
     QTreeWidget::keyPressEvent(event);

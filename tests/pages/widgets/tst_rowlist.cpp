@@ -3,6 +3,7 @@
 #include "testcase.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
@@ -81,6 +82,9 @@ private Q_SLOTS:
     void arrowsTakeTheFocusAlong();
     void arrowsBeginWhereTheFocusIs();
     void whereNothingTakesItTheFocusGoesToTheList();
+    void theClickedCellIsCopied();
+    void aModifierAloneMovesNothing_data();
+    void aModifierAloneMovesNothing();
 };
 
 void TestRowList::tabLeadsFromARowIntoTheWidgetsOfThatRow()
@@ -238,6 +242,39 @@ void TestRowList::whereNothingTakesItTheFocusGoesToTheList()
     press(Qt::Key_Down);
     QCOMPARE(window.currentRow(), 2);
     QCOMPARE(QApplication::focusWidget(), window.list);
+}
+
+void TestRowList::theClickedCellIsCopied()
+{
+    const Window window;
+    QTreeWidgetItem* row = window.list->topLevelItem(1);
+    window.list->removeItemWidget(row, fieldColumn);
+    row->setText(fieldColumn, QStringLiteral("192.168.1.7"));
+    const QPoint cell =
+        window.list->visualRect(window.list->indexFromItem(row, fieldColumn)).center();
+    QTest::mouseClick(window.list->viewport(), Qt::LeftButton, {}, cell);
+    QTest::keyClick(window.list, Qt::Key_Control);
+    QTest::keyClick(window.list, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("192.168.1.7"));
+}
+
+void TestRowList::aModifierAloneMovesNothing_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Ctrl") << Qt::Key_Control;
+    QTest::newRow("Shift") << Qt::Key_Shift;
+    QTest::newRow("Alt") << Qt::Key_Alt;
+}
+
+void TestRowList::aModifierAloneMovesNothing()
+{
+    QFETCH(const Qt::Key, key);
+    const Window window;
+    window.stand(1);
+    const QModelIndex cell = window.list->currentIndex().siblingAtColumn(fieldColumn);
+    window.list->setCurrentIndex(cell);
+    QTest::keyClick(window.list, key);
+    QCOMPARE(window.list->currentIndex(), cell);
 }
 
 TESSEL_TEST_MAIN(TestRowList)
