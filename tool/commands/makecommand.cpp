@@ -4,6 +4,7 @@
 #include "hallfaults.h"
 #include "hallfile.h"
 #include "halljson.h"
+#include "outputfile.h"
 #include "terminal.h"
 
 #include <QFile>
@@ -57,6 +58,15 @@ void tell(const QString& path, const QStringList& faults, Terminal& terminal)
     }
 }
 
+/// Why the hall must not be written there.
+QString faultOfOutput(const QString& path, const QString& input)
+{
+    return path.endsWith(u".tessel", Qt::CaseInsensitive)
+               ? outputFault(path, {input})
+               : path + QStringLiteral(": its name does not end in .tessel, and the wizard could "
+                                       "not open it");
+}
+
 } // namespace
 
 QString MakeCommand::name() const
@@ -82,8 +92,10 @@ CommandSyntax MakeCommand::syntax() const
 {
     return {{{QStringLiteral("FILE.json"), QStringLiteral("the hall as JSON")}},
             {{{output()},
-              QStringLiteral("the configuration file to write; required"),
-              QStringLiteral("FILE.tessel")},
+              QStringLiteral("the configuration file to write"),
+              QStringLiteral("FILE.tessel"),
+              false,
+              true},
              {{force()},
               QStringLiteral("writes it although the hall is faulty, as far as it can be "
                              "understood")}}};
@@ -91,11 +103,12 @@ CommandSyntax MakeCommand::syntax() const
 
 ExitCode MakeCommand::run(const Arguments& arguments, Terminal& terminal) const
 {
-    if (!arguments.has(output())) {
-        terminal.say(QStringLiteral("make: -o FILE.tessel is missing; see tesselctl make --help"));
+    const QString path = arguments.operand(0);
+    const QString misled = faultOfOutput(arguments.value(output()), path);
+    if (!misled.isEmpty()) {
+        terminal.say(misled);
         return ExitCode::WrongUsage;
     }
-    const QString path = arguments.operand(0);
     QByteArray text;
     const QString unreadable = readText(path, text);
     if (!unreadable.isEmpty()) {

@@ -1,3 +1,5 @@
+#include "arguments.h"
+#include "commandhelp.h"
 #include "commandrun.h"
 #include "hallfile.h"
 #include "makecommand.h"
@@ -6,6 +8,8 @@
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <sys/stat.h>
 
 /// `make`.
 class TestMakeCommand : public TestCase
@@ -19,9 +23,12 @@ private Q_SLOTS:
     void aFaultyHallIsWrittenWhenForced();
     void whatIsNoJsonIsNotForced();
     void withoutAnOutputItIsWrongUsage();
+    void anOutputThatTheWizardCouldNotOpenIsWrongUsage();
     void anInputThatCannotBeReadIsTold_data();
     void anInputThatCannotBeReadIsTold();
     void anOutputThatCannotBeWrittenIsTold();
+    void theInputIsNotOverwritten();
+    void aDeviceOrAFolderIsNotReplaced();
 
 private:
     QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
@@ -91,9 +98,22 @@ void TestMakeCommand::whatIsNoJsonIsNotForced()
 
 void TestMakeCommand::withoutAnOutputItIsWrongUsage()
 {
-    const CommandRun run = runCommand(MakeCommand(), {path("hall.json")});
+    const MakeCommand command;
+    const Arguments arguments(command.syntax(), {path("hall.json")});
+    QCOMPARE(arguments.fault(), QStringLiteral("-o FILE.tessel is missing"));
+    QCOMPARE(usageOf(command), QStringLiteral("tesselctl make FILE.json -o FILE.tessel [--force]"));
+}
+
+void TestMakeCommand::anOutputThatTheWizardCouldNotOpenIsWrongUsage()
+{
+    putFile(path("hall.json"), sampleHallText());
+    const CommandRun run =
+        runCommand(MakeCommand(), {path("hall.json"), QStringLiteral("-o"), path("hall.txt")});
     QCOMPARE(run.code, ExitCode::WrongUsage);
-    QVERIFY2(run.errors.contains(u"-o FILE.tessel is missing"), qPrintable(run.errors));
+    QCOMPARE(run.errors, QStringLiteral("tesselctl: %1: its name does not end in .tessel, and the "
+                                        "wizard could not open it\n")
+                             .arg(path("hall.txt")));
+    QVERIFY(!QFile::exists(path("hall.txt")));
 }
 
 void TestMakeCommand::anInputThatCannotBeReadIsTold_data()
@@ -131,6 +151,36 @@ void TestMakeCommand::anOutputThatCannotBeWrittenIsTold()
     QCOMPARE(run.code, ExitCode::CouldNotBeTried);
     QVERIFY2(run.errors.startsWith(QStringLiteral("tesselctl: %1: ").arg(output)),
              qPrintable(run.errors));
+}
+
+void TestMakeCommand::theInputIsNotOverwritten()
+{
+    putFile(path("own.tessel"), sampleHallText());
+    QVERIFY(QFile::link(path("own.tessel"), path("link.tessel")));
+    for (const char* name : {"own.tessel", "link.tessel"}) {
+        const CommandRun run =
+            runCommand(MakeCommand(), {path("own.tessel"), QStringLiteral("-o"), path(name)});
+        QCOMPARE(run.code, ExitCode::WrongUsage);
+        QCOMPARE(run.errors, QStringLiteral("tesselctl: %1: this is the file that is read; choose "
+                                            "another output\n")
+                                 .arg(path(name)));
+        QCOMPARE(fileAt(path("own.tessel")), sampleHallText());
+    }
+}
+
+void TestMakeCommand::aDeviceOrAFolderIsNotReplaced()
+{
+    QCOMPARE(mkfifo(QFile::encodeName(path("device.tessel")).constData(), S_IRUSR | S_IWUSR), 0);
+    QVERIFY(QDir(m_folder.path()).mkdir(QStringLiteral("folder.tessel")));
+    putFile(path("sound.json"), sampleHallText());
+    for (const char* name : {"device.tessel", "folder.tessel"}) {
+        const CommandRun run =
+            runCommand(MakeCommand(), {path("sound.json"), QStringLiteral("-o"), path(name)});
+        QCOMPARE(run.code, ExitCode::WrongUsage);
+        QCOMPARE(run.errors,
+                 QStringLiteral("tesselctl: %1: this is no file, and is not replaced by one\n")
+                     .arg(path(name)));
+    }
 }
 
 TESSEL_TEST_MAIN(TestMakeCommand)
