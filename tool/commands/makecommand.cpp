@@ -47,6 +47,13 @@ QString readText(const QString& path, QByteArray& text)
                : QString();
 }
 
+/// What cannot be understood, and then what makes no sense.
+QStringList faultsOf(const HallJsonReading& reading)
+{
+    HallDocument* const understood = reading.hall ? reading.hall.get() : reading.remains.get();
+    return understood != nullptr ? reading.faults + hallFaults(*understood) : reading.faults;
+}
+
 void tell(const QString& path, const QStringList& faults, Terminal& terminal)
 {
     for (const QString& fault : faults.first(std::min(faults.size(), maxFaultsTold))) {
@@ -116,7 +123,7 @@ ExitCode MakeCommand::run(const Arguments& arguments, Terminal& terminal) const
         return ExitCode::CouldNotBeTried;
     }
     const HallJsonReading reading = readHallJson(text);
-    const QStringList faults = reading.hall != nullptr ? hallFaults(*reading.hall) : reading.faults;
+    const QStringList faults = faultsOf(reading);
     tell(path, faults, terminal);
     if (reading.hall == nullptr || (!faults.isEmpty() && !arguments.has(force()))) {
         return ExitCode::CouldNotBeTried;

@@ -19,6 +19,9 @@ class TestMakeCommand : public TestCase
 private Q_SLOTS:
     void aSoundHallBecomesAFile();
     void everyFaultIsALineAndNothingIsWritten();
+    void whatCannotBeUnderstoodHidesNoOtherFault();
+    void aFaultHasNoOthersInItsWake_data();
+    void aFaultHasNoOthersInItsWake();
     void faultsWithoutEndAreCutShort();
     void aFaultyHallIsWrittenWhenForced();
     void whatIsNoJsonIsNotForced();
@@ -70,6 +73,53 @@ void TestMakeCommand::everyFaultIsALineAndNothingIsWritten()
              qPrintable(run.errors));
     QVERIFY(lines.contains(begin + QStringLiteral(": layout 2: 1+2/3/4 is layout 1 already")));
     QCOMPARE(fileAt(path("hall.tessel")), QByteArray("what was there"));
+}
+
+void TestMakeCommand::whatCannotBeUnderstoodHidesNoOtherFault()
+{
+    putFile(path("hall.tessel"), "what was there");
+    QByteArray text = changed(sampleHallText(), "\"Small\"", "7");
+    text = changed(text, "\"model\": \"PX-NDE\"", "\"model\": 5");
+    text = changed(text, "PNB-QE7", "XY-1");
+    text = changed(text, "\"1/2/3/4\"", "\"1/2/3\"");
+    const CommandRun run = make(text, {QStringLiteral("--force")});
+    QCOMPARE(run.code, ExitCode::CouldNotBeTried);
+    const QString begin = QStringLiteral("tesselctl: ") + path("hall.json");
+    QCOMPARE(
+        run.errors.split(u'\n', Qt::SkipEmptyParts),
+        QStringList({begin + QStringLiteral(": .devices[4].model: this is no text"),
+                     begin + QStringLiteral(": .layouts[0].combined[1].preset: this is no text"),
+                     begin + QStringLiteral(": device 127.0.1.8: unknown model \"XY-1\""),
+                     begin + QStringLiteral(": layout 2: room 4 is not in it")}));
+    QCOMPARE(fileAt(path("hall.tessel")), QByteArray("what was there"));
+}
+
+void TestMakeCommand::aFaultHasNoOthersInItsWake_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::newRow("a key for the rooms")
+        << QByteArray("\"rooms\": [\"1111") << QByteArray("\"roms\": [\"1111");
+    QTest::newRow("a row") << QByteArray("........") << QByteArray(".......");
+    QTest::newRow("a label") << QByteArray("\"Hub-1\"") << QByteArray("1");
+    QTest::newRow("an address") << QByteArray("\"address\": \"127.0.1.8\", ") << QByteArray();
+    QTest::newRow("a layout") << QByteArray("1+2/3/4") << QByteArray("1+2/3/x");
+    QTest::newRow("a removed hub") << QByteArray("[\"127.0.1.2\"]") << QByteArray("[2]");
+    QTest::newRow("a version") << QByteArray("\"rooms\": [\"1111")
+                               << QByteArray("\"tessel\": 2, \"room\": [\"1111");
+}
+
+void TestMakeCommand::aFaultHasNoOthersInItsWake()
+{
+    QFETCH(const QByteArray, before);
+    QFETCH(const QByteArray, after);
+    const CommandRun run = make(changed(sampleHallText(), before, after));
+    const QStringList lines = run.errors.split(u'\n', Qt::SkipEmptyParts);
+    QVERIFY(!lines.isEmpty());
+    for (const QString& line : lines) {
+        QVERIFY2(line.startsWith(QStringLiteral("tesselctl: %1: .").arg(path("hall.json"))),
+                 qPrintable(run.errors));
+    }
 }
 
 void TestMakeCommand::faultsWithoutEndAreCutShort()
