@@ -142,7 +142,7 @@ QByteArray packResumeFile(const ResumeFile& content)
     return bytes;
 }
 
-std::optional<ResumeFile> unpackResumeFile(const QByteArray& bytes)
+std::optional<ResumeFile> unpackResumeFile(const QByteArray& bytes, qsizetype* length)
 {
     QDataStream stream(bytes);
     ResumeFile content;
@@ -150,6 +150,9 @@ std::optional<ResumeFile> unpackResumeFile(const QByteArray& bytes)
         return std::nullopt;
     }
     content.scenes = readScenes(stream);
+    if (length != nullptr) {
+        *length = qsizetype(stream.device()->pos());
+    }
     return content;
 }
 

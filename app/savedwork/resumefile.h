@@ -20,8 +20,9 @@ QByteArray packResumeFile(const ResumeFile& content);
 
 /// Reads such bytes. Nothing when the text is cut or longer than the bytes. Behind it reading
 /// stops at the first layout that is cut, damaged or has a picture too large for a thumbnail, and
-/// keeps those before: damage there costs pictures, not the configuration.
-std::optional<ResumeFile> unpackResumeFile(const QByteArray& bytes);
+/// keeps those before: damage there costs pictures, not the configuration. `length`, when given,
+/// then says how many of the bytes were read.
+std::optional<ResumeFile> unpackResumeFile(const QByteArray& bytes, qsizetype* length = nullptr);
 
 /// Replaces the file at `path` when all bytes could be written and are no more than
 /// readResumeFile() takes; otherwise false, and an earlier file is left whole.

@@ -146,7 +146,8 @@ void TestToolProgram::whatCannotBeReadIsOneLine_data()
     QTest::newRow("show") << QStringList{QStringLiteral("show"), none};
     QTest::newRow("show a folder") << QStringList{QStringLiteral("show"), QStringLiteral("/")};
     QTest::newRow("plan") << QStringList{QStringLiteral("plan"), none};
-    QTest::newRow("make") << QStringList{QStringLiteral("make"), none, QStringLiteral("-o"), none};
+    QTest::newRow("make") << QStringList{QStringLiteral("make"), none, QStringLiteral("-o"),
+                                         QStringLiteral("none.tessel")};
 }
 
 void TestToolProgram::whatCannotBeReadIsOneLine()

@@ -77,6 +77,9 @@ QString Arguments::faultOfOption(const CommandOption& option) const
     if (given.size() > 1 && !option.isRepeatable) {
         return QStringLiteral("%1 is given more than once").arg(written);
     }
+    if (given.isEmpty() && option.isRequired) {
+        return QStringLiteral("%1 %2 is missing").arg(written, option.valueName);
+    }
     return !option.valueName.isEmpty() && given.contains(QString())
                ? QStringLiteral("%1 needs a value: %2").arg(written, option.valueName)
                : QString();

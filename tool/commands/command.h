@@ -23,6 +23,7 @@ struct CommandOption
     QString description;
     QString valueName = {};    ///< what its value is called in the help; empty for a switch
     bool isRepeatable = false; ///< whether it may be given more than once
+    bool isRequired = false;   ///< whether it has to be given
 };
 
 /// What a command takes.

@@ -47,8 +47,9 @@ QString usageOf(const Command& command)
         words.append(operand.name);
     }
     for (const CommandOption& option : syntax.options) {
-        const QString optional = u'[' + named(option, option.names.first()) + u']';
-        words.append(option.isRepeatable ? optional + QStringLiteral("...") : optional);
+        const QString name = named(option, option.names.first());
+        const QString word = option.isRequired ? name : u'[' + name + u']';
+        words.append(option.isRepeatable ? word + QStringLiteral("...") : word);
     }
     return words.join(u' ');
 }

@@ -7,6 +7,8 @@
 #include "roomtext.h"
 #include "texttable.h"
 
+#include <algorithm>
+
 namespace {
 
 QStringList deviceHeadings()
@@ -108,6 +110,18 @@ QString useOf(const MemberView& member)
     return member.side == u"L" ? QStringLiteral("left") : QStringLiteral("right");
 }
 
+/// Why a combined room lists no devices.
+QString emptinessOf(const RoomGroup& group, const DocumentData& hall)
+{
+    const QList<DeviceData>& devices = hall.devices.all();
+    const bool hasDevices =
+        std::any_of(devices.begin(), devices.end(), [&group](const DeviceData& device) {
+            return group.rooms.contains(device.roomNumber);
+        });
+    return hasDevices ? QStringLiteral("No devices are chosen.\n")
+                      : QStringLiteral("There are no devices in it.\n");
+}
+
 QString membersText(const QList<MemberView>& members)
 {
     TextTable table({QStringLiteral("Device"), QStringLiteral("Model"), QStringLiteral("Address"),
@@ -116,7 +130,7 @@ QString membersText(const QList<MemberView>& members)
         const DeviceData device = member.device != nullptr ? *member.device : DeviceData();
         table.addRow({device.label, device.modelName, member.address, useOf(member)});
     }
-    return table.isEmpty() ? QStringLiteral("No devices are chosen.\n") : u'\n' + table.text();
+    return u'\n' + table.text();
 }
 
 QString presetText(const std::optional<QString>& name)
@@ -128,13 +142,13 @@ QString presetText(const std::optional<QString>& name)
                            : QStringLiteral("preset \"%1\"").arg(*name);
 }
 
-QString combinedRoomText(const CombinedRoomView& view)
+QString combinedRoomText(const CombinedRoomView& view, const DocumentData& hall)
 {
     return title(QStringLiteral("Layout %1, room %2: %3")
-                     .arg(QString::number(view.group.sceneNumber), view.group.roomText(),
+                     .arg(QString::number(view.group.sceneNumber), layoutText({view.group.rooms}),
                           presetText(view.presetName))) +
            inLines(setCountsText(view.tally.counts)) + breachText(view.tally.breaches) +
-           membersText(view.members);
+           (view.members.isEmpty() ? emptinessOf(view.group, hall) : membersText(view.members));
 }
 
 QString layoutsText(const QList<SceneInfo>& layouts)
@@ -157,7 +171,7 @@ QString hallText(HallDocument& hall)
     }
     text += unplacedText(hall) + layoutsText(hall.data().scenes);
     for (const CombinedRoomView& view : combinedRoomViews(hall)) {
-        text += combinedRoomText(view);
+        text += combinedRoomText(view, hall.data());
     }
     return text;
 }

@@ -4,6 +4,7 @@
 #include "hallfaults.h"
 #include "hallfile.h"
 #include "halljson.h"
+#include "outputfile.h"
 #include "terminal.h"
 
 #include <QFile>
@@ -46,6 +47,13 @@ QString readText(const QString& path, QByteArray& text)
                : QString();
 }
 
+/// What cannot be understood, and then what makes no sense.
+QStringList faultsOf(const HallJsonReading& reading)
+{
+    HallDocument* const understood = reading.hall ? reading.hall.get() : reading.remains.get();
+    return understood != nullptr ? reading.faults + hallFaults(*understood) : reading.faults;
+}
+
 void tell(const QString& path, const QStringList& faults, Terminal& terminal)
 {
     for (const QString& fault : faults.first(std::min(faults.size(), maxFaultsTold))) {
@@ -55,6 +63,15 @@ void tell(const QString& path, const QStringList& faults, Terminal& terminal)
         terminal.say(
             QStringLiteral("%1: and %2 faults more").arg(path).arg(faults.size() - maxFaultsTold));
     }
+}
+
+/// Why the hall must not be written there.
+QString faultOfOutput(const QString& path, const QString& input)
+{
+    return path.endsWith(u".tessel", Qt::CaseInsensitive)
+               ? outputFault(path, {input})
+               : path + QStringLiteral(": its name does not end in .tessel, and the wizard could "
+                                       "not open it");
 }
 
 } // namespace
@@ -82,8 +99,10 @@ CommandSyntax MakeCommand::syntax() const
 {
     return {{{QStringLiteral("FILE.json"), QStringLiteral("the hall as JSON")}},
             {{{output()},
-              QStringLiteral("the configuration file to write; required"),
-              QStringLiteral("FILE.tessel")},
+              QStringLiteral("the configuration file to write"),
+              QStringLiteral("FILE.tessel"),
+              false,
+              true},
              {{force()},
               QStringLiteral("writes it although the hall is faulty, as far as it can be "
                              "understood")}}};
@@ -91,11 +110,12 @@ CommandSyntax MakeCommand::syntax() const
 
 ExitCode MakeCommand::run(const Arguments& arguments, Terminal& terminal) const
 {
-    if (!arguments.has(output())) {
-        terminal.say(QStringLiteral("make: -o FILE.tessel is missing; see tesselctl make --help"));
+    const QString path = arguments.operand(0);
+    const QString misled = faultOfOutput(arguments.value(output()), path);
+    if (!misled.isEmpty()) {
+        terminal.say(misled);
         return ExitCode::WrongUsage;
     }
-    const QString path = arguments.operand(0);
     QByteArray text;
     const QString unreadable = readText(path, text);
     if (!unreadable.isEmpty()) {
@@ -103,7 +123,7 @@ ExitCode MakeCommand::run(const Arguments& arguments, Terminal& terminal) const
         return ExitCode::CouldNotBeTried;
     }
     const HallJsonReading reading = readHallJson(text);
-    const QStringList faults = reading.hall != nullptr ? hallFaults(*reading.hall) : reading.faults;
+    const QStringList faults = faultsOf(reading);
     tell(path, faults, terminal);
     if (reading.hall == nullptr || (!faults.isEmpty() && !arguments.has(force()))) {
         return ExitCode::CouldNotBeTried;

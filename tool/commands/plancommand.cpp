@@ -207,6 +207,11 @@ CommandSyntax PlanCommand::syntax() const
 ExitCode PlanCommand::run(const Arguments& arguments, Terminal& terminal) const
 {
     const QString path = arguments.operand(0);
+    const QString folder = arguments.value(filesOption());
+    if (!folder.isEmpty() && !isFree(folder)) {
+        terminal.say(folder + QStringLiteral(": this folder is not empty; choose another one"));
+        return ExitCode::WrongUsage;
+    }
     const HallReading reading = readHallFile(path);
     if (reading.hall == nullptr) {
         terminal.say(reading.fault);
@@ -219,7 +224,7 @@ ExitCode PlanCommand::run(const Arguments& arguments, Terminal& terminal) const
             QStringLiteral("%1: %2 is no hub in a room of this hall").arg(path, unknown.first()));
         return ExitCode::WrongUsage;
     }
-    const QString unwritten = writtenFiles(plans, arguments.value(filesOption()));
+    const QString unwritten = writtenFiles(plans, folder);
     if (!unwritten.isEmpty()) {
         terminal.say(unwritten);
         return ExitCode::CouldNotBeTried;

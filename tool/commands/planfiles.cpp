@@ -48,6 +48,12 @@ QString bodyFile(const QString& hubAddress, const PlannedRequest& request)
     }
 }
 
+bool isFree(const QString& folder)
+{
+    return QDir(folder).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System |
+                                QDir::NoDotAndDotDot);
+}
+
 QString writeBodies(const QString& folder, const QString& hubAddress, const InstallPlan& plan)
 {
     for (const PlannedRequest& request : plan.requests) {

@@ -5,6 +5,7 @@
 #include "hallhubs.h"
 #include "interruption.h"
 #include "networkoptions.h"
+#include "outputfile.h"
 #include "terminal.h"
 #include "walkprogress.h"
 #include "walkreport.h"
@@ -180,6 +181,11 @@ ExitCode WalkCommand::run(const Arguments& arguments, Terminal& terminal) const
         return ExitCode::WrongUsage;
     }
     const QString file = arguments.operand(0);
+    const QString misled = outputFault(arguments.value(QStringLiteral("o")), {file});
+    if (!misled.isEmpty()) {
+        terminal.say(misled);
+        return ExitCode::WrongUsage;
+    }
     const HallReading reading = readHallFile(file);
     const QString fault =
         reading.hall == nullptr ? reading.fault : emptiness(file, reading.hall->data());

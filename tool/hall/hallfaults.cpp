@@ -30,10 +30,25 @@ bool isAddress(const QString& text)
     return matches(text, QStringLiteral("(%1\\.){3}%1").arg(part));
 }
 
+/// Neither "this network" nor a group of devices nor all of them.
+bool isAddressOfDevice(const QString& text)
+{
+    constexpr int firstOfGroups = 224;
+    const int network = text.section(u'.', 0, 0).toInt();
+    return isAddress(text) && network > 0 && network < firstOfGroups;
+}
+
+/// The second digit of an address of a group, or of all devices, is odd.
 bool isMacAddress(const QString& text)
 {
-    return matches(text, QStringLiteral("([0-9A-Fa-f]{2}:){5}[0-9A-Fa-f]{2}")) &&
+    return matches(text, QStringLiteral("[0-9A-Fa-f][02468ACEace](:[0-9A-Fa-f]{2}){5}")) &&
            text != u"00:00:00:00:00:00";
+}
+
+bool hasControlCharacters(const QString& text)
+{
+    return std::any_of(text.begin(), text.end(),
+                       [](QChar letter) { return letter.category() == QChar::Other_Control; });
 }
 
 bool isName(const QString& label)
@@ -44,7 +59,7 @@ bool isName(const QString& label)
 QString roomsText(const RoomGroup& group)
 {
     return QStringLiteral("layout %1, room %2")
-        .arg(QString::number(group.sceneNumber), group.roomText());
+        .arg(QString::number(group.sceneNumber), layoutText({group.rooms}));
 }
 
 /// Looks at one device after the other.
@@ -62,7 +77,8 @@ public:
     {
         m_place = QStringLiteral("device ") + device.ipAddress;
         m_faults.clear();
-        require(isAddress(device.ipAddress), QStringLiteral("this is no address"));
+        require(isAddressOfDevice(device.ipAddress),
+                QStringLiteral("this is no address of a device"));
         require(!m_addresses.contains(device.ipAddress),
                 QStringLiteral("an earlier device has this address"));
         judgeMacAddress(device.macAddress);
@@ -70,6 +86,8 @@ public:
                 QStringLiteral("unknown model \"%1\"").arg(device.modelName));
         require(device.roomNumber == 0 || m_rooms.contains(device.roomNumber),
                 QStringLiteral("unknown room %1").arg(device.roomNumber));
+        require(!hasControlCharacters(device.label),
+                QStringLiteral("its label has control characters"));
         require(!device.labelModified || isName(device.label),
                 QStringLiteral("\"%1\" is no name for a device: 1 to 64 letters, digits and dashes")
                     .arg(device.label));
@@ -173,18 +191,33 @@ QStringList faultsOfLayouts(const DocumentData& hall)
     return faults;
 }
 
+/// What is wrong with a device of a combined room; empty when nothing is.
+QString faultOfMember(const MemberView& member)
+{
+    if (member.address.isEmpty()) {
+        return QStringLiteral("a device without address");
+    }
+    if (member.device == nullptr) {
+        return QStringLiteral("unknown device ") + member.address;
+    }
+    if (member.side != u"L" && member.side != u"R") {
+        return QStringLiteral("side \"%1\" of %2 is neither L nor R")
+            .arg(member.side, member.address);
+    }
+    const bool isSpeaker = deviceClass(member.device->modelName) == DeviceClass::Speaker;
+    return member.side == u"R" && !isSpeaker ? member.address + QStringLiteral(" is no speaker")
+                                             : QString();
+}
+
 QStringList faultsOfSets(const QList<CombinedRoomView>& views)
 {
     QStringList faults;
     for (const CombinedRoomView& view : views) {
         const QString place = roomsText(view.group);
         for (const MemberView& member : view.members) {
-            const bool isSpeaker = member.device != nullptr &&
-                                   deviceClass(member.device->modelName) == DeviceClass::Speaker;
-            if (member.device == nullptr) {
-                faults.append(line(place, QStringLiteral("unknown device ") + member.address));
-            } else if (member.side != u"L" && !isSpeaker) {
-                faults.append(line(place, member.address + QStringLiteral(" is no speaker")));
+            const QString fault = faultOfMember(member);
+            if (!fault.isEmpty()) {
+                faults.append(line(place, fault));
             }
         }
         const qsizetype length = view.presetName.value_or(QString()).size();
@@ -194,6 +227,29 @@ QStringList faultsOfSets(const QList<CombinedRoomView>& views)
                                 .arg(length)
                                 .arg(maxPresetName)));
         }
+    }
+    return faults;
+}
+
+/// The records that belong to no combined room. Only those that were told one by one can, so it is
+/// there that they are named; one line for each combined room that is not there.
+template <typename Record>
+QStringList faultsOfStrays(const QString& place, const QList<Record>& records,
+                           const QList<CombinedRoomView>& views)
+{
+    QSet<std::pair<int, int>> known;
+    for (const CombinedRoomView& view : views) {
+        known.insert({view.group.sceneNumber, view.group.number});
+    }
+    QStringList faults;
+    for (const Record& record : records) {
+        const std::pair<int, int> wanted(record.sceneNumber, record.deviceSetNumber);
+        if (!known.contains(wanted)) {
+            faults.append(line(place, QStringLiteral("layout %1 has no combined room %2")
+                                          .arg(wanted.first)
+                                          .arg(wanted.second)));
+        }
+        known.insert(wanted);
     }
     return faults;
 }
@@ -224,6 +280,9 @@ QStringList hallFaults(HallDocument& hall)
     for (const DeviceData& device : hall.data().devices.all()) {
         faults += judge.faultsOf(device);
     }
-    return faults + faultsOfLayouts(hall.data()) + faultsOfSets(combinedRoomViews(hall)) +
+    const QList<CombinedRoomView> views = combinedRoomViews(hall);
+    return faults + faultsOfLayouts(hall.data()) + faultsOfSets(views) +
+           faultsOfStrays(QStringLiteral("exact.sets"), hall.data().deviceSets.all(), views) +
+           faultsOfStrays(QStringLiteral("exact.presets"), hall.data().presets, views) +
            brokenLimits(hall);
 }

@@ -79,8 +79,9 @@ QString xmlFault(const QString& text)
                      : QStringLiteral("this is no configuration of a hall"));
 }
 
-/// Whether there are as many pictures as the file announces.
-QString pictureFault(const QByteArray& bytes, const ResumeFile& content)
+/// Whether there are as many pictures as the file announces, and nothing behind them. `length` is
+/// how many bytes were read.
+QString pictureFault(const QByteArray& bytes, const ResumeFile& content, qsizetype length)
 {
     const qsizetype begin = lengthSize + 2 * content.xml.size();
     if (bytes.size() < begin + countSize) {
@@ -88,11 +89,13 @@ QString pictureFault(const QByteArray& bytes, const ResumeFile& content)
                   QStringLiteral("the file ends here, before its pictures"));
     }
     const auto announced = qFromBigEndian<qint64>(bytes.constData() + begin);
-    return announced == content.scenes.size() ? QString()
-                                              : at(QStringLiteral("picture %1 of %2")
-                                                       .arg(content.scenes.size() + 1)
-                                                       .arg(announced),
-                                                   QStringLiteral("it is cut or damaged"));
+    if (announced != content.scenes.size()) {
+        return at(QStringLiteral("picture %1 of %2").arg(content.scenes.size() + 1).arg(announced),
+                  QStringLiteral("it is cut or damaged"));
+    }
+    return length == bytes.size() ? QString()
+                                  : at(QStringLiteral("byte %1").arg(length + 1),
+                                       QStringLiteral("something follows its pictures"));
 }
 
 DeviceData deviceFrom(const SavedDevice& saved)
@@ -123,8 +126,9 @@ void takeDevices(SavedWork& work, DeviceRecords& devices)
 /// Fills `hall`; the fault without the file's name.
 QString unpackHall(const QByteArray& bytes, DocumentData& hall)
 {
+    qsizetype length = 0;
     const std::optional<ResumeFile> content =
-        bytes.isEmpty() ? std::nullopt : unpackResumeFile(bytes);
+        bytes.isEmpty() ? std::nullopt : unpackResumeFile(bytes, &length);
     if (!content) {
         return textFault(bytes);
     }
@@ -136,7 +140,7 @@ QString unpackHall(const QByteArray& bytes, DocumentData& hall)
     if (!restoreWork(hall, *work, content->scenes).isComplete) {
         return QStringLiteral("it holds something that this version does not know");
     }
-    return pictureFault(bytes, *content);
+    return pictureFault(bytes, *content, length);
 }
 
 } // namespace

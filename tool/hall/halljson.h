@@ -17,6 +17,9 @@ struct HallJsonReading
 {
     std::unique_ptr<HallDocument> hall; ///< null when there are faults
     QStringList faults;                 ///< what cannot be understood; place before reason
+    /// With faults, the parts that have none and depend on none that has: so that what makes no
+    /// sense in them can be told as well. May be null. It is no hall to be written.
+    std::unique_ptr<HallDocument> remains;
 };
 
 /// Writes it. The same hall gives the same text.

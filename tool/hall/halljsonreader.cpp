@@ -37,22 +37,32 @@ public:
 
     HallJsonReading read()
     {
-        m_root.number(Key::version(), hallJsonVersion, hallJsonVersion, hallJsonVersion);
+        const int version = m_root.number(Key::version(), 1, maxNumber, hallJsonVersion);
+        if (version != hallJsonVersion) {
+            // Its other keys may mean something else.
+            m_root.fault(Key::version(),
+                         QStringLiteral("version %1 is not known here").arg(version));
+            return {nullptr, m_faults, nullptr};
+        }
         readWindow();
         readDevices();
-        readRooms();
-        readLayouts();
+        m_areRoomsSound = isSound(&Reader::readRooms);
+        m_areLayoutsSound = isSound(&Reader::readLayouts);
+        keepWhatIsSound();
         readSets();
         const int usual = stepNumber(m_hall->data().scenes.isEmpty() ? WizardPage::DeviceLocation
                                                                      : WizardPage::Install);
         m_hall->data().pageIndex = m_root.number(Key::step(), 1, pageCount, usual) - 1;
         m_exact.finish();
         m_root.finish();
-        return m_faults.isEmpty() ? HallJsonReading{std::move(m_hall), {}}
-                                  : HallJsonReading{nullptr, m_faults};
+        return m_faults.isEmpty() ? HallJsonReading{std::move(m_hall), {}, nullptr}
+                                  : HallJsonReading{nullptr, m_faults, remains()};
     }
 
 private:
+    bool isSound(void (Reader::*readPart)());
+    void keepWhatIsSound();
+    std::unique_ptr<HallDocument> remains();
     void readWindow();
     void readDevices();
     void readRooms();
@@ -63,6 +73,7 @@ private:
     void readCombined(JsonFields& layout, const QString& text);
     void readChoice(JsonFields& combined, const QList<QList<int>>& groups, QSet<int>& chosen);
     QSet<QString> addressesIn(JsonFields& combined, const QString& key, const QList<int>& rooms);
+    bool areSetsExact() { return m_exact.has(Key::sets()) || m_exact.has(Key::presets()); }
     void readSets();
     void readExactSets();
     void readExactPresets();
@@ -78,7 +89,47 @@ private:
     std::unique_ptr<HallDocument> m_hall = std::make_unique<HallDocument>();
     HallChoices m_choices;
     int m_setCount = 0; ///< of the layouts read so far
+    QList<DeviceData> m_soundDevices;
+    QList<SceneInfo> m_soundLayouts; ///< without pictures
+    bool m_areRoomsSound = false;
+    bool m_areLayoutsSound = false;
 };
+
+/// Reads a part; whether it has no fault of its own.
+bool Reader::isSound(void (Reader::*readPart)())
+{
+    const qsizetype former = m_faults.size();
+    (this->*readPart)();
+    return m_faults.size() == former;
+}
+
+/// Leaves out what has faults, and what would seem to have some because of them.
+void Reader::keepWhatIsSound()
+{
+    if (m_faults.isEmpty()) {
+        return;
+    }
+    const bool areRoomsKnown =
+        m_areRoomsSound && (m_root.has(Key::rooms()) || m_exact.has(Key::rooms()));
+    hall().devices = DeviceRecords();
+    for (DeviceData device : std::as_const(m_soundDevices)) {
+        device.roomNumber = areRoomsKnown ? device.roomNumber : 0;
+        hall().devices.append(device);
+    }
+    hall().rooms = areRoomsKnown ? hall().rooms : QList<RoomInfo>();
+    hall().scenes = areRoomsKnown ? m_soundLayouts : QList<SceneInfo>();
+}
+
+std::unique_ptr<HallDocument> Reader::remains()
+{
+    // Once more: unknown keys are found last.
+    keepWhatIsSound();
+    if (!m_areLayoutsSound || areSetsExact() || hall().scenes.isEmpty()) {
+        hall().deviceSets.clear();
+        hall().presets.clear();
+    }
+    return std::move(m_hall);
+}
 
 void Reader::readWindow()
 {
@@ -94,6 +145,7 @@ void Reader::readDevices()
 {
     const QJsonArray devices = m_root.list(Key::devices());
     for (qsizetype index = 0; index < devices.size(); ++index) {
+        const qsizetype former = m_faults.size();
         JsonFields fields(devices.at(index), itemPlace(u'.' + Key::devices(), index), &m_faults);
         DeviceData device;
         device.ipAddress = fields.requiredText(Key::address());
@@ -104,6 +156,9 @@ void Reader::readDevices()
         device.labelModified = fields.flag(Key::renamed());
         fields.finish();
         hall().devices.append(device);
+        if (m_faults.size() == former) {
+            m_soundDevices.append(device);
+        }
     }
 }
 
@@ -135,7 +190,13 @@ void Reader::readExactRooms()
         if (!isNew) {
             fields.fault(Key::number(), QStringLiteral("an earlier room has this number"));
         }
-        hall().rooms.append({number, readCells(fields.text(Key::cells()))});
+        const QString text = fields.text(Key::cells());
+        const QList<QPoint> cells = readCells(text);
+        if (writeCells(cells) != text) {
+            fields.fault(Key::cells(),
+                         QStringLiteral("these are no cells such as \"{0,0}/{0,1}\""));
+        }
+        hall().rooms.append({number, cells});
         fields.finish();
     }
 }
@@ -150,11 +211,15 @@ void Reader::readLayouts()
     QStringList texts;
     for (qsizetype index = 0; index < layouts.size(); ++index) {
         JsonFields layout(layouts.at(index), itemPlace(u'.' + Key::layouts(), index), &m_faults);
+        const qsizetype former = m_faults.size();
         const int number = int(index) + 1;
         layout.number(Key::number(), number, number, number);
         texts.append(readLayoutText(layout));
         readCombined(layout, texts.last());
         layout.finish();
+        if (m_faults.size() == former) {
+            m_soundLayouts.append({number, texts.last(), QPixmap()});
+        }
     }
     if (m_faults.isEmpty()) {
         hall().scenes = layoutsOf(texts, hall().rooms);
@@ -231,6 +296,7 @@ QSet<QString> Reader::addressesIn(JsonFields& combined, const QString& key, cons
 void Reader::readExactLayouts()
 {
     hall().scenes.clear();
+    m_soundLayouts.clear();
     const QJsonArray layouts = m_exact.list(Key::layouts());
     if (layouts.size() > maxLayouts) {
         m_exact.fault(Key::layouts(), QStringLiteral("too many"));
@@ -327,6 +393,16 @@ void Reader::readExactPresets()
     }
 }
 
+/// Whether this is the text of something else: the parser takes nothing but objects and lists, and
+/// calls a number by itself an illegal one.
+bool isOtherThanObject(QByteArray text)
+{
+    if (text.startsWith("\xef\xbb\xbf")) {
+        text.remove(0, 3);
+    }
+    return !text.trimmed().startsWith('{');
+}
+
 /// Where a text stops being JSON, counted as editors do.
 QString syntaxFault(const QByteArray& text, const QJsonParseError& error)
 {
@@ -341,13 +417,13 @@ QString syntaxFault(const QByteArray& text, const QJsonParseError& error)
 
 HallJsonReading readHallJson(const QByteArray& text)
 {
+    if (isOtherThanObject(text)) {
+        return {nullptr, {QStringLiteral("line 1, column 1: this is no object")}, nullptr};
+    }
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError) {
-        return {nullptr, {syntaxFault(text, error)}};
-    }
-    if (!document.isObject()) {
-        return {nullptr, {QStringLiteral("line 1, column 1: this is no object")}};
+        return {nullptr, {syntaxFault(text, error)}, nullptr};
     }
     return Reader(document.object()).read();
 }

@@ -1,3 +1,5 @@
+#include "arguments.h"
+#include "commandhelp.h"
 #include "commandrun.h"
 #include "hallfile.h"
 #include "makecommand.h"
@@ -7,6 +9,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 /// `make`.
 class TestMakeCommand : public TestCase
 {
@@ -15,13 +19,19 @@ class TestMakeCommand : public TestCase
 private Q_SLOTS:
     void aSoundHallBecomesAFile();
     void everyFaultIsALineAndNothingIsWritten();
+    void whatCannotBeUnderstoodHidesNoOtherFault();
+    void aFaultHasNoOthersInItsWake_data();
+    void aFaultHasNoOthersInItsWake();
     void faultsWithoutEndAreCutShort();
     void aFaultyHallIsWrittenWhenForced();
     void whatIsNoJsonIsNotForced();
     void withoutAnOutputItIsWrongUsage();
+    void anOutputThatTheWizardCouldNotOpenIsWrongUsage();
     void anInputThatCannotBeReadIsTold_data();
     void anInputThatCannotBeReadIsTold();
     void anOutputThatCannotBeWrittenIsTold();
+    void theInputIsNotOverwritten();
+    void aDeviceOrAFolderIsNotReplaced();
 
 private:
     QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
@@ -65,6 +75,53 @@ void TestMakeCommand::everyFaultIsALineAndNothingIsWritten()
     QCOMPARE(fileAt(path("hall.tessel")), QByteArray("what was there"));
 }
 
+void TestMakeCommand::whatCannotBeUnderstoodHidesNoOtherFault()
+{
+    putFile(path("hall.tessel"), "what was there");
+    QByteArray text = changed(sampleHallText(), "\"Small\"", "7");
+    text = changed(text, "\"model\": \"PX-NDE\"", "\"model\": 5");
+    text = changed(text, "PNB-QE7", "XY-1");
+    text = changed(text, "\"1/2/3/4\"", "\"1/2/3\"");
+    const CommandRun run = make(text, {QStringLiteral("--force")});
+    QCOMPARE(run.code, ExitCode::CouldNotBeTried);
+    const QString begin = QStringLiteral("tesselctl: ") + path("hall.json");
+    QCOMPARE(
+        run.errors.split(u'\n', Qt::SkipEmptyParts),
+        QStringList({begin + QStringLiteral(": .devices[4].model: this is no text"),
+                     begin + QStringLiteral(": .layouts[0].combined[1].preset: this is no text"),
+                     begin + QStringLiteral(": device 127.0.1.8: unknown model \"XY-1\""),
+                     begin + QStringLiteral(": layout 2: room 4 is not in it")}));
+    QCOMPARE(fileAt(path("hall.tessel")), QByteArray("what was there"));
+}
+
+void TestMakeCommand::aFaultHasNoOthersInItsWake_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::newRow("a key for the rooms")
+        << QByteArray("\"rooms\": [\"1111") << QByteArray("\"roms\": [\"1111");
+    QTest::newRow("a row") << QByteArray("........") << QByteArray(".......");
+    QTest::newRow("a label") << QByteArray("\"Hub-1\"") << QByteArray("1");
+    QTest::newRow("an address") << QByteArray("\"address\": \"127.0.1.8\", ") << QByteArray();
+    QTest::newRow("a layout") << QByteArray("1+2/3/4") << QByteArray("1+2/3/x");
+    QTest::newRow("a removed hub") << QByteArray("[\"127.0.1.2\"]") << QByteArray("[2]");
+    QTest::newRow("a version") << QByteArray("\"rooms\": [\"1111")
+                               << QByteArray("\"tessel\": 2, \"room\": [\"1111");
+}
+
+void TestMakeCommand::aFaultHasNoOthersInItsWake()
+{
+    QFETCH(const QByteArray, before);
+    QFETCH(const QByteArray, after);
+    const CommandRun run = make(changed(sampleHallText(), before, after));
+    const QStringList lines = run.errors.split(u'\n', Qt::SkipEmptyParts);
+    QVERIFY(!lines.isEmpty());
+    for (const QString& line : lines) {
+        QVERIFY2(line.startsWith(QStringLiteral("tesselctl: %1: .").arg(path("hall.json"))),
+                 qPrintable(run.errors));
+    }
+}
+
 void TestMakeCommand::faultsWithoutEndAreCutShort()
 {
     const CommandRun run = make("{\"devices\": [" + QByteArray("{},").repeated(500) + "{}]}");
@@ -91,9 +148,22 @@ void TestMakeCommand::whatIsNoJsonIsNotForced()
 
 void TestMakeCommand::withoutAnOutputItIsWrongUsage()
 {
-    const CommandRun run = runCommand(MakeCommand(), {path("hall.json")});
+    const MakeCommand command;
+    const Arguments arguments(command.syntax(), {path("hall.json")});
+    QCOMPARE(arguments.fault(), QStringLiteral("-o FILE.tessel is missing"));
+    QCOMPARE(usageOf(command), QStringLiteral("tesselctl make FILE.json -o FILE.tessel [--force]"));
+}
+
+void TestMakeCommand::anOutputThatTheWizardCouldNotOpenIsWrongUsage()
+{
+    putFile(path("hall.json"), sampleHallText());
+    const CommandRun run =
+        runCommand(MakeCommand(), {path("hall.json"), QStringLiteral("-o"), path("hall.txt")});
     QCOMPARE(run.code, ExitCode::WrongUsage);
-    QVERIFY2(run.errors.contains(u"-o FILE.tessel is missing"), qPrintable(run.errors));
+    QCOMPARE(run.errors, QStringLiteral("tesselctl: %1: its name does not end in .tessel, and the "
+                                        "wizard could not open it\n")
+                             .arg(path("hall.txt")));
+    QVERIFY(!QFile::exists(path("hall.txt")));
 }
 
 void TestMakeCommand::anInputThatCannotBeReadIsTold_data()
@@ -131,6 +201,36 @@ void TestMakeCommand::anOutputThatCannotBeWrittenIsTold()
     QCOMPARE(run.code, ExitCode::CouldNotBeTried);
     QVERIFY2(run.errors.startsWith(QStringLiteral("tesselctl: %1: ").arg(output)),
              qPrintable(run.errors));
+}
+
+void TestMakeCommand::theInputIsNotOverwritten()
+{
+    putFile(path("own.tessel"), sampleHallText());
+    QVERIFY(QFile::link(path("own.tessel"), path("link.tessel")));
+    for (const char* name : {"own.tessel", "link.tessel"}) {
+        const CommandRun run =
+            runCommand(MakeCommand(), {path("own.tessel"), QStringLiteral("-o"), path(name)});
+        QCOMPARE(run.code, ExitCode::WrongUsage);
+        QCOMPARE(run.errors, QStringLiteral("tesselctl: %1: this is the file that is read; choose "
+                                            "another output\n")
+                                 .arg(path(name)));
+        QCOMPARE(fileAt(path("own.tessel")), sampleHallText());
+    }
+}
+
+void TestMakeCommand::aDeviceOrAFolderIsNotReplaced()
+{
+    QCOMPARE(mkfifo(QFile::encodeName(path("device.tessel")).constData(), S_IRUSR | S_IWUSR), 0);
+    QVERIFY(QDir(m_folder.path()).mkdir(QStringLiteral("folder.tessel")));
+    putFile(path("sound.json"), sampleHallText());
+    for (const char* name : {"device.tessel", "folder.tessel"}) {
+        const CommandRun run =
+            runCommand(MakeCommand(), {path("sound.json"), QStringLiteral("-o"), path(name)});
+        QCOMPARE(run.code, ExitCode::WrongUsage);
+        QCOMPARE(run.errors,
+                 QStringLiteral("tesselctl: %1: this is no file, and is not replaced by one\n")
+                     .arg(path(name)));
+    }
 }
 
 TESSEL_TEST_MAIN(TestMakeCommand)

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void anAddressThatIsNoHubsIsWrongUsage();
     void theBodiesAreThoseOfAnInstallation();
     void aFolderThatCannotBeMadeIsTold();
+    void aFolderThatIsNotEmptyIsRefused();
     void addressesOfAFileLeaveTheFolderNot();
     void aHallThatIsNotReadyIsToldAndAFailure();
     void aHallWithoutHubsIsToldAndAFailure();
@@ -160,6 +161,19 @@ void TestPlanCommand::aFolderThatCannotBeMadeIsTold()
     QCOMPARE(run.code, ExitCode::CouldNotBeTried);
     QCOMPARE(run.output, QString());
     QVERIFY2(run.errors.contains(u"this folder cannot be made"), qPrintable(run.errors));
+}
+
+void TestPlanCommand::aFolderThatIsNotEmptyIsRefused()
+{
+    QVERIFY(QDir(m_folder.path()).mkdir(QStringLiteral("used")));
+    putFile(path("used/.earlier"), "a file");
+    const CommandRun run = plan(sampleHallText(), {QStringLiteral("--files"), path("used")});
+    QCOMPARE(run.code, ExitCode::WrongUsage);
+    QCOMPARE(run.output, QString());
+    QCOMPARE(run.errors, QStringLiteral("tesselctl: %1: this folder is not empty; choose another "
+                                        "one\n")
+                             .arg(path("used")));
+    QCOMPARE(QDir(path("used")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
 }
 
 void TestPlanCommand::addressesOfAFileLeaveTheFolderNot()

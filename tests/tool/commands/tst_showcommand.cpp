@@ -20,6 +20,7 @@ private Q_SLOTS:
     void everyCombinedRoomTellsItsDevicesSidesAndPreset();
     void brokenLimitsAreMarkedToldAndAFailure();
     void aHallThatIsNotReadySaysWhatIsNotChosen();
+    void aCombinedRoomWithoutDevicesSaysSo();
     void noLineIsWiderThanATerminal();
     void jsonIsWhatMakeTakesBack();
     void anUnreadableFileIsToldAndNothingElse();
@@ -75,7 +76,7 @@ void TestShowCommand::everyCombinedRoomTellsItsDevicesSidesAndPreset()
 {
     const QString output = show(sampleHallText()).output;
     QVERIFY2(output.contains(u"     1  1+2/3/4\n     2  1/2/3/4\n"), qPrintable(output));
-    QVERIFY2(output.contains(u"\nLayout 1, room 1,2: preset \"Big \"hall\"\"\n"
+    QVERIFY2(output.contains(u"\nLayout 1, room 1+2: preset \"Big \"hall\"\"\n"
                              u"1 of 1 PX-HB, 3 of 16 microphones and speakers, 0 of 8 controllers\n"
                              u"\n"
                              u"Device     Model     Address    Use\n"
@@ -98,7 +99,7 @@ void TestShowCommand::brokenLimitsAreMarkedToldAndAFailure()
         QCOMPARE(run.code, ExitCode::SomethingIsNot);
         QCOMPARE(run.errors.count(u'\n'), 1);
         QVERIFY2(
-            run.errors.endsWith(QStringLiteral("hall.tessel: layout 1, room 1,2: %1\n").arg(told)),
+            run.errors.endsWith(QStringLiteral("hall.tessel: layout 1, room 1+2: %1\n").arg(told)),
             qPrintable(run.errors));
         QCOMPARE(run.output.contains(QStringLiteral("\n!! %1\n").arg(told)), options.isEmpty());
     }
@@ -115,6 +116,14 @@ void TestShowCommand::aHallThatIsNotReadySaysWhatIsNotChosen()
              qPrintable(output));
     const CommandRun empty = show("{}");
     QCOMPARE(empty.code, ExitCode::AllIsWell);
+}
+
+void TestShowCommand::aCombinedRoomWithoutDevicesSaysSo()
+{
+    const QByteArray text = changed(sampleHallText(), "\"room\": 4", "\"room\": 0");
+    const QString output = show(text).output;
+    QCOMPARE(output.count(u"\nThere are no devices in it.\n"), 2);
+    QVERIFY2(!output.contains(u"No devices are chosen."), qPrintable(output));
 }
 
 void TestShowCommand::noLineIsWiderThanATerminal()

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void tableShowsLayoutsByHubsInEightyColumns();
     void resultIsKept();
     void resultThatCannotBeKeptStopsBeforeAnythingIsHeard();
+    void resultDoesNotReplaceTheHall();
     void hubWhosePresetCouldNotBeReadIsNamed();
     void hubThatDoesNotGoBackIsNamed();
     void interruptionRestoresFirst();
@@ -172,6 +173,17 @@ void TestWalkCommand::resultThatCannotBeKeptStopsBeforeAnythingIsHeard()
     QCOMPARE(run.exitCode, 3);
     QVERIFY2(isOneLine(run.errors) && run.errors.contains(u"a/b: "), qPrintable(run.errors));
     QCOMPARE(hall.device(stage)->exchangeNames(), QStringList());
+}
+
+void TestWalkCommand::resultDoesNotReplaceTheHall()
+{
+    const HallOnDisk file(stage, gallery);
+    const QString hall = bytesOf(file.path());
+    LiveToolRun tool({walk, file.path(), yes, QStringLiteral("-o"), file.path()});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(isOneLine(run.errors), qPrintable(run.errors));
+    QCOMPARE(bytesOf(file.path()), hall);
 }
 
 void TestWalkCommand::hubWhosePresetCouldNotBeReadIsNamed()

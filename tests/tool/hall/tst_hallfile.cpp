@@ -35,6 +35,7 @@ private Q_SLOTS:
     void whatIsNoHallIsRefusedWithPlaceAndReason_data();
     void whatIsNoHallIsRefusedWithPlaceAndReason();
     void aFileCutAnywhereIsRefused();
+    void bytesBehindThePicturesAreRefused();
     void missingFilesAndFoldersAreToldApart();
     void whatCannotBeWrittenLeavesTheFormerFile();
 
@@ -116,6 +117,18 @@ void TestHallFile::aFileCutAnywhereIsRefused()
     QVERIFY2(
         readHallFile(path("cut.tessel")).fault.contains(u"picture 2 of 2: it is cut or damaged"),
         qPrintable(readHallFile(path("cut.tessel")).fault));
+}
+
+void TestHallFile::bytesBehindThePicturesAreRefused()
+{
+    for (const QByteArray& bytes : {sampleBytes(), packHall(DocumentData())}) {
+        putFile(path("longer.tessel"), bytes + "xx\n");
+        const HallReading reading = readHallFile(path("longer.tessel"));
+        QVERIFY(reading.hall == nullptr);
+        QCOMPARE(reading.fault, QStringLiteral("%1: byte %2: something follows its pictures")
+                                    .arg(path("longer.tessel"))
+                                    .arg(bytes.size() + 1));
+    }
 }
 
 void TestHallFile::missingFilesAndFoldersAreToldApart()

@@ -167,7 +167,9 @@ void TestHallJson::whatCannotBeUnderstoodIsAFaultWithItsPlace_data()
     row("cut", sample.chopped(40), "line 18, column 34: unterminated string");
     row("a list", "[]", "this is no object");
     row("nested without end", QByteArray(100000, '['), "line 1, column");
-    row("a later version", "{\"tessel\": 2}", ".tessel: this is no number from 1 to 1");
+    row("a later version", "{\"tessel\": 2}", ".tessel: version 2 is not known here");
+    row("no version", "{\"tessel\": \"1\"}", ".tessel: this is no number");
+    row("a number", "1", "line 1, column 1: this is no object");
     row("a step beyond the last", "{\"step\": 10}", ".step: this is no number from 1 to 9");
     row("half a step", "{\"step\": 1.5}", ".step: ");
     row("a huge number", "{\"step\": 1e300}", ".step: ");
@@ -207,6 +209,13 @@ void TestHallJson::whatCannotBeUnderstoodIsAFaultWithItsPlace_data()
         ".exact.layouts[0].picture: this is no small PNG picture");
     row("an exact room twice", "{\"exact\": {\"rooms\": [{\"number\": 1}, {\"number\": 1}]}}",
         ".exact.rooms[1].number: an earlier room");
+    const auto cells = [&row](const char* name, const QByteArray& text) {
+        row(name, R"({"exact": {"rooms": [{"number": 1, "cells": ")" + text + R"("}]}})",
+            ".exact.rooms[0].cells: these are no cells such as \"{0,0}/{0,1}\"");
+    };
+    cells("cells that are none", "foo");
+    cells("a cell beyond the grid", "{99,99}/{1,1}");
+    cells("a cell twice", "{1,1}/{1,1}");
     row("an exact member twice",
         "{\"exact\": {\"sets\": [{\"set\": 1, \"layout\": 1, \"address\": \"a\"}, "
         "{\"set\": 1, \"layout\": 1, \"address\": \"a\"}]}}",
@@ -230,11 +239,39 @@ void TestHallJson::whatMakesNoSenseIsAFaultWithItsPlace_data()
     QTest::addColumn<QString>("fault");
     const QByteArray sample = sampleHallText();
     const auto with = [&sample](const char* name, const char* before, const QByteArray& after,
-                                const char* fault) {
+                                const QByteArray& fault) {
         QTest::newRow(name) << changed(sample, before, after) << QString::fromLatin1(fault);
     };
     with("no address", "\"address\": \"127.0.1.8\"", "\"address\": \"127.0.1.256\"",
          "device 127.0.1.256: this is no address");
+    for (const char* address :
+         {"0.0.0.0", "0.1.2.3", "224.0.0.251", "240.0.0.1", "255.255.255.255"}) {
+        const QByteArray named = QByteArray("\"address\": \"") + address + '"';
+        const QByteArray told =
+            QByteArray("device ") + address + ": this is no address of a device";
+        with(address, "\"address\": \"127.0.1.8\"", named, told);
+    }
+    with("a label with a control character", "\"label\": \"Hub-1\", \"renamed\": true",
+         "\"label\": \"Hub\\t1\"", "device 127.0.1.1: its label has control characters");
+    with("a MAC address of everyone", "02:1A:FF:00:00:08", "FF:FF:FF:FF:FF:FF",
+         "\"FF:FF:FF:FF:FF:FF\" is no MAC address");
+    with("a MAC address of a group", "02:1A:FF:00:00:08", "01:00:5e:00:00:08",
+         "\"01:00:5e:00:00:08\" is no MAC address");
+    const auto exact = [&with](const char* name, const QByteArray& part, const char* fault) {
+        with(name, "\"layouts\":", "\"exact\": {" + part + "}, \"layouts\":", fault);
+    };
+    exact("an exact member of nothing", "\"sets\": [{}]",
+          "exact.sets: layout 0 has no combined room 0");
+    exact("an exact member of another layout's set",
+          R"("sets": [{"set": 4, "layout": 1, "address": "127.0.1.1"}])",
+          "exact.sets: layout 1 has no combined room 4");
+    exact("an exact member without address", R"("sets": [{"set": 1, "layout": 1}])",
+          "layout 1, room 1+2: a device without address");
+    exact("an exact member's side",
+          R"("sets": [{"set": 1, "layout": 1, "address": "127.0.1.6", "side": "X"}])",
+          "layout 1, room 1+2: side \"X\" of 127.0.1.6 is neither L nor R");
+    exact("an exact preset of nothing", "\"presets\": [{\"name\": \"lost\"}]",
+          "exact.presets: layout 0 has no combined room 0");
     with("an address twice", "\"address\": \"127.0.1.8\"", "\"address\": \"127.0.1.7\"",
          "device 127.0.1.7: an earlier device has this address");
     with("no MAC address", ", \"mac\": \"02:1A:FF:00:00:08\"", "",
@@ -254,11 +291,11 @@ void TestHallJson::whatMakesNoSenseIsAFaultWithItsPlace_data()
          "layout 2: room 1 is in it twice");
     with("a room that a layout lacks", "\"1/2/3/4\"", "\"1/2/3\"", "layout 2: room 4 is not in it");
     with("a side for a microphone", "\"right\": [\"127.0.1.7\"]", "\"right\": [\"127.0.1.5\"]",
-         "layout 1, room 1,2: 127.0.1.5 is no speaker");
+         "layout 1, room 1+2: 127.0.1.5 is no speaker");
     with("a preset name too long", "\"Small\"", '"' + QByteArray(256, 'a') + '"',
          "layout 1, room 4: a preset name of 256 characters; 255 are possible");
     with("two hubs in a set", ", \"removed\": [\"127.0.1.2\"]", "",
-         "layout 1, room 1,2: 2 PX-HBs; 1 is possible");
+         "layout 1, room 1+2: 2 PX-HBs; 1 is possible");
     QByteArray many;
     for (int n = 1; n <= 16; ++n) {
         many += R"({"address": "127.0.2.)" + QByteArray::number(n) +
