@@ -56,7 +56,6 @@ private Q_SLOTS:
     void stoppingRestoresWithoutTheOtherLayouts();
     void stoppingWaitsForTheLayoutThatIsLoading();
     void stoppingBeforeTheFirstLayoutRecallsNothing();
-    void restoredPresetIsLeftAloneBeforeItIsReadBack();
     void hallWhereNobodyAnswersIsLeftAlone();
 };
 
@@ -245,20 +244,6 @@ void TestHallWalk::stoppingBeforeTheFirstLayoutRecallsNothing()
     QVERIFY(!walk.hasRecalled());
     QCOMPARE(walk.before(), (HallWalk::Reading{{first, 7}}));
     QCOMPARE(recallCount(hall), 0);
-}
-
-void TestHallWalk::restoredPresetIsLeftAloneBeforeItIsReadBack()
-{
-    START_HALL;
-    RECALL_ON_BOTH(7);
-    HallWalk walk({first, second}, QList{1}, shortMs, patienceMs);
-    QSignalSpy over(&walk, SIGNAL(finished()));
-    walk.start();
-    QTRY_COMPARE_WITH_TIMEOUT(over.size(), 1, patienceMs);
-    QCOMPARE(hall.device(first)->exchangeNames(),
-             QStringList({QStringLiteral("current-preset"), QStringLiteral("recall-command"),
-                          QStringLiteral("current-preset"), QStringLiteral("recall-command"),
-                          QStringLiteral("current-preset")}));
 }
 
 void TestHallWalk::hallWhereNobodyAnswersIsLeftAlone()
