@@ -12,6 +12,8 @@ constexpr int patience = 60000; // milliseconds
 
 LiveToolRun::LiveToolRun(const QStringList& arguments, const QByteArray& typed)
 {
+    // Tests that are run by nohup would start it without.
+    std::signal(SIGHUP, SIG_DFL);
     m_program.start(QStringLiteral(TESSEL_TOOL), arguments);
     m_program.write(typed);
     m_program.closeWriteChannel();
@@ -36,6 +38,11 @@ bool LiveToolRun::hasSaid(const QString& words)
 void LiveToolRun::interrupt()
 {
     ::kill(static_cast<pid_t>(m_program.processId()), SIGINT);
+}
+
+void LiveToolRun::closeTerminal()
+{
+    ::kill(static_cast<pid_t>(m_program.processId()), SIGHUP);
 }
 
 bool LiveToolRun::isKilled() const

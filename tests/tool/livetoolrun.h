@@ -18,6 +18,9 @@ public:
     /// Presses Ctrl+C.
     void interrupt();
 
+    /// Tells it that its terminal is closed. The system does so, and the shell once more.
+    void closeTerminal();
+
     /// Waits for its end.
     ToolRun ended();
 

@@ -15,9 +15,19 @@ std::array<int, 2> wakeUpPipe = {-1, -1};
 // Of all that wakes an event loop, a handler may do no more than write a byte.
 extern "C" void noteInterruption(int number)
 {
-    std::signal(number, SIG_DFL);
+    // A closed terminal tells it twice, by the system and by the shell: that is nobody's wish to
+    // leave at once.
+    std::signal(number, number == SIGHUP ? SIG_IGN : SIG_DFL);
     const char byte = 0;
     [[maybe_unused]] const ssize_t written = ::write(wakeUpPipe[1], &byte, 1);
+}
+
+// Left alone where it is ignored: nohup lets a program outlive its terminal that way.
+void replaceHangUpHandler(void (*handler)(int))
+{
+    if (std::signal(SIGHUP, handler) == SIG_IGN) {
+        std::signal(SIGHUP, SIG_IGN);
+    }
 }
 
 } // namespace
@@ -35,12 +45,14 @@ Interruption::Interruption(QObject* parent)
             SIGNAL(interrupted()));
     std::signal(SIGINT, noteInterruption);
     std::signal(SIGTERM, noteInterruption);
+    replaceHangUpHandler(noteInterruption);
 }
 
 Interruption::~Interruption()
 {
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
+    replaceHangUpHandler(SIG_DFL);
     for (int& end : wakeUpPipe) {
         ::close(end);
         end = -1;
@@ -59,10 +71,17 @@ std::atomic<Interruption*> listener = nullptr;
 // Runs in a thread of the system's own; what it does not take, ends the program.
 BOOL WINAPI noteInterruption(DWORD event)
 {
-    const bool isMeant = event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT;
+    const bool isClosing = event == CTRL_CLOSE_EVENT;
+    const bool isMeant = isClosing || event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT;
     Interruption* const first = isMeant ? listener.exchange(nullptr) : nullptr;
-    return first != nullptr &&
-           QMetaObject::invokeMethod(first, "interrupted", Qt::QueuedConnection);
+    const bool isTaken =
+        first != nullptr && QMetaObject::invokeMethod(first, "interrupted", Qt::QueuedConnection);
+    if (isClosing) {
+        // The program ends when this returns. So it ends by itself, or when the system has waited
+        // long enough.
+        ::Sleep(INFINITE);
+    }
+    return isTaken;
 }
 
 } // namespace

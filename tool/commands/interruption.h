@@ -2,8 +2,9 @@
 
 #include <QObject>
 
-/// Turns the first Ctrl+C, or the first polite kill, into a signal of the event loop, so that a
-/// command can put right what it has begun. The second one ends the program at once.
+/// Turns the first Ctrl+C, the first polite kill or the loss of the terminal into a signal of the
+/// event loop, so that a command can put right what it has begun. The second one ends the program
+/// at once, but for the loss of the terminal.
 class Interruption : public QObject
 {
     Q_OBJECT

@@ -12,6 +12,8 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int usualWaitMs = 10000;
@@ -23,6 +25,20 @@ struct Recall
     QList<DeviceData> hubs;
     QList<std::optional<int>> presets; ///< of the hubs, in their order
 };
+
+/// Whether one of them tells which preset is active.
+bool isAnyoneThere(const QList<DeviceData>& hubs, int waitMs)
+{
+    PresetRound round(addressesOf(hubs), waitMs, nullptr);
+    QEventLoop untilKnown;
+    QObject::connect(&round, SIGNAL(answered()), &untilKnown, SLOT(quit()));
+    QObject::connect(&round, SIGNAL(finished()), &untilKnown, SLOT(quit()));
+    round.read();
+    untilKnown.exec();
+    return std::any_of(hubs.begin(), hubs.end(), [&round](const DeviceData& hub) {
+        return round.preset(hub.ipAddress).has_value();
+    });
+}
 
 Recall recalled(int layout, const QList<DeviceData>& hubs, int waitMs)
 {
@@ -130,6 +146,10 @@ ExitCode RecallCommand::run(const Arguments& arguments, Terminal& terminal) cons
     const QList<DeviceData> hubs = placedHubs(reading.hall->data());
     if (hubs.isEmpty()) {
         terminal.say(QStringLiteral("%1: no hub stands in a room").arg(file));
+        return ExitCode::CouldNotBeTried;
+    }
+    if (!isAnyoneThere(hubs, *waitMs)) {
+        terminal.say(silenceWords());
         return ExitCode::CouldNotBeTried;
     }
     const Recall recall = recalled(*layout, hubs, *waitMs);

@@ -86,9 +86,22 @@ void walkToTheEnd(HallWalk& walk, WalkProgress& progress)
     untilFinished.exec();
 }
 
+/// Says why no layout was recalled. There is no table of what was never tried.
+ExitCode reportNothing(const WalkResult& result, bool isForPrograms, Terminal& terminal)
+{
+    if (isForPrograms) {
+        terminal.write(walkObject(result));
+    }
+    terminal.say(result.walk.isStopped() ? QStringLiteral("nothing was recalled") : silenceWords());
+    return ExitCode::CouldNotBeTried;
+}
+
 /// Writes what is known, and says what is not as it should be.
 ExitCode report(const WalkResult& result, bool isForPrograms, Terminal& terminal)
 {
+    if (!result.walk.hasRecalled()) {
+        return reportNothing(result, isForPrograms, terminal);
+    }
     if (isForPrograms) {
         terminal.write(walkObject(result));
     } else {
@@ -97,11 +110,10 @@ ExitCode report(const WalkResult& result, bool isForPrograms, Terminal& terminal
     for (const QString& note : restoreNotes(result)) {
         terminal.say(note);
     }
-    const QStringList faults = restoreFaults(result);
-    for (const QString& fault : faults) {
+    for (const QString& fault : restoreFaults(result)) {
         terminal.say(fault);
     }
-    return isWalkRight(result) && faults.isEmpty() ? ExitCode::AllIsWell : ExitCode::SomethingIsNot;
+    return isWalkRight(result) ? ExitCode::AllIsWell : ExitCode::SomethingIsNot;
 }
 
 bool save(QSaveFile& file, const WalkResult& result)
@@ -155,8 +167,8 @@ QString WalkCommand::details() const
         "Each layout is recalled on all hubs that stand in a room, and each hub is then asked "
         "which preset is active. Only what it answers counts.\n"
         "Whoever is in the hall hears it, so it asks before it begins. Afterwards the preset that "
-        "was active before is recalled again, also when the walk is interrupted with Ctrl+C; a "
-        "second Ctrl+C leaves at once.");
+        "was active before is recalled again, also when the walk is interrupted with Ctrl+C or the "
+        "terminal is closed; a second Ctrl+C leaves at once.");
 }
 
 CommandSyntax WalkCommand::syntax() const

@@ -20,6 +20,8 @@ void WalkProgress::sayLayout(int number)
 
 void WalkProgress::sayInterruption()
 {
-    m_terminal->say(
-        QStringLiteral("interrupted: recalls what was active before; once more leaves"));
+    if (m_result->walk.hasRecalled()) {
+        m_terminal->say(
+            QStringLiteral("interrupted: recalls what was active before; once more leaves"));
+    }
 }

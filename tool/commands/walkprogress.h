@@ -5,7 +5,8 @@
 
 #include <QObject>
 
-/// Says of each layout what came of it as soon as that is known, and that a walk is interrupted.
+/// Says of each layout what came of it as soon as that is known, and that a walk is interrupted
+/// which has something to restore.
 class WalkProgress : public QObject
 {
     Q_OBJECT

@@ -45,13 +45,31 @@ QJsonObject layoutObject(const WalkResult& result, const SceneInfo& layout)
             {QStringLiteral("hubs"), hubs}};
 }
 
+/// Why a hub cannot be taken to be where it was before; empty when it can.
+QString restoreFault(const WalkResult& result, const DeviceData& hub)
+{
+    const std::optional<int> before = presetOf(result.walk.before(), hub);
+    const std::optional<int> restored = presetOf(result.walk.restored(), hub);
+    if (!result.walk.hasRecalled() || before == 0 || (before && restored == before)) {
+        return {};
+    }
+    if (!before) {
+        return QStringLiteral("%1: which preset was active before could not be read, so none was "
+                              "recalled again")
+            .arg(hubName(hub));
+    }
+    return QStringLiteral("%1: preset %2 was active before and is not again: %3")
+        .arg(hubName(hub), QString::number(*before), readBackWords(restored, *before));
+}
+
 QJsonObject hubObject(const WalkResult& result, const DeviceData& hub)
 {
     return {{QStringLiteral("address"), hub.ipAddress},
             {QStringLiteral("label"), hub.label},
             {QStringLiteral("mac"), hub.macAddress},
             {QStringLiteral("before"), value(presetOf(result.walk.before(), hub))},
-            {QStringLiteral("restored"), value(presetOf(result.walk.restored(), hub))}};
+            {QStringLiteral("restored"), value(presetOf(result.walk.restored(), hub))},
+            {QStringLiteral("back"), restoreFault(result, hub).isEmpty()}};
 }
 
 } // namespace
@@ -104,7 +122,8 @@ QString walkWords(const WalkResult& result, const SceneInfo& layout, const Devic
 
 bool isWalkRight(const WalkResult& result)
 {
-    return std::all_of(result.layouts.begin(), result.layouts.end(),
+    return restoreFaults(result).isEmpty() &&
+           std::all_of(result.layouts.begin(), result.layouts.end(),
                        [&result](const SceneInfo& layout) {
                            return rightHubCount(result, layout) == result.hubs.size();
                        });
@@ -114,15 +133,9 @@ QStringList restoreFaults(const WalkResult& result)
 {
     QStringList faults;
     for (const DeviceData& hub : result.hubs) {
-        const std::optional<int> before = presetOf(result.walk.before(), hub);
-        if (!before) {
-            faults.append(QStringLiteral("%1: which preset was active before could not be read, so "
-                                         "none was recalled again")
-                              .arg(hubName(hub)));
-        } else if (*before != 0 && presetOf(result.walk.restored(), hub) != before) {
-            faults.append(QStringLiteral("%1: preset %2 was active before and is not again: %3")
-                              .arg(hubName(hub), QString::number(*before),
-                                   readBackWords(presetOf(result.walk.restored(), hub), *before)));
+        const QString fault = restoreFault(result, hub);
+        if (!fault.isEmpty()) {
+            faults.append(fault);
         }
     }
     return faults;
@@ -132,7 +145,7 @@ QStringList restoreNotes(const WalkResult& result)
 {
     QStringList notes;
     for (const DeviceData& hub : result.hubs) {
-        if (presetOf(result.walk.before(), hub) == 0) {
+        if (result.walk.hasRecalled() && presetOf(result.walk.before(), hub) == 0) {
             notes.append(QStringLiteral("%1: no preset was active before; it stays as it is now")
                              .arg(hubName(hub)));
         }

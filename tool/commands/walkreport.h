@@ -27,7 +27,8 @@ QString walkWords(const WalkResult& result, const SceneInfo& layout, const Devic
 /// On how many hubs the layout was active when they were read back.
 qsizetype rightHubCount(const WalkResult& result, const SceneInfo& layout);
 
-/// Whether every layout was read back from every hub, and nothing was left out.
+/// Whether every layout was read back from every hub, nothing was left out, and no hub is
+/// anywhere else than before.
 bool isWalkRight(const WalkResult& result);
 
 /// The hubs that are not back on what was active before, a line each.

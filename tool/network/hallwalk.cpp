@@ -23,17 +23,27 @@ std::optional<HallWalk::Reading> HallWalk::read(int layout) const
 
 void HallWalk::stop()
 {
-    if (m_isRestoring) {
+    if (m_stage == Stage::Restoring) {
         return;
     }
     m_isStopped = true;
     m_layouts.clear();
-    restore();
+    if (m_stage == Stage::Before) {
+        m_round->disconnect(this);
+        takeBefore();
+    } else {
+        m_round->beginReading();
+    }
 }
 
 void HallWalk::takeBefore()
 {
     m_before = reading();
+    if (m_isStopped || m_before.isEmpty()) {
+        Q_EMIT finished();
+        return;
+    }
+    m_stage = Stage::Layouts;
     goOn();
 }
 
@@ -66,11 +76,11 @@ void HallWalk::goOn()
 
 void HallWalk::restore()
 {
-    m_isRestoring = true;
+    m_stage = Stage::Restoring;
     Reading numbers = m_before;
     // 0 is no preset: there is nothing that could be recalled.
     numbers.removeIf([](const auto& each) { return each.value() == 0; });
-    newRound(SLOT(takeRestored()))->recall(numbers, 0);
+    newRound(SLOT(takeRestored()))->recall(numbers, numbers.isEmpty() ? 0 : m_settleMs);
 }
 
 PresetRound* HallWalk::newRound(const char* slot)

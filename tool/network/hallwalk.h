@@ -30,11 +30,17 @@ public:
     /// What was read back after the preset from before was recalled, of those that told it.
     const Reading& restored() const { return m_restored; }
 
+    /// True when a layout was recalled; without that every hub is as it was before. No layout is
+    /// when no hub told its preset.
+    bool hasRecalled() const { return m_stage != Stage::Before; }
+
     /// True when stop() ended it before the last layout.
     bool isStopped() const { return m_isStopped; }
 
 public Q_SLOTS:
-    /// Recalls what was active before now, without the layouts that are left.
+    /// Recalls what was active before, without the layouts that are left; before the first one
+    /// it just finishes. One that hubs may still be loading is read back first: until it is there
+    /// they tell the preset before, which would pass for restored.
     void stop();
 
 Q_SIGNALS:
@@ -49,6 +55,13 @@ private Q_SLOTS:
     void takeRestored();
 
 private:
+    enum class Stage
+    {
+        Before,
+        Layouts,
+        Restoring
+    };
+
     void goOn();
     void restore();
     PresetRound* newRound(const char* slot);
@@ -59,10 +72,10 @@ private:
     int m_settleMs;
     int m_waitMs;
     PresetRound* m_round = nullptr; ///< child; the one under way
+    Stage m_stage = Stage::Before;
     int m_layout = 0;
     Reading m_before;
     QMap<int, Reading> m_read;
     Reading m_restored;
     bool m_isStopped = false;
-    bool m_isRestoring = false;
 };

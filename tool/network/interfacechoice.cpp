@@ -23,6 +23,16 @@ QList<NicRow> withAddress(QList<NicRow> rows)
     return rows;
 }
 
+QString addressFaultOf(const QList<NicRow>& rows)
+{
+    if (rows.isEmpty()) {
+        return QStringLiteral("this computer has no wired interface");
+    }
+    return withAddress(rows).isEmpty()
+               ? QStringLiteral("no wired interface has an IPv4 address: %1").arg(names(rows))
+               : QString();
+}
+
 InterfaceChoice refused(const QString& fault)
 {
     return {{}, fault, {}};
@@ -44,11 +54,11 @@ InterfaceChoice chooseNamed(const QList<NicRow>& rows, const QString& name)
 
 InterfaceChoice chooseOnly(const QList<NicRow>& rows)
 {
-    const QList<NicRow> usable = withAddress(rows);
-    if (usable.isEmpty()) {
-        return refused(
-            QStringLiteral("no wired interface has an IPv4 address: %1").arg(names(rows)));
+    const QString fault = addressFaultOf(rows);
+    if (!fault.isEmpty()) {
+        return refused(fault);
     }
+    const QList<NicRow> usable = withAddress(rows);
     if (usable.size() > 1) {
         return refused(QStringLiteral("there are several wired interfaces, name one with "
                                       "--interface: %1")
@@ -85,11 +95,16 @@ QStringList rivalsOf(const QList<NicInfo>& interfaces, int index)
 
 } // namespace
 
+QString addressFault(const QList<NicInfo>& interfaces)
+{
+    return addressFaultOf(nicRows(interfaces));
+}
+
 InterfaceChoice chooseInterface(const QList<NicInfo>& interfaces, const QString& name)
 {
     const QList<NicRow> rows = nicRows(interfaces);
     if (rows.isEmpty()) {
-        return refused(QStringLiteral("this computer has no wired interface"));
+        return refused(addressFaultOf(rows));
     }
     InterfaceChoice choice = name.isEmpty() ? chooseOnly(rows) : chooseNamed(rows, name);
     if (choice.row) {

@@ -14,6 +14,10 @@ struct InterfaceChoice
     QStringList rivals;
 };
 
+/// Why this computer reaches no device by cable: it has no wired interface, or none with an
+/// address. Empty when it has.
+QString addressFault(const QList<NicInfo>& interfaces);
+
 /// Chooses among the wired interfaces the one of that name; with an empty name the only one that
 /// has an address.
 InterfaceChoice chooseInterface(const QList<NicInfo>& interfaces, const QString& name);

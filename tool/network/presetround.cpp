@@ -44,6 +44,9 @@ std::optional<int> PresetRound::preset(const QString& address) const
 
 void PresetRound::beginReading()
 {
+    if (m_isReading) {
+        return;
+    }
     m_isReading = true;
     m_again.start();
     QTimer::singleShot(m_waitMs, this, SLOT(finish()));
@@ -72,6 +75,7 @@ void PresetRound::note(const QString& /*ipAddress*/, int number)
     reader->deleteLater();
     m_readers.remove(address);
     m_presets.insert(address, number);
+    Q_EMIT answered();
     if (m_expected.value(address, number) == number) {
         m_pending.remove(address);
     }

@@ -32,12 +32,17 @@ public:
     /// What was read last from a hub, 0 for no preset; nothing when it never answered.
     std::optional<int> preset(const QString& address) const;
 
+public Q_SLOTS:
+    /// Reads back now what was recalled, however much was left of its time to settle.
+    void beginReading();
+
 Q_SIGNALS:
+    /// A hub has told which preset is active.
+    void answered();
     /// Every hub has answered as expected, or its time is over.
     void finished();
 
 private Q_SLOTS:
-    void beginReading();
     void askPending();
     void note(const QString& ipAddress, int number);
     void finish();

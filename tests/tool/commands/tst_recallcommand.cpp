@@ -28,6 +28,7 @@ private Q_SLOTS:
     void jsonTellsWhatWasReadBack();
     void hubThatIsNotThereIsNamed_data();
     void hubThatIsNotThereIsNamed();
+    void hallWhereNobodyAnswersIsLeftAlone();
     void realHubRefusesWhatItDoesNotHold();
     void otherDevicesAreLeftAlone();
     void wrongUsageIsOneLine_data();
@@ -100,6 +101,22 @@ void TestRecallCommand::hubThatIsNotThereIsNamed()
     QCOMPARE(run.errors,
              QStringLiteral("tesselctl: Gallery (127.32.1.2): layout 1: %1\n").arg(result));
     QVERIFY2(run.output.contains(result) && run.output.contains(u"ok"), qPrintable(run.output));
+}
+
+void TestRecallCommand::hallWhereNobodyAnswersIsLeftAlone()
+{
+    START_HALL;
+    for (const QString& hub : {stage, gallery}) {
+        hall.device(hub)->setFault(
+            {.exchange = Exchange::CurrentPreset, .kind = FaultKind::NoAnswer});
+    }
+    LiveToolRun tool({QStringLiteral("recall"), QStringLiteral("1"), file.path(), shortWait});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(isOneLine(run.errors) && run.errors.contains(u"no hub answered"),
+             qPrintable(run.errors));
+    QCOMPARE(run.output, QString());
+    QVERIFY(!hall.device(stage)->exchangeNames().contains(QStringLiteral("recall-command")));
 }
 
 void TestRecallCommand::realHubRefusesWhatItDoesNotHold()

@@ -20,6 +20,9 @@ const QString yes = QStringLiteral("--yes");
 const QString atOnce = QStringLiteral("--settle=0");
 const QString shortWait = QStringLiteral("--wait=1");
 
+/// Long enough to press Ctrl+C meanwhile.
+const QString someSettle = QStringLiteral("--settle=4");
+
 /// So long that nothing comes of it while a test runs.
 const QString longSettle = QStringLiteral("--settle=600");
 const QString longWait = QStringLiteral("--wait=600");
@@ -59,7 +62,12 @@ private Q_SLOTS:
     void hubWhosePresetCouldNotBeReadIsNamed();
     void hubThatDoesNotGoBackIsNamed();
     void interruptionRestoresFirst();
+    void closedTerminalRestoresFirst();
     void secondInterruptionLeaves();
+    void interruptionBeforeTheFirstLayoutRecallsNothing();
+    void hubThatIsNotBackIsToldInTheResult_data();
+    void hubThatIsNotBackIsToldInTheResult();
+    void hallWhereNobodyAnswersIsLeftAlone();
     void fileThatIsNoneIsOneLine();
 };
 
@@ -220,7 +228,7 @@ void TestWalkCommand::interruptionRestoresFirst()
 {
     START_HALL;
     RECALL_ON_BOTH(2);
-    LiveToolRun tool({walk, file.path(), yes, longSettle});
+    LiveToolRun tool({walk, file.path(), yes, someSettle});
     QTRY_COMPARE_WITH_TIMEOUT(hall.device(stage)->currentPreset(), 1, 30000);
     QTRY_COMPARE_WITH_TIMEOUT(hall.device(gallery)->currentPreset(), 1, 30000);
     tool.interrupt();
@@ -230,6 +238,21 @@ void TestWalkCommand::interruptionRestoresFirst()
     QCOMPARE(hall.device(gallery)->currentPreset(), 2);
     QVERIFY2(run.errors.contains(u"interrupted: "), qPrintable(run.errors));
     QVERIFY2(run.output.contains(u"not tried"), qPrintable(run.output));
+}
+
+void TestWalkCommand::closedTerminalRestoresFirst()
+{
+    START_HALL;
+    RECALL_ON_BOTH(2);
+    LiveToolRun tool({walk, file.path(), yes, someSettle});
+    QTRY_COMPARE_WITH_TIMEOUT(hall.device(stage)->currentPreset(), 1, 30000);
+    QTRY_COMPARE_WITH_TIMEOUT(hall.device(gallery)->currentPreset(), 1, 30000);
+    tool.closeTerminal();
+    QVERIFY(tool.hasSaid(QStringLiteral("interrupted: ")));
+    tool.closeTerminal();
+    QCOMPARE(tool.ended().exitCode, 1);
+    QCOMPARE(recalls(hall.device(stage)).join(u' '), QStringLiteral("1 2"));
+    QCOMPARE(hall.device(gallery)->currentPreset(), 2);
 }
 
 void TestWalkCommand::secondInterruptionLeaves()
@@ -246,6 +269,69 @@ void TestWalkCommand::secondInterruptionLeaves()
     tool.ended();
     QVERIFY(tool.isKilled());
     QCOMPARE(hall.device(stage)->currentPreset(), 1);
+}
+
+void TestWalkCommand::interruptionBeforeTheFirstLayoutRecallsNothing()
+{
+    START_HALL;
+    RECALL_ON_BOTH(2);
+    hall.device(gallery)->setFault(
+        {.exchange = Exchange::CurrentPreset, .kind = FaultKind::NoAnswer});
+    const QString kept = file.beside(QStringLiteral("result.json"));
+    LiveToolRun tool({walk, file.path(), yes, atOnce, longWait, QStringLiteral("-o"), kept});
+    QTRY_VERIFY_WITH_TIMEOUT(
+        hall.device(gallery)->exchangeNames().contains(QStringLiteral("current-preset")), 30000);
+    tool.interrupt();
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 3);
+    QCOMPARE(run.errors, QStringLiteral("tesselctl: nothing was recalled\n"));
+    QCOMPARE(recalls(hall.device(stage)), QStringList());
+    const QJsonObject object = QJsonDocument::fromJson(bytesOf(kept).toUtf8()).object();
+    QVERIFY(!object.value(QLatin1String("ok")).toBool(true));
+    const QJsonArray hubs = object.value(QLatin1String("hubs")).toArray();
+    QCOMPARE(hubs.size(), 2);
+    QVERIFY(hubs.at(1).toObject().value(QLatin1String("before")).isNull());
+    QVERIFY(hubs.at(1).toObject().value(QLatin1String("back")).toBool());
+}
+
+void TestWalkCommand::hubThatIsNotBackIsToldInTheResult_data()
+{
+    QTest::addColumn<Fault>("fault");
+    QTest::newRow("does not go back")
+        << Fault{.exchange = Exchange::RecallCommand, .kind = FaultKind::ErrorAnswer, .skip = 3};
+    QTest::newRow("did not tell where it was")
+        << Fault{.exchange = Exchange::CurrentPreset, .kind = FaultKind::NoAnswer, .times = 1};
+}
+
+void TestWalkCommand::hubThatIsNotBackIsToldInTheResult()
+{
+    QFETCH(const Fault, fault);
+    START_HALL;
+    RECALL_ON_BOTH(2);
+    hall.device(gallery)->setFault(fault);
+    LiveToolRun tool({walk, file.path(), yes, atOnce, shortWait, QStringLiteral("--json")});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 1);
+    const QJsonObject object = QJsonDocument::fromJson(run.output.toUtf8()).object();
+    QVERIFY(!object.value(QLatin1String("ok")).toBool(true));
+    const QJsonArray hubs = object.value(QLatin1String("hubs")).toArray();
+    QVERIFY(hubs.at(0).toObject().value(QLatin1String("back")).toBool());
+    QVERIFY(!hubs.at(1).toObject().value(QLatin1String("back")).toBool(true));
+}
+
+void TestWalkCommand::hallWhereNobodyAnswersIsLeftAlone()
+{
+    START_HALL;
+    for (const QString& hub : {stage, gallery}) {
+        hall.device(hub)->setFault(
+            {.exchange = Exchange::CurrentPreset, .kind = FaultKind::NoAnswer});
+    }
+    LiveToolRun tool({walk, file.path(), yes, atOnce, shortWait});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(isOneLine(run.errors) && run.errors.contains(u"no hub answered"),
+             qPrintable(run.errors));
+    QCOMPARE(recalls(hall.device(stage)), QStringList());
 }
 
 void TestWalkCommand::fileThatIsNoneIsOneLine()

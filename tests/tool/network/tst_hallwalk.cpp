@@ -1,5 +1,6 @@
 #include "hall.h"
 #include "hallwalk.h"
+#include "presetcommandsenders.h"
 #include "testcase.h"
 
 #include <QSignalSpy>
@@ -25,6 +26,17 @@ HallWalk::Reading both(int number)
     return {{first, number}, {second, number}};
 }
 
+/// What the first device was told and asked so far.
+qsizetype recallCount(const Hall& hall)
+{
+    return hall.device(first)->exchangeNames().count(QStringLiteral("recall-command"));
+}
+
+qsizetype questionCount(const Hall& hall)
+{
+    return hall.device(first)->exchangeNames().count(QStringLiteral("current-preset"));
+}
+
 } // namespace
 
 /// A walk through the layouts over real sockets.
@@ -41,13 +53,26 @@ private Q_SLOTS:
     void hubThatNeverAnswersHoldsUpNobodyElse();
     void hubThatRefusesConnectionsIsAskedAgain();
     void hubThatIsSlowIsAskedAgainUntilItIsThere();
-    void stoppingRestoresAtOnce();
+    void stoppingRestoresWithoutTheOtherLayouts();
+    void stoppingWaitsForTheLayoutThatIsLoading();
+    void stoppingBeforeTheFirstLayoutRecallsNothing();
+    void hallWhereNobodyAnswersIsLeftAlone();
 };
 
 #define START_HALL                                                                                 \
     Hall hall(twoDevices());                                                                       \
     QString error;                                                                                 \
     QVERIFY2(hall.start(&error), qPrintable(error))
+
+#define RECALL_ON_BOTH(number)                                                                     \
+    {                                                                                              \
+        PresetRound round({first, second}, patienceMs, nullptr);                                   \
+        QSignalSpy isSet(&round, SIGNAL(finished()));                                              \
+        round.recall(both(number), 0);                                                             \
+        QTRY_COMPARE_WITH_TIMEOUT(isSet.size(), 1, patienceMs);                                    \
+        hall.device(first)->clearJournal();                                                        \
+        hall.device(second)->clearJournal();                                                       \
+    }
 
 #define WALK(layouts, waitMs)                                                                      \
     HallWalk walk({first, second}, layouts, 0, waitMs);                                            \
@@ -161,13 +186,10 @@ void TestHallWalk::hubThatIsSlowIsAskedAgainUntilItIsThere()
     QCOMPARE(round.preset(first).value_or(-1), 4);
 }
 
-void TestHallWalk::stoppingRestoresAtOnce()
+void TestHallWalk::stoppingRestoresWithoutTheOtherLayouts()
 {
     START_HALL;
-    PresetRound round({first, second}, patienceMs, nullptr);
-    QSignalSpy isSet(&round, SIGNAL(finished()));
-    round.recall(both(7), 0);
-    QTRY_COMPARE_WITH_TIMEOUT(isSet.size(), 1, patienceMs);
+    RECALL_ON_BOTH(7);
     HallWalk walk({first, second}, {1, 2, 3}, 0, patienceMs);
     QSignalSpy over(&walk, SIGNAL(finished()));
     connect(&walk, SIGNAL(walked(int)), &walk, SLOT(stop()));
@@ -178,6 +200,63 @@ void TestHallWalk::stoppingRestoresAtOnce()
     QVERIFY(!walk.read(2));
     QCOMPARE(walk.restored(), both(7));
     QCOMPARE(hall.device(first)->currentPreset(), 7);
+}
+
+void TestHallWalk::stoppingWaitsForTheLayoutThatIsLoading()
+{
+    START_HALL;
+    RECALL_ON_BOTH(7);
+    hall.device(first)->setFault(
+        {.exchange = Exchange::RecallCommand, .kind = FaultKind::NoEffect, .times = 1});
+    HallWalk walk({first, second}, {1, 2}, 0, patienceMs);
+    QSignalSpy over(&walk, SIGNAL(finished()));
+    walk.start();
+    QTRY_COMPARE(recallCount(hall), 1);
+    walk.stop();
+    // It goes on telling the preset before, and that is no reason to take it for restored.
+    const qsizetype asked = questionCount(hall);
+    QTRY_VERIFY_WITH_TIMEOUT(questionCount(hall) > asked + 2, patienceMs);
+    QCOMPARE(recallCount(hall), 1);
+    PresetRound loaded({first}, patienceMs, nullptr);
+    loaded.recall({{first, 1}}, 0);
+    QTRY_COMPARE_WITH_TIMEOUT(over.size(), 1, patienceMs);
+    QCOMPARE(walk.read(1).value_or(HallWalk::Reading()), both(1));
+    QVERIFY(!walk.read(2));
+    QCOMPARE(walk.restored(), both(7));
+    QCOMPARE(hall.device(first)->currentPreset(), 7);
+}
+
+void TestHallWalk::stoppingBeforeTheFirstLayoutRecallsNothing()
+{
+    START_HALL;
+    RECALL_ON_BOTH(7);
+    hall.device(second)->setFault(
+        {.exchange = Exchange::CurrentPreset, .kind = FaultKind::NoAnswer});
+    HallWalk walk({first, second}, {1, 2}, 0, patienceMs);
+    QSignalSpy over(&walk, SIGNAL(finished()));
+    walk.start();
+    // Whoever has answered is listened to no longer.
+    QTRY_COMPARE(walk.findChildren<CurrentPresetSender*>().size(), 2);
+    QTRY_COMPARE(walk.findChildren<CurrentPresetSender*>().size(), 1);
+    walk.stop();
+    QCOMPARE(over.size(), 1);
+    QVERIFY(walk.isStopped());
+    QVERIFY(!walk.hasRecalled());
+    QCOMPARE(walk.before(), (HallWalk::Reading{{first, 7}}));
+    QCOMPARE(recallCount(hall), 0);
+}
+
+void TestHallWalk::hallWhereNobodyAnswersIsLeftAlone()
+{
+    START_HALL;
+    for (const QString& hub : {first, second}) {
+        hall.device(hub)->setFault(
+            {.exchange = Exchange::CurrentPreset, .kind = FaultKind::NoAnswer});
+    }
+    WALK((QList{1, 2}), shortMs);
+    QVERIFY(!walk.hasRecalled());
+    QVERIFY(!walk.isStopped());
+    QCOMPARE(recallCount(hall), 0);
 }
 
 TESSEL_TEST_MAIN(TestHallWalk)

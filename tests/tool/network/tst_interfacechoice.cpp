@@ -35,6 +35,7 @@ class TestInterfaceChoice : public TestCase
 private Q_SLOTS:
     void choiceAmongInterfaces_data();
     void choiceAmongInterfaces();
+    void computerWithoutWiredAddressReachesNobody();
 };
 
 void TestInterfaceChoice::choiceAmongInterfaces_data()
@@ -74,6 +75,16 @@ void TestInterfaceChoice::choiceAmongInterfaces()
     QTEST(choice.row ? choice.row->name : QString(), "chosen");
     QTEST(choice.fault, "fault");
     QTEST(choice.rivals, "rivals");
+}
+
+void TestInterfaceChoice::computerWithoutWiredAddressReachesNobody()
+{
+    QCOMPARE(addressFault({loopback, wireless}),
+             QStringLiteral("this computer has no wired interface"));
+    QCOMPARE(addressFault({loopback, idle}),
+             QStringLiteral("no wired interface has an IPv4 address: eth2"));
+    QCOMPARE(addressFault({wired, idle}), QString());
+    QCOMPARE(addressFault({wired, elsewhere}), QString());
 }
 
 TESSEL_TEST_MAIN(TestInterfaceChoice)
