@@ -171,10 +171,9 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
-    if (answer == QMessageBox::Yes) {
-        saveWork();
-    }
-    event->accept();
+    // Work in a file of the user's own may be all that there is of a hall: it stays at hand.
+    const bool isSaved = answer != QMessageBox::Yes || saveWork();
+    event->setAccepted(isSaved || m_file == nullptr);
 }
 
 /// On the installation step nothing while the hubs hold what the document holds. The pages before
@@ -342,10 +341,10 @@ void MainWindow::offerToRemoveResumeFile()
     }
 }
 
-void MainWindow::saveWork()
+bool MainWindow::saveWork()
 {
     if (m_file == nullptr && !QDir().mkpath(resumeFolder())) {
-        return;
+        return false;
     }
     setPageIndex(*m_doc, m_currentIndex);
     setWindowSize(*m_doc, size());
@@ -355,13 +354,14 @@ void MainWindow::saveWork()
         QMessageBox::critical(this, QStringLiteral("Error"), tr("Information could not be saved."),
                               QMessageBox::Ok);
     }
+    return isSaved;
 }
 
-/// A file that could not be opened may hold more than this version knows: it is left alone.
+/// A file that may hold more than the document is left alone.
 bool MainWindow::saveFile() const
 {
     const QString path = m_file->path();
-    if (m_file->error().isEmpty()) {
+    if (!m_file->holdsMore()) {
         return m_doc->saveResume(path);
     }
     QDir().mkpath(QFileInfo(path).path());

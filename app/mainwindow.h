@@ -65,7 +65,7 @@ private:
     void showLoadedWork();
     void restorePages();
     void offerToRemoveResumeFile();
-    void saveWork();
+    bool saveWork();
     bool saveFile() const;
 
     IDocAccessor* m_doc;

@@ -70,12 +70,21 @@ bool isConfigurationPath(const QString& argument)
     return argument.endsWith(u".tessel", Qt::CaseInsensitive) && !argument.startsWith(u'-');
 }
 
-/// Without the log's option and the file behind it, whatever that is called.
+/// Whether a log's option stands here with a file behind it. Who forgets the file's name is to lose
+/// neither a hall, to which lines would be added, nor the argument that follows.
+bool isLogAt(const QStringList& arguments, qsizetype index)
+{
+    const QString file = arguments.value(index + 1);
+    return arguments.at(index) == logOption && !file.isEmpty() && !file.startsWith(u'-') &&
+           !isConfigurationPath(file);
+}
+
+/// Without the log's option and the file behind it.
 QStringList withoutLog(const QStringList& arguments)
 {
     QStringList others;
     for (qsizetype index = 0; index < arguments.size(); ++index) {
-        if (arguments.at(index) == logOption && index + 1 < arguments.size()) {
+        if (isLogAt(arguments, index)) {
             ++index;
         } else {
             others.append(arguments.at(index));
@@ -136,8 +145,13 @@ QString configurationPath(const QStringList& arguments)
 
 QString logPath(const QStringList& arguments)
 {
-    const qsizetype index = arguments.lastIndexOf(logOption);
-    return index > 0 ? arguments.value(index + 1) : QString();
+    QString path;
+    for (qsizetype index = 1; index < arguments.size(); ++index) {
+        if (isLogAt(arguments, index)) {
+            path = arguments.at(++index);
+        }
+    }
+    return path;
 }
 
 QStringList ignoredArguments(const QStringList& arguments)

@@ -28,8 +28,8 @@ std::optional<DeviceData> deviceFromArgument(const QString& argument);
 /// that ends in ".tessel" and does not look like an option. Empty when there is none.
 QString configurationPath(const QStringList& arguments);
 
-/// The file that requests and replies are to be written to: the argument behind the last "--log".
-/// Empty when there is none.
+/// The file that requests and replies are to be written to: the argument behind the last "--log",
+/// unless it begins with "-" or ends in ".tessel". Empty when there is none.
 QString logPath(const QStringList& arguments);
 
 /// What the wizard can do nothing with among its arguments (the program's name first), each in a

@@ -32,8 +32,9 @@ bool ConfigurationFile::read()
 bool ConfigurationFile::load()
 {
     const QList<SavedDevice> missing = m_doc->takeOver(*m_configuration);
-    if (!missing.isEmpty()) {
+    m_isDeviceMissing = !missing.isEmpty();
+    if (m_isDeviceMissing) {
         warnOfMissingDevices(missing);
     }
-    return missing.isEmpty();
+    return !m_isDeviceMissing;
 }

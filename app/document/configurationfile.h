@@ -32,9 +32,14 @@ public:
     /// user is told of these, and the result is false.
     bool load();
 
+    /// Whether the file may hold more than the document: it was not read, or load() left devices
+    /// out.
+    bool holdsMore() const { return !m_error.isEmpty() || m_isDeviceMissing; }
+
 private:
     TesselDoc* m_doc;
     QString m_path;
     std::unique_ptr<Configuration> m_configuration; ///< empty before read()
     QString m_error;
+    bool m_isDeviceMissing = false;
 };

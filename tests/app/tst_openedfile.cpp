@@ -116,7 +116,8 @@ private Q_SLOTS:
     void aFileThatCannotBeReadIsToldOnceAndTheGridIsEmpty();
     void whatIsSavedThenGoesBesideTheUnreadableFile();
     void aFileThatIsNotThereIsToldAndMadeOnYes();
-    void aFileThatCannotBeWrittenIsTold();
+    void aFileThatWasOpenedWithoutADeviceStaysAndTheNewOneIsBesideIt();
+    void aFileThatCannotBeWrittenIsToldAndTheWindowStays();
 
 private:
     void checkResumeFile();
@@ -352,7 +353,20 @@ void TestOpenedFile::aFileThatIsNotThereIsToldAndMadeOnYes()
     QCOMPARE(pageIndex(doc), 1);
 }
 
-void TestOpenedFile::aFileThatCannotBeWrittenIsTold()
+void TestOpenedFile::aFileThatWasOpenedWithoutADeviceStaysAndTheNewOneIsBesideIt()
+{
+    const QByteArray bytes = saveHall(8);
+    {
+        Opened again({rightSpeaker});
+        const DialogAnswerer told("Missing device", pressing("OK"));
+        again.open();
+        again.close("Yes");
+    }
+    QCOMPARE(bytesOf(path()), bytes);
+    QVERIFY(QFile::exists(folder() + QStringLiteral("/old hall (2).tessel")));
+}
+
+void TestOpenedFile::aFileThatCannotBeWrittenIsToldAndTheWindowStays()
 {
     saveHall(5);
     Opened again;
@@ -361,7 +375,9 @@ void TestOpenedFile::aFileThatCannotBeWrittenIsTold()
     QVERIFY(QFile::remove(path()));
     QVERIFY(QDir().mkpath(path()));
     const DialogAnswerer told("Error", pressing("OK"));
-    again.close("Yes");
+    const DialogAnswerer question("Save Information?", pressing("Yes"));
+    QVERIFY(!again.user.window->close());
+    QVERIFY(again.user.window->isVisible());
     QCOMPARE(told.text(), QStringLiteral("Information could not be saved."));
 }
 

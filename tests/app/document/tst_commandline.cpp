@@ -275,7 +275,13 @@ void TestCommandLine::theLogIsTheArgumentBehindItsOption_data()
     row("-N:1", "", "", {});
     row("--log a.jsonl", "a.jsonl", "", {});
     row("--log a.jsonl hall.tessel", "a.jsonl", "hall.tessel", {});
-    row("hall.tessel --log /logs/b.tessel", "/logs/b.tessel", "hall.tessel", {});
+    row("hall.tessel --log /logs/b.jsonl", "/logs/b.jsonl", "hall.tessel", {});
+    row("--log hall.tessel", "", "hall.tessel", {QStringLiteral("--log")});
+    row("--log HALL.TESSEL --log a.jsonl", "a.jsonl", "HALL.TESSEL", {QStringLiteral("--log")});
+    row("--log a.jsonl --log hall.tessel", "a.jsonl", "hall.tessel", {QStringLiteral("--log")});
+    row("--log -N:1", "", "", {QStringLiteral("--log")});
+    row("--log -D:PX-HB/A/2.1.0/10.0.0.1/00:a0:de:00:00:01/HTTP/secret", "", "",
+        {QStringLiteral("--log")});
     row("--log a.jsonl --log b.jsonl", "b.jsonl", "", {});
     row("--log /logs/a stray", "/logs/a", "", {QStringLiteral("stray")});
     row("--log", "", "", {QStringLiteral("--log")});
