@@ -99,9 +99,9 @@ QJsonValue blackedOut(const QJsonValue& value, Secrets secrets)
     return result;
 }
 
-QString jsonText(const QJsonObject& object)
+QString jsonText(const QJsonDocument& document)
 {
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+    return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
 }
 
 /// A body around the log-in that is no JSON object may be anything.
@@ -111,15 +111,21 @@ QString logInBody(const QString& body)
     if (!document.isObject()) {
         return body.isEmpty() ? body : QString(black);
     }
-    return jsonText(blackedOut(document.object(), Secrets::AllTexts));
+    return jsonText(QJsonDocument(blackedOut(document.object(), Secrets::AllTexts)));
 }
 
 /// Any other body stays as it is, unless it is JSON with names that say that they are secret.
 QString otherBody(const QString& body)
 {
     const QJsonDocument document = QJsonDocument::fromJson(body.toUtf8());
-    const QJsonObject result = blackedOut(document.object(), Secrets::ByName);
-    return result == document.object() ? body : jsonText(result);
+    const QJsonValue value =
+        document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
+    const QJsonValue result = blackedOut(value, Secrets::ByName);
+    if (result == value) {
+        return body;
+    }
+    return result.isArray() ? jsonText(QJsonDocument(result.toArray()))
+                            : jsonText(QJsonDocument(result.toObject()));
 }
 
 } // namespace

@@ -198,6 +198,8 @@ void TestExchangeLog::noMessageTellsASecret_data()
         << HttpRequest::getIdentification(hub, token)
         << reply(
                R"({"users": [{"name": "a", "Password-Hash": "5ebe2294ecd0e0f08eab7690d2a6ee69"}]})");
+    QTest::newRow("a list as another reply")
+        << HttpRequest::getIdentification(hub, token) << reply(R"([{"token": "9f3c-Token-77aa"}])");
     QTest::newRow("lists around the log-in")
         << tokenRequest() << reply(R"({"tokens": ["9f3c-Token-77aa"], "x": ["9f3c-Token-77aa"]})");
     QTest::newRow("a header line of the hub's own")
