@@ -13,8 +13,8 @@ public:
     explicit ListComboBox(QWidget* parent = nullptr);
 
     /// Tells screen readers what is chosen here, and for which device. It is the accessible name;
-    /// where they are told the chosen text in its place, they find it as the description, before what
-    /// the tool tip says by then.
+    /// where they are told the chosen text in its place, they find it as the description, before
+    /// what the tool tip says by then.
     void setPurpose(const QString& purpose);
 
 protected:
