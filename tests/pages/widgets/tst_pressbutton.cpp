@@ -340,7 +340,7 @@ void TestPressButton::assistiveTechnologySeesWhetherALinkBoxIsChecked()
     QVERIFY(!interface->state().checked);
     actionsOf(&button)->doAction(press());
     QVERIFY(interface->state().checked);
-    const QString toggle = QAccessibleActionInterface::toggleAction();
+    const QString& toggle = QAccessibleActionInterface::toggleAction();
     QVERIFY(actionsOf(&button)->actionNames().contains(toggle));
     actionsOf(&button)->doAction(toggle);
     QVERIFY(!interface->state().checked);
