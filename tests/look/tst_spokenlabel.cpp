@@ -4,11 +4,15 @@
 
 #include <QTest>
 
+#include <optional>
+
 class TestSpokenLabel : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
+    void cleanup();
     void isAStatusBarNamedByWhatItSays();
     void saysEachNewTextOnceAndNoneTwice();
     void announcesWhatIsShownNowhere();
@@ -17,6 +21,9 @@ private Q_SLOTS:
     void saysWhatItShowsWhenItComesToSight();
     void saysItAgainEachTimeItComesToSight();
     void isNotNamedByWhatWasAnnouncedBeforeItWasHidden();
+
+private:
+    std::optional<Announcements> m_announcements;
 };
 
 namespace {
@@ -31,6 +38,20 @@ QString nameOf(QWidget& widget)
 
 } // namespace
 
+void TestSpokenLabel::init()
+{
+    TestCase::init();
+    m_announcements.emplace();
+    if (!m_announcements->canHear()) {
+        QSKIP("This system has no ear for what screen readers are told.");
+    }
+}
+
+void TestSpokenLabel::cleanup()
+{
+    m_announcements.reset();
+}
+
 void TestSpokenLabel::isAStatusBarNamedByWhatItSays()
 {
     SpokenLabel label(nullptr);
@@ -44,10 +65,6 @@ void TestSpokenLabel::isAStatusBarNamedByWhatItSays()
 
 void TestSpokenLabel::saysEachNewTextOnceAndNoneTwice()
 {
-    const Announcements announcements;
-    if (!announcements.canHear()) {
-        QSKIP("This system has no ear for what screen readers are told.");
-    }
     SpokenLabel label(nullptr);
     label.show();
     label.say(one);
@@ -67,10 +84,6 @@ void TestSpokenLabel::saysEachNewTextOnceAndNoneTwice()
 
 void TestSpokenLabel::announcesWhatIsShownNowhere()
 {
-    const Announcements announcements;
-    if (!announcements.canHear()) {
-        QSKIP("This system has no ear for what screen readers are told.");
-    }
     SpokenLabel label(nullptr);
     label.show();
     label.announce(one);
@@ -81,10 +94,6 @@ void TestSpokenLabel::announcesWhatIsShownNowhere()
 
 void TestSpokenLabel::announcesTheSameWordsAsOftenAsTheyCome()
 {
-    const Announcements announcements;
-    if (!announcements.canHear()) {
-        QSKIP("This system has no ear for what screen readers are told.");
-    }
     SpokenLabel label(nullptr);
     label.show();
     label.announce(one);
@@ -96,10 +105,6 @@ void TestSpokenLabel::announcesTheSameWordsAsOftenAsTheyCome()
 
 void TestSpokenLabel::showsWhatWasJustAnnouncedWithoutSayingItAgain()
 {
-    const Announcements announcements;
-    if (!announcements.canHear()) {
-        QSKIP("This system has no ear for what screen readers are told.");
-    }
     SpokenLabel label(nullptr);
     label.show();
     label.announce(one + u' ' + two);
@@ -111,10 +116,6 @@ void TestSpokenLabel::showsWhatWasJustAnnouncedWithoutSayingItAgain()
 
 void TestSpokenLabel::saysWhatItShowsWhenItComesToSight()
 {
-    const Announcements announcements;
-    if (!announcements.canHear()) {
-        QSKIP("This system has no ear for what screen readers are told.");
-    }
     SpokenLabel label(nullptr);
     label.say(one);
     label.say(two);
@@ -126,10 +127,6 @@ void TestSpokenLabel::saysWhatItShowsWhenItComesToSight()
 
 void TestSpokenLabel::saysItAgainEachTimeItComesToSight()
 {
-    const Announcements announcements;
-    if (!announcements.canHear()) {
-        QSKIP("This system has no ear for what screen readers are told.");
-    }
     SpokenLabel label(nullptr);
     label.show();
     label.say(one);
@@ -146,10 +143,6 @@ void TestSpokenLabel::saysItAgainEachTimeItComesToSight()
 
 void TestSpokenLabel::isNotNamedByWhatWasAnnouncedBeforeItWasHidden()
 {
-    const Announcements announcements;
-    if (!announcements.canHear()) {
-        QSKIP("This system has no ear for what screen readers are told.");
-    }
     SpokenLabel label(nullptr);
     label.show();
     label.announce(one);

@@ -9,7 +9,9 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
+
 #include <QTreeWidget>
+#include <optional>
 
 namespace {
 
@@ -42,6 +44,8 @@ class TestAnnouncements : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
+    void cleanup();
     void aRefusedRoomIsToldEachTime();
     void aRoomRefusedByAStrokeOfKeysIsToldOnce();
     void aDrawnRoomIsNoRefusal();
@@ -49,14 +53,27 @@ private Q_SLOTS:
     void everyNewStatusIsToldOnce();
     void anErrorIsToldWithItsReasonOnce();
     void installingAgainTellsItAgain();
+
+private:
+    std::optional<Announcements> m_announcements;
 };
+
+void TestAnnouncements::init()
+{
+    TestCase::init();
+    m_announcements.emplace();
+    if (!m_announcements->canHear()) {
+        QSKIP("This system has no ear for what screen readers are told.");
+    }
+}
+
+void TestAnnouncements::cleanup()
+{
+    m_announcements.reset();
+}
 
 void TestAnnouncements::aRefusedRoomIsToldEachTime()
 {
-    const Announcements announcements;
-    if (!announcements.canHear()) {
-        QSKIP("This system has no ear for what screen readers are told.");
-    }
     const Shown<PageRoomDesign> step(3);
     QWidget* editor = widgetOf(step.page, "roomEditor");
     // Three rooms leave the last two columns; the fourth room takes one cell of them.
@@ -71,10 +88,6 @@ void TestAnnouncements::aRefusedRoomIsToldEachTime()
 
 void TestAnnouncements::aRoomRefusedByAStrokeOfKeysIsToldOnce()
 {
-    const Announcements announcements;
-    if (!announcements.canHear()) {
-        QSKIP("This system has no ear for what screen readers are told.");
-    }
     const Shown<PageRoomDesign> step(3);
     QWidget* editor = widgetOf(step.page, "roomEditor");
     QTest::mouseClick(editor, Qt::LeftButton, {}, {editor->width() - 10, 10});
@@ -89,10 +102,6 @@ void TestAnnouncements::aRoomRefusedByAStrokeOfKeysIsToldOnce()
 
 void TestAnnouncements::aDrawnRoomIsNoRefusal()
 {
-    const Announcements announcements;
-    if (!announcements.canHear()) {
-        QSKIP("This system has no ear for what screen readers are told.");
-    }
     const Shown<PageRoomDesign> step(2);
     QWidget* editor = widgetOf(step.page, "roomEditor");
     QTest::mouseClick(editor, Qt::LeftButton, {}, {editor->width() - 10, 10});
@@ -102,10 +111,6 @@ void TestAnnouncements::aDrawnRoomIsNoRefusal()
 
 void TestAnnouncements::anAddedLayoutIsToldAndOneThatExistsIsNot()
 {
-    const Announcements announcements;
-    if (!announcements.canHear()) {
-        QSKIP("This system has no ear for what screen readers are told.");
-    }
     const Shown<PageCreateScene> step(3);
     press(widgetOf(step.page, "addLayoutButton"));
     QCOMPARE(Announcements::takeSaid(), QStringList{QStringLiteral("Layout 1 was added: 1/2/3.")});
@@ -118,10 +123,6 @@ void TestAnnouncements::anAddedLayoutIsToldAndOneThatExistsIsNot()
 
 void TestAnnouncements::everyNewStatusIsToldOnce()
 {
-    const Announcements announcements;
-    if (!announcements.canHear()) {
-        QSKIP("This system has no ear for what screen readers are told.");
-    }
     const InstallHall step(quickHall(QStringLiteral("127.85.1.1"), 2, 0));
     QStringList labels;
     for (int row = 0; row < 2; ++row) {
@@ -141,10 +142,6 @@ void TestAnnouncements::everyNewStatusIsToldOnce()
 
 void TestAnnouncements::anErrorIsToldWithItsReasonOnce()
 {
-    const Announcements announcements;
-    if (!announcements.canHear()) {
-        QSKIP("This system has no ear for what screen readers are told.");
-    }
     const InstallHall step(quickHall(QStringLiteral("127.85.1.11"), 1, 0));
     step.setFault(1, {.exchange = Exchange::Status, .kind = FaultKind::Status, .number = 500});
     const QString label = step.list()->topLevelItem(0)->text(0);
@@ -162,10 +159,6 @@ void TestAnnouncements::anErrorIsToldWithItsReasonOnce()
 
 void TestAnnouncements::installingAgainTellsItAgain()
 {
-    const Announcements announcements;
-    if (!announcements.canHear()) {
-        QSKIP("This system has no ear for what screen readers are told.");
-    }
     const InstallHall step(quickHall(QStringLiteral("127.85.1.21"), 1, 0));
     step.setFault(
         1, {.exchange = Exchange::Status, .kind = FaultKind::Status, .number = 500, .times = 1});
