@@ -11,11 +11,6 @@
 
 namespace {
 
-constexpr int maxWindowSide = 10000;
-// Ten times what the wizard makes: more would only stall its pages.
-constexpr qsizetype maxLayouts = 100;
-constexpr qsizetype maxRoomGroupLength = 64;
-
 /// A name as a string without a copy of it: names last as long as the program.
 QString literal(QStringView name)
 {
@@ -116,7 +111,8 @@ std::optional<RoomInfo> plausible(const RoomInfo& room)
 
 std::optional<SceneInfo> plausible(const SceneInfo& scene)
 {
-    return scene.roomGroup.size() <= maxRoomGroupLength ? std::optional(scene) : std::nullopt;
+    return scene.roomGroup.size() <= SavedWorkLimit::layoutText ? std::optional(scene)
+                                                                : std::nullopt;
 }
 
 template <typename Record>
@@ -169,7 +165,7 @@ SavedSection readSection(BoundedXml& xml)
 SavedSection readScenes(BoundedXml& xml)
 {
     QList<SceneInfo> scenes = readList<SceneInfo>(xml);
-    scenes.resize(std::min(scenes.size(), maxLayouts));
+    scenes.resize(std::min(scenes.size(), SavedWorkLimit::layouts));
     return scenes;
 }
 
@@ -179,7 +175,7 @@ SavedSection readWindowSize(BoundedXml& xml)
     const auto sides = readRecord<WindowSides>(xml);
     xml.leave();
     const QSize size(sides.width, sides.height);
-    const QSize largest(maxWindowSide, maxWindowSide);
+    const QSize largest(SavedWorkLimit::windowSide, SavedWorkLimit::windowSide);
     return size.isValid() && size.boundedTo(largest) == size ? size : QSize();
 }
 

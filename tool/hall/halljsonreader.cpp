@@ -6,6 +6,7 @@
 #include "jsonfields.h"
 #include "pngstream.h"
 #include "resumecells.h"
+#include "resumexml.h"
 #include "roomgroup.h"
 #include "roomtext.h"
 #include "wizardpage.h"
@@ -20,11 +21,18 @@ namespace {
 
 namespace Key = HallJsonKey;
 
-constexpr int maxWindowSide = 10000;
 constexpr int maxNumber = std::numeric_limits<int>::max();
 constexpr int maxThumbnailSide = 256;
-// What the file's reader takes; the wizard makes ten.
-constexpr qsizetype maxLayouts = 100;
+
+/// The file drops a layout of a longer text, and with it what was chosen for it.
+void judgeLength(JsonFields& layout, const QString& text)
+{
+    if (text.size() > SavedWorkLimit::layoutText) {
+        layout.fault(Key::rooms(), QStringLiteral("%1 characters; a file holds %2")
+                                       .arg(text.size())
+                                       .arg(SavedWorkLimit::layoutText));
+    }
+}
 
 /// Reads the parts of a hall, each after those that it depends on.
 class Reader
@@ -135,8 +143,8 @@ void Reader::readWindow()
 {
     if (m_root.has(Key::window())) {
         JsonFields window(m_root.value(Key::window()), u'.' + Key::window(), &m_faults);
-        hall().windowSize = {window.number(Key::width(), 0, maxWindowSide, 0),
-                             window.number(Key::height(), 0, maxWindowSide, 0)};
+        hall().windowSize = {window.number(Key::width(), 0, SavedWorkLimit::windowSide, 0),
+                             window.number(Key::height(), 0, SavedWorkLimit::windowSide, 0)};
         window.finish();
     }
 }
@@ -204,7 +212,7 @@ void Reader::readExactRooms()
 void Reader::readLayouts()
 {
     const QJsonArray layouts = m_root.list(Key::layouts());
-    if (layouts.size() > maxLayouts) {
+    if (layouts.size() > SavedWorkLimit::layouts) {
         m_root.fault(Key::layouts(), QStringLiteral("too many"));
         return;
     }
@@ -215,6 +223,7 @@ void Reader::readLayouts()
         const int number = int(index) + 1;
         layout.number(Key::number(), number, number, number);
         texts.append(readLayoutText(layout));
+        judgeLength(layout, texts.last());
         readCombined(layout, texts.last());
         layout.finish();
         if (m_faults.size() == former) {
@@ -298,7 +307,7 @@ void Reader::readExactLayouts()
     hall().scenes.clear();
     m_soundLayouts.clear();
     const QJsonArray layouts = m_exact.list(Key::layouts());
-    if (layouts.size() > maxLayouts) {
+    if (layouts.size() > SavedWorkLimit::layouts) {
         m_exact.fault(Key::layouts(), QStringLiteral("too many"));
         return;
     }
@@ -309,6 +318,7 @@ void Reader::readExactLayouts()
         SceneInfo layout;
         layout.number = fields.number(Key::number(), -maxNumber, maxNumber, 0);
         layout.roomGroup = fields.text(Key::rooms());
+        judgeLength(fields, layout.roomGroup);
         layout.thumbnail = readPicture(fields, layout.roomGroup);
         if (numbers.contains(layout.number)) {
             fields.fault(Key::number(), QStringLiteral("an earlier layout has this number"));

@@ -207,6 +207,12 @@ void TestHallJson::whatCannotBeUnderstoodIsAFaultWithItsPlace_data()
     row("a picture that is none",
         "{\"exact\": {\"layouts\": [{\"number\": 1, \"picture\": \"AAAA\"}]}}",
         ".exact.layouts[0].picture: this is no small PNG picture");
+    const QByteArray longText = "1" + QByteArray("/1").repeated(32);
+    row("a layout longer than a file holds", "{\"layouts\": [{\"rooms\": \"" + longText + "\"}]}",
+        ".layouts[0].rooms: 65 characters; a file holds 64");
+    row("an exact layout longer than a file holds",
+        "{\"exact\": {\"layouts\": [{\"rooms\": \"" + longText + "\"}]}}",
+        ".exact.layouts[0].rooms: 65 characters; a file holds 64");
     row("an exact room twice", "{\"exact\": {\"rooms\": [{\"number\": 1}, {\"number\": 1}]}}",
         ".exact.rooms[1].number: an earlier room");
     const auto cells = [&row](const char* name, const QByteArray& text) {
