@@ -20,6 +20,7 @@ int main(int argc, char** argv)
     registerRoomCombos();
     registerStroke();
     registerResumeFile();
+    registerShow();
     benchmark::RunSpecifiedBenchmarks();
     // What they hold, widgets and pictures, must not outlive the application.
     benchmark::ClearRegisteredBenchmarks();

@@ -8,3 +8,4 @@ void registerPages();
 void registerRoomCombos();
 void registerStroke();
 void registerResumeFile();
+void registerShow();
