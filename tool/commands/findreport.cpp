@@ -1,10 +1,13 @@
 #include "findreport.h"
 
+#include "resultkeys.h"
 #include "texttable.h"
 
 #include <QJsonArray>
 
 namespace {
+
+namespace Key = ResultKey;
 
 bool isAsItShould(const JudgedDevice& device)
 {
@@ -93,38 +96,34 @@ QString probeTable(const QList<Probe>& probes)
 QJsonObject deviceObject(const JudgedDevice& device)
 {
     const DetectedDevice& told = device.record;
-    return {{QStringLiteral("address"), told.ipAddress},
-            {QStringLiteral("mac"), told.macAddress},
-            {QStringLiteral("model"), told.modelName},
-            {QStringLiteral("label"), told.deviceName},
-            {QStringLiteral("firmware"), told.version},
-            {QStringLiteral("serial"), told.serialNumber},
-            {QStringLiteral("id"), told.deviceId},
-            {QStringLiteral("preset"), presetValue(told.currentPreset)},
-            {QStringLiteral("verdict"), verdictName(device.verdict)},
-            {QStringLiteral("reason"), verdictWords(device)},
-            {QStringLiteral("needs"), device.neededFirmware},
-            {QStringLiteral("other"), device.otherAddress}};
+    return {{Key::address(), told.ipAddress},
+            {Key::mac(), told.macAddress},
+            {Key::model(), told.modelName},
+            {Key::label(), told.deviceName},
+            {Key::firmware(), told.version},
+            {Key::serial(), told.serialNumber},
+            {Key::id(), told.deviceId},
+            {Key::preset(), presetValue(told.currentPreset)},
+            {Key::verdict(), verdictName(device.verdict)},
+            {Key::reason(), verdictWords(device)},
+            {Key::needs(), device.neededFirmware},
+            {Key::other(), device.otherAddress}};
 }
 
 QJsonObject probeObject(const Probe& probe)
 {
-    return {{QStringLiteral("address"), probe.address},
-            {QStringLiteral("result"), resultName(probe.result)},
-            {QStringLiteral("reason"), resultWords(probe)},
-            {QStringLiteral("label"), probe.label},
-            {QStringLiteral("firmware"), probe.version},
-            {QStringLiteral("serial"), probe.serialNumber},
-            {QStringLiteral("id"), probe.deviceId},
-            {QStringLiteral("preset"), presetValue(probe.currentPreset)}};
+    return {{Key::address(), probe.address},     {Key::result(), resultName(probe.result)},
+            {Key::reason(), resultWords(probe)}, {Key::label(), probe.label},
+            {Key::firmware(), probe.version},    {Key::serial(), probe.serialNumber},
+            {Key::id(), probe.deviceId},         {Key::preset(), presetValue(probe.currentPreset)}};
 }
 
 QJsonObject sideObject(const InterfaceChoice& side)
 {
-    return {{QStringLiteral("name"), side.row->name},
-            {QStringLiteral("address"), side.row->address},
-            {QStringLiteral("mask"), side.row->mask},
-            {QStringLiteral("rivals"), QJsonArray::fromStringList(side.rivals)}};
+    return {{Key::name(), side.row->name},
+            {Key::address(), side.row->address},
+            {Key::mask(), side.row->mask},
+            {Key::rivals(), QJsonArray::fromStringList(side.rivals)}};
 }
 
 } // namespace
@@ -151,9 +150,9 @@ QJsonObject findObject(const FindResult& result)
     for (const Probe& probe : result.probes) {
         probes.append(probeObject(probe));
     }
-    return {{QStringLiteral("interface"), sideObject(result.side)},
-            {QStringLiteral("devices"), devices},
-            {QStringLiteral("probes"), probes}};
+    return {{Key::interface(), sideObject(result.side)},
+            {Key::devices(), devices},
+            {Key::probes(), probes}};
 }
 
 QStringList findFaults(const FindResult& result)
