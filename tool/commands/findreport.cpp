@@ -43,31 +43,6 @@ QString resultName(ProbeResult result)
     return QStringLiteral("silent");
 }
 
-/// What a device told about itself without being judged; model and MAC stand in queries only.
-QString toldByText(const Probe& probe)
-{
-    return QStringLiteral("answers text commands only, not judged: label %1, firmware %2, serial "
-                          "number %3")
-        .arg(probe.label, probe.version, probe.serialNumber);
-}
-
-QString resultWords(const Probe& probe)
-{
-    switch (probe.result) {
-    case ProbeResult::Answers:
-        return QStringLiteral("answers the search");
-    case ProbeResult::DirectOnly:
-        return QStringLiteral("answers only when asked directly: broadcasts are lost on the way");
-    case ProbeResult::TextOnly:
-        return toldByText(probe);
-    case ProbeResult::RefusesText:
-        return QStringLiteral("refuses: something is there, but no device of a conference system");
-    case ProbeResult::Silent:
-        break;
-    }
-    return QStringLiteral("silent: nobody is there, or nothing gets through");
-}
-
 QString deviceTables(const QList<JudgedDevice>& devices)
 {
     TextTable verdicts({QStringLiteral("Address"), QStringLiteral("Label"), QStringLiteral("Model"),
@@ -88,7 +63,7 @@ QString probeTable(const QList<Probe>& probes)
 {
     TextTable table({QStringLiteral("Asked"), QStringLiteral("Result")});
     for (const Probe& probe : probes) {
-        table.addRow({probe.address, resultWords(probe)});
+        table.addRow({probe.address, probeWords(probe)});
     }
     return table.text();
 }
@@ -112,10 +87,10 @@ QJsonObject deviceObject(const JudgedDevice& device)
 
 QJsonObject probeObject(const Probe& probe)
 {
-    return {{Key::address(), probe.address},     {Key::result(), resultName(probe.result)},
-            {Key::reason(), resultWords(probe)}, {Key::label(), probe.label},
-            {Key::firmware(), probe.version},    {Key::serial(), probe.serialNumber},
-            {Key::id(), probe.deviceId},         {Key::preset(), presetValue(probe.currentPreset)}};
+    return {{Key::address(), probe.address},    {Key::result(), resultName(probe.result)},
+            {Key::reason(), probeWords(probe)}, {Key::label(), probe.label},
+            {Key::firmware(), probe.version},   {Key::serial(), probe.serialNumber},
+            {Key::id(), probe.deviceId},        {Key::preset(), presetValue(probe.currentPreset)}};
 }
 
 QJsonObject sideObject(const InterfaceChoice& side)
@@ -128,7 +103,7 @@ QJsonObject sideObject(const InterfaceChoice& side)
 
 } // namespace
 
-QString findTables(const FindResult& result)
+QString findTables(const SearchResult& result)
 {
     QStringList tables;
     if (!result.devices.isEmpty()) {
@@ -140,7 +115,7 @@ QString findTables(const FindResult& result)
     return tables.join(u'\n');
 }
 
-QJsonObject findObject(const FindResult& result)
+QJsonObject findObject(const SearchResult& result)
 {
     QJsonArray devices;
     for (const JudgedDevice& device : result.devices) {
@@ -155,7 +130,7 @@ QJsonObject findObject(const FindResult& result)
             {Key::probes(), probes}};
 }
 
-QStringList findFaults(const FindResult& result)
+QStringList findFaults(const SearchResult& result)
 {
     QStringList faults;
     for (const QString& rival : result.side.rivals) {
@@ -174,7 +149,7 @@ QStringList findFaults(const FindResult& result)
     }
     for (const Probe& probe : result.probes) {
         if (probe.result != ProbeResult::Answers) {
-            faults.append(probe.address + QStringLiteral(": ") + resultWords(probe));
+            faults.append(probe.address + QStringLiteral(": ") + probeWords(probe));
         }
     }
     return faults;

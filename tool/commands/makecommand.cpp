@@ -4,7 +4,7 @@
 #include "hallfaults.h"
 #include "hallfile.h"
 #include "halljson.h"
-#include "outputfile.h"
+#include "halloutput.h"
 #include "terminal.h"
 
 #include <QFile>
@@ -65,15 +65,6 @@ void tell(const QString& path, const QStringList& faults, Terminal& terminal)
     }
 }
 
-/// Why the hall must not be written there.
-QString faultOfOutput(const QString& path, const QString& input)
-{
-    return path.endsWith(u".tessel", Qt::CaseInsensitive)
-               ? outputFault(path, {input})
-               : path + QStringLiteral(": its name does not end in .tessel, and the wizard could "
-                                       "not open it");
-}
-
 } // namespace
 
 QString MakeCommand::name() const
@@ -111,7 +102,7 @@ CommandSyntax MakeCommand::syntax() const
 ExitCode MakeCommand::run(const Arguments& arguments, Terminal& terminal) const
 {
     const QString path = arguments.operand(0);
-    const QString misled = faultOfOutput(arguments.value(output()), path);
+    const QString misled = hallOutputFault(arguments.value(output()), path);
     if (!misled.isEmpty()) {
         terminal.say(misled);
         return ExitCode::WrongUsage;
