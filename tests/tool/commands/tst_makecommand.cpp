@@ -151,7 +151,9 @@ void TestMakeCommand::withoutAnOutputItIsWrongUsage()
     const MakeCommand command;
     const Arguments arguments(command.syntax(), {path("hall.json")});
     QCOMPARE(arguments.fault(), QStringLiteral("-o FILE.tessel is missing"));
-    QCOMPARE(usageOf(command), QStringLiteral("tesselctl make FILE.json -o FILE.tessel [--force]"));
+    QCOMPARE(usageOf(command),
+             QStringLiteral("tesselctl make FILE.json -o FILE.tessel [--force] [--interface NAME] "
+                            "[--wait SECONDS]"));
 }
 
 void TestMakeCommand::anOutputThatTheWizardCouldNotOpenIsWrongUsage()
