@@ -4,6 +4,7 @@
 #include "makecommand.h"
 #include "plancommand.h"
 #include "recallcommand.h"
+#include "replacecommand.h"
 #include "showcommand.h"
 #include "walkcommand.h"
 
@@ -17,6 +18,7 @@ CommandTable allCommands()
     commands.push_back(std::make_unique<ShowCommand>());
     commands.push_back(std::make_unique<MakeCommand>());
     commands.push_back(std::make_unique<PlanCommand>());
+    commands.push_back(std::make_unique<ReplaceCommand>());
     commands.push_back(std::make_unique<WalkCommand>());
     return commands;
 }

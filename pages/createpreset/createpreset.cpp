@@ -1,5 +1,6 @@
 #include "createpreset.h"
 
+#include "halllimits.h"
 #include "plaintooltip.h"
 #include "presetqueries.h"
 #include "roomgrouplist.h"
@@ -34,7 +35,7 @@ PresetNameEdit::PresetNameEdit(const QString& name, QWidget* parent)
     : QLineEdit(parent)
 {
     setObjectName(QStringLiteral("presetNameEdit"));
-    setMaxLength(maxNameLength);
+    setMaxLength(HallLimits::maxPresetNameLength);
     setText(name);
     setCursorPosition(0);
     connect(this, SIGNAL(textChanged(QString)), this, SLOT(tellHiddenText()));

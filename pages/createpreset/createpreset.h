@@ -9,14 +9,13 @@
 class QLabel;
 class RoomGroupList;
 
-/// The field for the name of one combined room's preset: one line of at most 255 characters.
+/// The field for the name of one combined room's preset: one line, no longer than names of
+/// presets are.
 class PresetNameEdit : public QLineEdit
 {
     Q_OBJECT
 
 public:
-    static constexpr int maxNameLength = 255;
-
     explicit PresetNameEdit(const QString& name, QWidget* parent = nullptr);
 
 protected:

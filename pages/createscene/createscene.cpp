@@ -2,6 +2,7 @@
 
 #include "columnwidths.h"
 #include "focusedcelldelegate.h"
+#include "halllimits.h"
 #include "layoutqueries.h"
 #include "layoutthumbnail.h"
 #include "roomqueries.h"
@@ -18,7 +19,6 @@
 
 namespace {
 
-constexpr int maxLayouts = 10;
 constexpr int numberWidth = 15;
 constexpr QSize rowSize(66, 66);
 
@@ -238,6 +238,6 @@ QTreeWidgetItem* CreateScene::rowOf(const QString& roomGroup) const
 void CreateScene::updateButtons()
 {
     const int rows = m_list->topLevelItemCount();
-    m_addButton->setEnabled(rows < maxLayouts);
+    m_addButton->setEnabled(rows < HallLimits::maxLayoutCount);
     Q_EMIT nextButtonEnabled(rows >= 1);
 }

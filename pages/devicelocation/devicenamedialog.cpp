@@ -1,6 +1,7 @@
 #include "devicenamedialog.h"
 
 #include "devicenamevalidator.h"
+#include "devicetexts.h"
 #include "dialogplace.h"
 #include "fontscale.h"
 #include "readablecolors.h"
@@ -14,7 +15,6 @@
 
 namespace {
 
-constexpr int maxNameLength = 64;
 constexpr int editWidth = 300;
 
 } // namespace
@@ -57,7 +57,7 @@ void DeviceNameDialog::createWidgets()
 {
     m_nameEdit = new QLineEdit(this);
     m_nameEdit->setObjectName(QStringLiteral("nameEdit"));
-    m_nameEdit->setMaxLength(maxNameLength);
+    m_nameEdit->setMaxLength(maxDeviceNameLength);
     m_nameEdit->setMinimumWidth(scaledToFont(editWidth, this));
     new ReadableColors(m_nameEdit);
     m_okButton = new QPushButton(tr("OK"), this);

@@ -1,15 +1,12 @@
 #include "devicenamevalidator.h"
 
+#include "devicetexts.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
 
 namespace {
-
-QRegularExpression namePattern()
-{
-    return QRegularExpression(QStringLiteral(R"([A-Za-z0-9\-]+)"));
-}
 
 /// What came into `text` when one piece of `before` was replaced, as by every edit.
 QString inserted(const QString& text, const QString& before)
@@ -29,7 +26,7 @@ QString inserted(const QString& text, const QString& before)
 } // namespace
 
 DeviceNameValidator::DeviceNameValidator(const QString& label, QObject* parent)
-    : QRegularExpressionValidator(namePattern(), parent)
+    : QRegularExpressionValidator(QRegularExpression(deviceNamePattern()), parent)
     , m_label(label)
     , m_shown(label)
 {

@@ -43,8 +43,8 @@ QByteArray sampleHallText()
   ],
   "layouts": [
     {"rooms": "1+2/3/4", "combined": [
-      {"rooms": "1+2", "preset": "Big \"hall\"", "removed": ["127.0.1.2"], "right": ["127.0.1.7"]},
-      {"rooms": "4", "preset": "Small"}]},
+      {"rooms": "1+2", "preset-name": "Big \"hall\"", "removed": ["127.0.1.2"], "right": ["127.0.1.7"]},
+      {"rooms": "4", "preset-name": "Small"}]},
     {"rooms": "1/2/3/4"}
   ]
 })";

@@ -3,50 +3,31 @@
 #include "arguments.h"
 #include "findreport.h"
 #include "networkoptions.h"
+#include "probeaddress.h"
 #include "terminal.h"
-
-#include <QEventLoop>
-#include <QHostAddress>
-
-#include <algorithm>
 
 namespace {
 
-constexpr int usualWaitMs = 5000;
-
-bool isAddress(const QString& text)
-{
-    const QHostAddress address(text);
-    return address.protocol() == QAbstractSocket::IPv4Protocol && address.toString() == text;
-}
-
-/// Searches; nothing when that cannot be, which is said.
-std::optional<FindResult> searched(const InterfaceChoice& side, int waitMs,
-                                   const QStringList& probes, Terminal& terminal)
-{
-    HallSearch search(side.row->index, waitMs, probes);
-    QEventLoop untilFinished;
-    QObject::connect(&search, SIGNAL(finished()), &untilFinished, SLOT(quit()));
-    if (!search.start()) {
-        terminal.say(QStringLiteral("UDP port %1 of %2 is in use: is the wizard or another search "
-                                    "open on this computer?")
-                         .arg(QString::number(DeviceDetector::port), side.row->address));
-        return std::nullopt;
-    }
-    if (terminal.isWatched()) {
-        terminal.say(QStringLiteral("searching on %1 (%2)").arg(side.row->name, side.row->address));
-    }
-    untilFinished.exec();
-    return FindResult{side, search.devices(), search.probes()};
-}
-
-void write(const FindResult& result, bool isForPrograms, Terminal& terminal)
+void write(const SearchResult& result, bool isForPrograms, Terminal& terminal)
 {
     if (isForPrograms) {
         terminal.write(findObject(result));
     } else {
         terminal.write(findTables(result));
     }
+}
+
+/// The first that cannot be asked, and why.
+QString faultOfProbes(const QStringList& probes)
+{
+    const QList<NicInfo> interfaces = systemInterfaces();
+    for (const QString& address : probes) {
+        const QString fault = probeFault(address, interfaces);
+        if (!fault.isEmpty()) {
+            return QStringLiteral("%1: %2").arg(fault, address);
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -89,28 +70,24 @@ CommandSyntax FindCommand::syntax() const
 ExitCode FindCommand::run(const Arguments& arguments, Terminal& terminal) const
 {
     const QStringList probes = arguments.values(QStringLiteral("probe"));
-    const auto wrong = std::find_if_not(probes.begin(), probes.end(), isAddress);
-    if (wrong != probes.end()) {
-        terminal.say(QStringLiteral("find: --probe is no IPv4 address: %1").arg(*wrong));
+    const QString misled = faultOfProbes(probes);
+    if (!misled.isEmpty()) {
+        terminal.say(QStringLiteral("find: --probe ") + misled);
         return ExitCode::WrongUsage;
     }
     const std::optional<int> waitMs =
-        millisecondsOf(arguments, QStringLiteral("wait"), usualWaitMs, *this, terminal);
+        millisecondsOf(arguments, QStringLiteral("wait"), usualSearchMs, *this, terminal);
     if (!waitMs) {
         return ExitCode::WrongUsage;
     }
-    const InterfaceChoice side =
-        chooseInterface(systemInterfaces(), arguments.value(QStringLiteral("interface")));
-    if (!side.row) {
-        terminal.say(side.fault);
+    const SearchResult result =
+        searchNetwork(arguments.value(QStringLiteral("interface")), *waitMs, probes, terminal);
+    if (!result.fault.isEmpty()) {
+        terminal.say(result.fault);
         return ExitCode::CouldNotBeTried;
     }
-    const std::optional<FindResult> result = searched(side, *waitMs, probes, terminal);
-    if (!result) {
-        return ExitCode::CouldNotBeTried;
-    }
-    write(*result, arguments.has(QStringLiteral("json")), terminal);
-    const QStringList faults = findFaults(*result);
+    write(result, arguments.has(QStringLiteral("json")), terminal);
+    const QStringList faults = findFaults(result);
     for (const QString& fault : faults) {
         terminal.say(fault);
     }

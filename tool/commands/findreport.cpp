@@ -1,10 +1,13 @@
 #include "findreport.h"
 
+#include "resultkeys.h"
 #include "texttable.h"
 
 #include <QJsonArray>
 
 namespace {
+
+namespace Key = ResultKey;
 
 bool isAsItShould(const JudgedDevice& device)
 {
@@ -40,31 +43,6 @@ QString resultName(ProbeResult result)
     return QStringLiteral("silent");
 }
 
-/// What a device told about itself without being judged; model and MAC stand in queries only.
-QString toldByText(const Probe& probe)
-{
-    return QStringLiteral("answers text commands only, not judged: label %1, firmware %2, serial "
-                          "number %3")
-        .arg(probe.label, probe.version, probe.serialNumber);
-}
-
-QString resultWords(const Probe& probe)
-{
-    switch (probe.result) {
-    case ProbeResult::Answers:
-        return QStringLiteral("answers the search");
-    case ProbeResult::DirectOnly:
-        return QStringLiteral("answers only when asked directly: broadcasts are lost on the way");
-    case ProbeResult::TextOnly:
-        return toldByText(probe);
-    case ProbeResult::RefusesText:
-        return QStringLiteral("refuses: something is there, but no device of a conference system");
-    case ProbeResult::Silent:
-        break;
-    }
-    return QStringLiteral("silent: nobody is there, or nothing gets through");
-}
-
 QString deviceTables(const QList<JudgedDevice>& devices)
 {
     TextTable verdicts({QStringLiteral("Address"), QStringLiteral("Label"), QStringLiteral("Model"),
@@ -85,7 +63,7 @@ QString probeTable(const QList<Probe>& probes)
 {
     TextTable table({QStringLiteral("Asked"), QStringLiteral("Result")});
     for (const Probe& probe : probes) {
-        table.addRow({probe.address, resultWords(probe)});
+        table.addRow({probe.address, probeWords(probe)});
     }
     return table.text();
 }
@@ -93,43 +71,39 @@ QString probeTable(const QList<Probe>& probes)
 QJsonObject deviceObject(const JudgedDevice& device)
 {
     const DetectedDevice& told = device.record;
-    return {{QStringLiteral("address"), told.ipAddress},
-            {QStringLiteral("mac"), told.macAddress},
-            {QStringLiteral("model"), told.modelName},
-            {QStringLiteral("label"), told.deviceName},
-            {QStringLiteral("firmware"), told.version},
-            {QStringLiteral("serial"), told.serialNumber},
-            {QStringLiteral("id"), told.deviceId},
-            {QStringLiteral("preset"), presetValue(told.currentPreset)},
-            {QStringLiteral("verdict"), verdictName(device.verdict)},
-            {QStringLiteral("reason"), verdictWords(device)},
-            {QStringLiteral("needs"), device.neededFirmware},
-            {QStringLiteral("other"), device.otherAddress}};
+    return {{Key::address(), told.ipAddress},
+            {Key::mac(), told.macAddress},
+            {Key::model(), told.modelName},
+            {Key::label(), told.deviceName},
+            {Key::firmware(), told.version},
+            {Key::serial(), told.serialNumber},
+            {Key::id(), told.deviceId},
+            {Key::preset(), presetValue(told.currentPreset)},
+            {Key::verdict(), verdictName(device.verdict)},
+            {Key::reason(), verdictWords(device)},
+            {Key::needs(), device.neededFirmware},
+            {Key::other(), device.otherAddress}};
 }
 
 QJsonObject probeObject(const Probe& probe)
 {
-    return {{QStringLiteral("address"), probe.address},
-            {QStringLiteral("result"), resultName(probe.result)},
-            {QStringLiteral("reason"), resultWords(probe)},
-            {QStringLiteral("label"), probe.label},
-            {QStringLiteral("firmware"), probe.version},
-            {QStringLiteral("serial"), probe.serialNumber},
-            {QStringLiteral("id"), probe.deviceId},
-            {QStringLiteral("preset"), presetValue(probe.currentPreset)}};
+    return {{Key::address(), probe.address},    {Key::result(), resultName(probe.result)},
+            {Key::reason(), probeWords(probe)}, {Key::label(), probe.label},
+            {Key::firmware(), probe.version},   {Key::serial(), probe.serialNumber},
+            {Key::id(), probe.deviceId},        {Key::preset(), presetValue(probe.currentPreset)}};
 }
 
 QJsonObject sideObject(const InterfaceChoice& side)
 {
-    return {{QStringLiteral("name"), side.row->name},
-            {QStringLiteral("address"), side.row->address},
-            {QStringLiteral("mask"), side.row->mask},
-            {QStringLiteral("rivals"), QJsonArray::fromStringList(side.rivals)}};
+    return {{Key::name(), side.row->name},
+            {Key::address(), side.row->address},
+            {Key::mask(), side.row->mask},
+            {Key::rivals(), QJsonArray::fromStringList(side.rivals)}};
 }
 
 } // namespace
 
-QString findTables(const FindResult& result)
+QString findTables(const SearchResult& result)
 {
     QStringList tables;
     if (!result.devices.isEmpty()) {
@@ -141,7 +115,7 @@ QString findTables(const FindResult& result)
     return tables.join(u'\n');
 }
 
-QJsonObject findObject(const FindResult& result)
+QJsonObject findObject(const SearchResult& result)
 {
     QJsonArray devices;
     for (const JudgedDevice& device : result.devices) {
@@ -151,12 +125,12 @@ QJsonObject findObject(const FindResult& result)
     for (const Probe& probe : result.probes) {
         probes.append(probeObject(probe));
     }
-    return {{QStringLiteral("interface"), sideObject(result.side)},
-            {QStringLiteral("devices"), devices},
-            {QStringLiteral("probes"), probes}};
+    return {{Key::interface(), sideObject(result.side)},
+            {Key::devices(), devices},
+            {Key::probes(), probes}};
 }
 
-QStringList findFaults(const FindResult& result)
+QStringList findFaults(const SearchResult& result)
 {
     QStringList faults;
     for (const QString& rival : result.side.rivals) {
@@ -175,7 +149,7 @@ QStringList findFaults(const FindResult& result)
     }
     for (const Probe& probe : result.probes) {
         if (probe.result != ProbeResult::Answers) {
-            faults.append(probe.address + QStringLiteral(": ") + resultWords(probe));
+            faults.append(probe.address + QStringLiteral(": ") + probeWords(probe));
         }
     }
     return faults;

@@ -1,23 +1,14 @@
 #pragma once
 
-#include "hallsearch.h"
-#include "interfacechoice.h"
+#include "networksearch.h"
 
 #include <QJsonObject>
 
-/// What a search found, and where it searched.
-struct FindResult
-{
-    InterfaceChoice side;
-    QList<JudgedDevice> devices;
-    QList<Probe> probes;
-};
-
 /// The tables for people, of at most 80 columns.
-QString findTables(const FindResult& result);
+QString findTables(const SearchResult& result);
 
 /// The same for programs.
-QJsonObject findObject(const FindResult& result);
+QJsonObject findObject(const SearchResult& result);
 
 /// What is not as it should be, a line each; empty when all is.
-QStringList findFaults(const FindResult& result);
+QStringList findFaults(const SearchResult& result);

@@ -4,7 +4,8 @@
 
 #include <optional>
 
-/// The hubs that a hall's layouts are recalled on: those that stand in a room.
+/// The hubs that a hall is installed in and its layouts are recalled on: those that stand in a
+/// room, in the hall's order.
 QList<DeviceData> placedHubs(const DocumentData& hall);
 
 /// Their addresses, in the same order.

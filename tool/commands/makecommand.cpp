@@ -4,7 +4,10 @@
 #include "hallfaults.h"
 #include "hallfile.h"
 #include "halljson.h"
-#include "outputfile.h"
+#include "halloutput.h"
+#include "networkmacs.h"
+#include "networkoptions.h"
+#include "networksearch.h"
 #include "terminal.h"
 
 #include <QFile>
@@ -18,6 +21,11 @@ constexpr qsizetype maxFaultsTold = 50;
 QString output()
 {
     return QStringLiteral("o");
+}
+
+QString interfaceName()
+{
+    return QStringLiteral("interface");
 }
 
 QString force()
@@ -47,6 +55,17 @@ QString readText(const QString& path, QByteArray& text)
                : QString();
 }
 
+/// Fills in from the network what the hall lacks; the reason why it cannot be asked, if there is
+/// one. What devices contradict goes into `faults`.
+QString completed(HallDocument& hall, const QString& interface, int waitMs, QStringList& faults,
+                  Terminal& terminal)
+{
+    const SearchResult search =
+        searchNetwork(interface, waitMs, addressesWithoutMac(hall.data()), terminal);
+    faults = takeMacs(hall.data(), search.devices);
+    return search.fault;
+}
+
 /// What cannot be understood, and then what makes no sense.
 QStringList faultsOf(const HallJsonReading& reading)
 {
@@ -65,13 +84,30 @@ void tell(const QString& path, const QStringList& faults, Terminal& terminal)
     }
 }
 
-/// Why the hall must not be written there.
-QString faultOfOutput(const QString& path, const QString& input)
+/// Asks the network when that is wanted, judges the hall and writes it.
+ExitCode made(const HallJsonReading& reading, const Arguments& arguments, int waitMs,
+              Terminal& terminal)
 {
-    return path.endsWith(u".tessel", Qt::CaseInsensitive)
-               ? outputFault(path, {input})
-               : path + QStringLiteral(": its name does not end in .tessel, and the wizard could "
-                                       "not open it");
+    QStringList faults;
+    if (reading.hall != nullptr && arguments.has(interfaceName())) {
+        const QString unasked =
+            completed(*reading.hall, arguments.value(interfaceName()), waitMs, faults, terminal);
+        if (!unasked.isEmpty()) {
+            terminal.say(unasked);
+            return ExitCode::CouldNotBeTried;
+        }
+    }
+    faults += faultsOf(reading);
+    tell(arguments.operand(0), faults, terminal);
+    if (reading.hall == nullptr || (!faults.isEmpty() && !arguments.has(force()))) {
+        return ExitCode::CouldNotBeTried;
+    }
+    const QString unwritten = writeHallFile(arguments.value(output()), reading.hall->data());
+    if (!unwritten.isEmpty()) {
+        terminal.say(unwritten);
+        return ExitCode::CouldNotBeTried;
+    }
+    return faults.isEmpty() ? ExitCode::AllIsWell : ExitCode::SomethingIsNot;
 }
 
 } // namespace
@@ -92,7 +128,9 @@ QString MakeCommand::details() const
         "The JSON is what \"show --json\" writes; what it lacks gets the wizard's "
         "defaults, and the layouts' pictures are made. Everything is judged first: "
         "each fault is told in a line with its place and its reason, and with one "
-        "of them nothing is written.");
+        "of them nothing is written.\n"
+        "With --interface the devices are searched for: MAC addresses that the JSON lacks are "
+        "filled in by address, and a device that is another one than the JSON says is a fault.");
 }
 
 CommandSyntax MakeCommand::syntax() const
@@ -105,13 +143,24 @@ CommandSyntax MakeCommand::syntax() const
               true},
              {{force()},
               QStringLiteral("writes it although the hall is faulty, as far as it can be "
-                             "understood")}}};
+                             "understood")},
+             {{interfaceName()},
+              QStringLiteral("asks the devices on this network interface"),
+              QStringLiteral("NAME")},
+             secondsOption(QStringLiteral("wait"),
+                           QStringLiteral("how long to wait for their answers (5), and again for "
+                                          "those of devices that only answer when asked alone"))}};
 }
 
 ExitCode MakeCommand::run(const Arguments& arguments, Terminal& terminal) const
 {
     const QString path = arguments.operand(0);
-    const QString misled = faultOfOutput(arguments.value(output()), path);
+    const std::optional<int> waitMs =
+        millisecondsOf(arguments, QStringLiteral("wait"), usualSearchMs, *this, terminal);
+    if (!waitMs) {
+        return ExitCode::WrongUsage;
+    }
+    const QString misled = hallOutputFault(arguments.value(output()), path);
     if (!misled.isEmpty()) {
         terminal.say(misled);
         return ExitCode::WrongUsage;
@@ -122,16 +171,5 @@ ExitCode MakeCommand::run(const Arguments& arguments, Terminal& terminal) const
         tell(path, {unreadable}, terminal);
         return ExitCode::CouldNotBeTried;
     }
-    const HallJsonReading reading = readHallJson(text);
-    const QStringList faults = faultsOf(reading);
-    tell(path, faults, terminal);
-    if (reading.hall == nullptr || (!faults.isEmpty() && !arguments.has(force()))) {
-        return ExitCode::CouldNotBeTried;
-    }
-    const QString unwritten = writeHallFile(arguments.value(output()), reading.hall->data());
-    if (!unwritten.isEmpty()) {
-        terminal.say(unwritten);
-        return ExitCode::CouldNotBeTried;
-    }
-    return faults.isEmpty() ? ExitCode::AllIsWell : ExitCode::SomethingIsNot;
+    return made(readHallJson(text), arguments, *waitMs, terminal);
 }

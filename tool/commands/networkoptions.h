@@ -6,6 +6,9 @@
 
 /// What commands that touch the network take besides their own options.
 
+/// How long a search waits for answers unless it is told otherwise.
+inline constexpr int usualSearchMs = 5000;
+
 /// --interface NAME.
 CommandOption interfaceOption();
 

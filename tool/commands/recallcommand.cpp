@@ -5,6 +5,7 @@
 #include "hallhubs.h"
 #include "networkoptions.h"
 #include "presetround.h"
+#include "resultkeys.h"
 #include "terminal.h"
 #include "texttable.h"
 
@@ -15,6 +16,8 @@
 #include <algorithm>
 
 namespace {
+
+namespace Key = ResultKey;
 
 constexpr int usualWaitMs = 10000;
 
@@ -76,13 +79,12 @@ QJsonObject objectOf(const Recall& recall)
     for (qsizetype index = 0; index < recall.hubs.size(); ++index) {
         const DeviceData& hub = recall.hubs.at(index);
         const std::optional<int> preset = recall.presets.at(index);
-        hubs.append(
-            QJsonObject{{QStringLiteral("address"), hub.ipAddress},
-                        {QStringLiteral("label"), hub.label},
-                        {QStringLiteral("preset"), preset ? QJsonValue(*preset) : QJsonValue()},
-                        {QStringLiteral("ok"), preset == recall.layout}});
+        hubs.append(QJsonObject{{Key::address(), hub.ipAddress},
+                                {Key::label(), hub.label},
+                                {Key::preset(), preset ? QJsonValue(*preset) : QJsonValue()},
+                                {Key::ok(), preset == recall.layout}});
     }
-    return {{QStringLiteral("layout"), recall.layout}, {QStringLiteral("hubs"), hubs}};
+    return {{Key::layout(), recall.layout}, {Key::hubs(), hubs}};
 }
 
 /// The layout that is asked for; nothing when the hall has none of that number.

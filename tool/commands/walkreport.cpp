@@ -1,6 +1,7 @@
 #include "walkreport.h"
 
 #include "hallhubs.h"
+#include "resultkeys.h"
 #include "texttable.h"
 
 #include <QJsonArray>
@@ -8,6 +9,8 @@
 #include <algorithm>
 
 namespace {
+
+namespace Key = ResultKey;
 
 std::optional<int> presetOf(const HallWalk::Reading& reading, const DeviceData& hub)
 {
@@ -35,14 +38,14 @@ QJsonObject layoutObject(const WalkResult& result, const SceneInfo& layout)
     QJsonArray hubs;
     for (const DeviceData& hub : result.hubs) {
         const std::optional<int> preset = readOf(result, layout, hub);
-        hubs.append(QJsonObject{{QStringLiteral("address"), hub.ipAddress},
-                                {QStringLiteral("preset"), value(preset)},
-                                {QStringLiteral("ok"), preset == layout.number}});
+        hubs.append(QJsonObject{{Key::address(), hub.ipAddress},
+                                {Key::preset(), value(preset)},
+                                {Key::ok(), preset == layout.number}});
     }
-    return {{QStringLiteral("number"), layout.number},
-            {QStringLiteral("rooms"), layout.roomGroup},
-            {QStringLiteral("reached"), isReached(result, layout)},
-            {QStringLiteral("hubs"), hubs}};
+    return {{Key::number(), layout.number},
+            {Key::rooms(), layout.roomGroup},
+            {Key::reached(), isReached(result, layout)},
+            {Key::hubs(), hubs}};
 }
 
 /// Why a hub cannot be taken to be where it was before; empty when it can.
@@ -64,12 +67,12 @@ QString restoreFault(const WalkResult& result, const DeviceData& hub)
 
 QJsonObject hubObject(const WalkResult& result, const DeviceData& hub)
 {
-    return {{QStringLiteral("address"), hub.ipAddress},
-            {QStringLiteral("label"), hub.label},
-            {QStringLiteral("mac"), hub.macAddress},
-            {QStringLiteral("before"), value(presetOf(result.walk.before(), hub))},
-            {QStringLiteral("restored"), value(presetOf(result.walk.restored(), hub))},
-            {QStringLiteral("back"), restoreFault(result, hub).isEmpty()}};
+    return {{Key::address(), hub.ipAddress},
+            {Key::label(), hub.label},
+            {Key::mac(), hub.macAddress},
+            {Key::before(), value(presetOf(result.walk.before(), hub))},
+            {Key::restored(), value(presetOf(result.walk.restored(), hub))},
+            {Key::back(), restoreFault(result, hub).isEmpty()}};
 }
 
 } // namespace
@@ -101,10 +104,10 @@ QJsonObject walkObject(const WalkResult& result)
     for (const SceneInfo& layout : result.layouts) {
         layouts.append(layoutObject(result, layout));
     }
-    return {{QStringLiteral("begun"), result.begun.toString(Qt::ISODate)},
-            {QStringLiteral("ok"), isWalkRight(result)},
-            {QStringLiteral("hubs"), hubs},
-            {QStringLiteral("layouts"), layouts}};
+    return {{Key::begun(), result.begun.toString(Qt::ISODate)},
+            {Key::ok(), isWalkRight(result)},
+            {Key::hubs(), hubs},
+            {Key::layouts(), layouts}};
 }
 
 qsizetype rightHubCount(const WalkResult& result, const SceneInfo& layout)

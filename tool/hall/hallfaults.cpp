@@ -1,59 +1,26 @@
 #include "hallfaults.h"
 
 #include "devicecatalogue.h"
+#include "devicetexts.h"
 #include "halldocument.h"
+#include "halllimits.h"
 #include "hallview.h"
 
-#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
 
 namespace {
 
-constexpr int maxLayouts = 10;
-constexpr qsizetype maxPresetName = 255;
-
 QString line(const QString& place, const QString& reason)
 {
     return place + QStringLiteral(": ") + reason;
-}
-
-bool matches(const QString& text, const QString& pattern)
-{
-    return QRegularExpression(QRegularExpression::anchoredPattern(pattern)).match(text).hasMatch();
-}
-
-bool isAddress(const QString& text)
-{
-    const QString part = QStringLiteral("(25[0-5]|2[0-4][0-9]|1[0-9]{2}|[1-9]?[0-9])");
-    return matches(text, QStringLiteral("(%1\\.){3}%1").arg(part));
-}
-
-/// Neither "this network" nor a group of devices nor all of them.
-bool isAddressOfDevice(const QString& text)
-{
-    constexpr int firstOfGroups = 224;
-    const int network = text.section(u'.', 0, 0).toInt();
-    return isAddress(text) && network > 0 && network < firstOfGroups;
-}
-
-/// The second digit of an address of a group, or of all devices, is odd.
-bool isMacAddress(const QString& text)
-{
-    return matches(text, QStringLiteral("[0-9A-Fa-f][02468ACEace](:[0-9A-Fa-f]{2}){5}")) &&
-           text != u"00:00:00:00:00:00";
 }
 
 bool hasControlCharacters(const QString& text)
 {
     return std::any_of(text.begin(), text.end(),
                        [](QChar letter) { return letter.category() == QChar::Other_Control; });
-}
-
-bool isName(const QString& label)
-{
-    return matches(label, QStringLiteral("[A-Za-z0-9\\-]{1,64}"));
 }
 
 QString roomsText(const RoomGroup& group)
@@ -77,7 +44,7 @@ public:
     {
         m_place = QStringLiteral("device ") + device.ipAddress;
         m_faults.clear();
-        require(isAddressOfDevice(device.ipAddress),
+        require(isDeviceAddress(device.ipAddress),
                 QStringLiteral("this is no address of a device"));
         require(!m_addresses.contains(device.ipAddress),
                 QStringLiteral("an earlier device has this address"));
@@ -88,9 +55,9 @@ public:
                 QStringLiteral("unknown room %1").arg(device.roomNumber));
         require(!hasControlCharacters(device.label),
                 QStringLiteral("its label has control characters"));
-        require(!device.labelModified || isName(device.label),
-                QStringLiteral("\"%1\" is no name for a device: 1 to 64 letters, digits and dashes")
-                    .arg(device.label));
+        require(!device.labelModified || isDeviceName(device.label),
+                QStringLiteral("\"%1\" is no name for a device: 1 to %2 letters, digits and dashes")
+                    .arg(device.label, QString::number(maxDeviceNameLength)));
         m_addresses.insert(device.ipAddress);
         return m_faults;
     }
@@ -182,11 +149,11 @@ QStringList faultsOfLayouts(const DocumentData& hall)
         }
         numbers.insert(text, numbers.value(text, layout.number));
     }
-    if (hall.scenes.size() > maxLayouts) {
+    if (hall.scenes.size() > HallLimits::maxLayoutCount) {
         faults.append(
             line(QStringLiteral("layouts"), QStringLiteral("there are %1; %2 are possible")
                                                 .arg(hall.scenes.size())
-                                                .arg(maxLayouts)));
+                                                .arg(HallLimits::maxLayoutCount)));
     }
     return faults;
 }
@@ -221,11 +188,11 @@ QStringList faultsOfSets(const QList<CombinedRoomView>& views)
             }
         }
         const qsizetype length = view.presetName.value_or(QString()).size();
-        if (length > maxPresetName) {
+        if (length > HallLimits::maxPresetNameLength) {
             faults.append(
                 line(place, QStringLiteral("a preset name of %1 characters; %2 are possible")
                                 .arg(length)
-                                .arg(maxPresetName)));
+                                .arg(HallLimits::maxPresetNameLength)));
         }
     }
     return faults;

@@ -69,9 +69,9 @@ inline QString combined()
 {
     return QStringLiteral("combined");
 }
-inline QString preset()
+inline QString presetName()
 {
-    return QStringLiteral("preset");
+    return QStringLiteral("preset-name");
 }
 inline QString removed()
 {

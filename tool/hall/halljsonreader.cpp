@@ -282,9 +282,9 @@ void Reader::readChoice(JsonFields& combined, const QList<QList<int>>& groups, Q
     }
     chosen.insert(place);
     const QList<int> rooms = group != groups.end() ? *group : QList<int>();
-    m_choices.insert(m_setCount + place,
-                     {combined.text(Key::preset()), addressesIn(combined, Key::removed(), rooms),
-                      addressesIn(combined, Key::right(), rooms)});
+    m_choices.insert(m_setCount + place, {combined.text(Key::presetName()),
+                                          addressesIn(combined, Key::removed(), rooms),
+                                          addressesIn(combined, Key::right(), rooms)});
 }
 
 QSet<QString> Reader::addressesIn(JsonFields& combined, const QString& key, const QList<int>& rooms)

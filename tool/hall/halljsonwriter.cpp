@@ -81,7 +81,7 @@ QJsonObject written(const CombinedRoomView& view)
         }
     }
     return {{Key::rooms(), layoutText({view.group.rooms})},
-            {Key::preset(), view.presetName.value_or(QString())},
+            {Key::presetName(), view.presetName.value_or(QString())},
             {Key::removed(), removed},
             {Key::right(), right}};
 }

@@ -61,6 +61,8 @@ private Q_SLOTS:
     void sideThatCannotSearch_data();
     void sideThatCannotSearch();
     void secondInterfaceInTheNetworkIsTold();
+    void addressesOfTheCableItselfAreNotProbed_data();
+    void addressesOfTheCableItselfAreNotProbed();
     void wrongValuesAreOneLine_data();
     void wrongValuesAreOneLine();
 };
@@ -263,6 +265,28 @@ void TestFindCommand::secondInterfaceInTheNetworkIsTold()
     QCOMPARE(text(device(run, hub), "verdict"), QStringLiteral("taken"));
 }
 
+void TestFindCommand::addressesOfTheCableItselfAreNotProbed_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("its broadcast")
+        << QStringLiteral("10.54.255.255") << QStringLiteral("is no address of one device");
+    QTest::newRow("this computer's")
+        << QStringLiteral("10.54.0.1") << QStringLiteral("is an address of this computer");
+}
+
+void TestFindCommand::addressesOfTheCableItselfAreNotProbed()
+{
+    QFETCH(const QString, address);
+    QFETCH(const QString, reason);
+    const NetworkRun run = runBesideHall(oneHub, find + QStringLiteral("--probe ") + address);
+    QCOMPARE(run.exitCode, 2);
+    QCOMPARE(run.output, QString());
+    QVERIFY2(run.errors.contains(
+                 QStringLiteral("tesselctl: find: --probe %1: %2\n").arg(reason, address)),
+             qPrintable(run.errors));
+}
+
 void TestFindCommand::wrongValuesAreOneLine_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -273,6 +297,10 @@ void TestFindCommand::wrongValuesAreOneLine_data()
     };
     row("--probe", "hub", "--probe is no IPv4 address: hub");
     row("--probe", "10.1", "--probe is no IPv4 address: 10.1");
+    row("--probe", "0.0.0.0", "--probe is no address of one device: 0.0.0.0");
+    row("--probe", "255.255.255.255", "--probe is no address of one device: 255.255.255.255");
+    row("--probe", "239.1.2.3", "--probe is no address of one device: 239.1.2.3");
+    row("--probe", "127.0.0.1", "--probe is an address of this computer: 127.0.0.1");
     row("--wait", "soon", "--wait is no number of seconds from 0 to 3600: soon");
     row("--wait", "-1", "--wait is no number of seconds from 0 to 3600: -1");
 }

@@ -85,12 +85,12 @@ void TestMakeCommand::whatCannotBeUnderstoodHidesNoOtherFault()
     const CommandRun run = make(text, {QStringLiteral("--force")});
     QCOMPARE(run.code, ExitCode::CouldNotBeTried);
     const QString begin = QStringLiteral("tesselctl: ") + path("hall.json");
-    QCOMPARE(
-        run.errors.split(u'\n', Qt::SkipEmptyParts),
-        QStringList({begin + QStringLiteral(": .devices[4].model: this is no text"),
-                     begin + QStringLiteral(": .layouts[0].combined[1].preset: this is no text"),
-                     begin + QStringLiteral(": device 127.0.1.8: unknown model \"XY-1\""),
-                     begin + QStringLiteral(": layout 2: room 4 is not in it")}));
+    QCOMPARE(run.errors.split(u'\n', Qt::SkipEmptyParts),
+             QStringList(
+                 {begin + QStringLiteral(": .devices[4].model: this is no text"),
+                  begin + QStringLiteral(": .layouts[0].combined[1].preset-name: this is no text"),
+                  begin + QStringLiteral(": device 127.0.1.8: unknown model \"XY-1\""),
+                  begin + QStringLiteral(": layout 2: room 4 is not in it")}));
     QCOMPARE(fileAt(path("hall.tessel")), QByteArray("what was there"));
 }
 
@@ -151,7 +151,9 @@ void TestMakeCommand::withoutAnOutputItIsWrongUsage()
     const MakeCommand command;
     const Arguments arguments(command.syntax(), {path("hall.json")});
     QCOMPARE(arguments.fault(), QStringLiteral("-o FILE.tessel is missing"));
-    QCOMPARE(usageOf(command), QStringLiteral("tesselctl make FILE.json -o FILE.tessel [--force]"));
+    QCOMPARE(usageOf(command),
+             QStringLiteral("tesselctl make FILE.json -o FILE.tessel [--force] [--interface NAME] "
+                            "[--wait SECONDS]"));
 }
 
 void TestMakeCommand::anOutputThatTheWizardCouldNotOpenIsWrongUsage()

@@ -164,7 +164,7 @@ void TestHallJson::whatCannotBeUnderstoodIsAFaultWithItsPlace_data()
         row(name, changed(sample, before, after), fault);
     };
     row("no JSON", "{\n  \"rooms\": [,]}", "line 2, column");
-    row("cut", sample.chopped(40), "line 18, column 34: unterminated string");
+    row("cut", sample.chopped(40), "line 18, column 39: unterminated string");
     row("a list", "[]", "this is no object");
     row("nested without end", QByteArray(100000, '['), "line 1, column");
     row("a later version", "{\"tessel\": 2}", ".tessel: version 2 is not known here");
@@ -204,6 +204,8 @@ void TestHallJson::whatCannotBeUnderstoodIsAFaultWithItsPlace_data()
     with("a device of another room removed", "[\"127.0.1.2\"]", "[\"127.0.1.3\"]",
          ".layouts[0].combined[0].removed: 127.0.1.3 is not in these rooms");
     with("a list of numbers", "[\"127.0.1.2\"]", "[2]", "not all of these are texts");
+    with("a preset where its name belongs", "\"preset-name\": \"Small\"", "\"preset\": \"Small\"",
+         ".layouts[0].combined[1].preset: unknown key");
     row("a picture that is none",
         "{\"exact\": {\"layouts\": [{\"number\": 1, \"picture\": \"AAAA\"}]}}",
         ".exact.layouts[0].picture: this is no small PNG picture");

@@ -1,0 +1,193 @@
+#include "hallfile.h"
+#include "networkrun.h"
+#include "testcase.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+const QString hub = QStringLiteral("10.54.1.1");
+const QString microphone = QStringLiteral("10.54.1.2");
+const QString hubMac = QStringLiteral("02:00:00:00:00:01");
+const QString microphoneMac = QStringLiteral("02:00:00:00:00:02");
+
+/// What a planner writes down before anyone has seen the devices.
+const QByteArray plannedHall = R"({
+  "rooms": ["11112222", "11112222", "11112222", "11112222",
+            "........", "........", "........", "........"],
+  "devices": [
+    {"address": "10.54.1.1", "model": "PX-HB", "room": 1},
+    {"address": "10.54.1.2", "model": "PX-DL8", "room": 1}],
+  "layouts": [{"rooms": "1/2"}]})";
+
+/// The devices on site.
+QByteArray builtHall(const QByteArray& faults = {}, const QByteArray& hubVersion = "2.1.0")
+{
+    return R"({"base": "10.54.1.1", "discovery": true, "discovery-listen": "10.54.255.255",
+               "hubs": [{"mac": "02:00:00:00:00:01", "version": ")" +
+           hubVersion + R"("}], "peripherals": [{"model": "PX-DL8", "version": "2.1.0",
+                                             "address": "10.54.1.2",
+                                             "mac": "02:00:00:00:00:02"}],
+               "faults": [)" +
+           faults + "]}";
+}
+
+} // namespace
+
+/// `make --interface`, across a cable with the devices at its other end.
+class TestMakeFromNetwork : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void whatTheListLacksComesFromTheNetwork();
+    void whatOnlyAnswersAloneIsAskedAlone();
+    void whatDoesNotAnswerStillLacksIt();
+    void whatTheListSaysIsHeldAgainstTheNetwork_data();
+    void whatTheListSaysIsHeldAgainstTheNetwork();
+    void withoutTheInterfaceNobodyIsAsked();
+    void whatCannotBeAskedIsTold();
+    void whatSpeaksAgainstItIsWrittenWhenForced();
+
+private:
+    QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
+    NetworkRun make(const QByteArray& hall,
+                    const QString& options = QStringLiteral("--interface wizard")) const;
+    void plan(const QByteArray& text) const;
+    bool isWritten() const { return QFile::exists(path("hall.tessel")); }
+
+    QTemporaryDir m_folder;
+};
+
+void TestMakeFromNetwork::initTestCase()
+{
+    TestCase::initTestCase();
+    QString reason;
+    if (!hasNetwork(&reason)) {
+        QSKIP(qPrintable(reason));
+    }
+}
+
+void TestMakeFromNetwork::init()
+{
+    TestCase::init();
+    QFile::remove(path("hall.tessel"));
+    plan(plannedHall);
+}
+
+void TestMakeFromNetwork::plan(const QByteArray& text) const
+{
+    QFile file(path("hall.json"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+}
+
+NetworkRun TestMakeFromNetwork::make(const QByteArray& hall, const QString& options) const
+{
+    return runBesideHall(hall, QStringLiteral("tesselctl make '%1' -o '%2' --wait 1 %3")
+                                   .arg(path("hall.json"), path("hall.tessel"), options));
+}
+
+void TestMakeFromNetwork::whatTheListLacksComesFromTheNetwork()
+{
+    const NetworkRun run = make(builtHall());
+    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+    const HallReading reading = readHallFile(path("hall.tessel"));
+    QVERIFY2(reading.hall != nullptr, qPrintable(reading.fault));
+    QCOMPARE(reading.hall->data().devices.find(hub)->macAddress, hubMac);
+    QCOMPARE(reading.hall->data().devices.find(microphone)->macAddress, microphoneMac);
+}
+
+void TestMakeFromNetwork::whatOnlyAnswersAloneIsAskedAlone()
+{
+    const NetworkRun run =
+        make(builtHall(R"({"device": "10.54.1.2", "at": "discovery", "kind": "direct-only"})"));
+    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+    const HallReading reading = readHallFile(path("hall.tessel"));
+    QVERIFY(reading.hall != nullptr);
+    QCOMPARE(reading.hall->data().devices.find(microphone)->macAddress, microphoneMac);
+}
+
+void TestMakeFromNetwork::whatDoesNotAnswerStillLacksIt()
+{
+    const NetworkRun run =
+        make(builtHall(R"({"device": "10.54.1.2", "at": "discovery", "kind": "no-reply"})"));
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(run.errors.contains(
+                 QStringLiteral("tesselctl: %1: device 10.54.1.2: its MAC address is missing\n")
+                     .arg(path("hall.json"))),
+             qPrintable(run.errors));
+    QVERIFY(!run.errors.contains(u"device 10.54.1.1"));
+    QVERIFY(!isWritten());
+}
+
+void TestMakeFromNetwork::whatTheListSaysIsHeldAgainstTheNetwork_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<QByteArray>("hubVersion");
+    QTest::addColumn<QString>("fault");
+    QTest::newRow("another model")
+        << QByteArray("\"PX-DL8\"") << QByteArray("\"PX-DL5\"") << QByteArray("2.1.0")
+        << QStringLiteral("device 10.54.1.2: it tells that it is a PX-DL8, not a PX-DL5");
+    QTest::newRow("another MAC address")
+        << QByteArray("\"PX-HB\"") << QByteArray(R"("PX-HB", "mac": "02:00:00:00:00:07")")
+        << QByteArray("2.1.0")
+        << QStringLiteral("device 10.54.1.1: it tells the MAC address 02:00:00:00:00:01, not "
+                          "02:00:00:00:00:07");
+    QTest::newRow("old firmware") << QByteArray("\"PX-HB\"") << QByteArray("\"PX-HB\"")
+                                  << QByteArray("1.0")
+                                  << QStringLiteral(
+                                         "device 10.54.1.1: firmware too old: has 1.0, needs 2");
+}
+
+void TestMakeFromNetwork::whatTheListSaysIsHeldAgainstTheNetwork()
+{
+    QFETCH(const QByteArray, before);
+    QFETCH(const QByteArray, after);
+    QFETCH(const QByteArray, hubVersion);
+    QFETCH(const QString, fault);
+    QByteArray text = plannedHall;
+    plan(text.replace(before, after));
+    const NetworkRun run = make(builtHall({}, hubVersion));
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(
+        run.errors.contains(QStringLiteral("tesselctl: %1: %2\n").arg(path("hall.json"), fault)),
+        qPrintable(run.errors));
+    QVERIFY(!isWritten());
+}
+
+void TestMakeFromNetwork::withoutTheInterfaceNobodyIsAsked()
+{
+    const NetworkRun run = make(builtHall(), {});
+    QCOMPARE(run.exitCode, 3);
+    QCOMPARE(run.errors.count(QStringLiteral("its MAC address is missing")), 2);
+}
+
+void TestMakeFromNetwork::whatCannotBeAskedIsTold()
+{
+    const NetworkRun run = make(builtHall(), QStringLiteral("--interface eth9"));
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(run.errors.contains(u"tesselctl: there is no wired interface \"eth9\"; there are: "
+                                 "wizard\n"),
+             qPrintable(run.errors));
+    QVERIFY(!isWritten());
+}
+
+void TestMakeFromNetwork::whatSpeaksAgainstItIsWrittenWhenForced()
+{
+    QByteArray text = plannedHall;
+    plan(text.replace("\"PX-DL8\"", "\"PX-DL5\""));
+    const NetworkRun run = make(builtHall(), QStringLiteral("--interface wizard --force"));
+    QCOMPARE(run.exitCode, 1);
+    const HallReading reading = readHallFile(path("hall.tessel"));
+    QVERIFY(reading.hall != nullptr);
+    QCOMPARE(reading.hall->data().devices.find(hub)->macAddress, hubMac);
+    QCOMPARE(reading.hall->data().devices.find(microphone)->macAddress, QString());
+}
+
+TESSEL_TEST_MAIN(TestMakeFromNetwork)
+#include "tst_makefromnetwork.moc"
