@@ -29,6 +29,7 @@
 #include <QTimerEvent>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -176,14 +177,17 @@ void MainWindow::closeEvent(QCloseEvent* event)
     event->setAccepted(isSaved || m_file == nullptr);
 }
 
-/// On the installation step nothing while the hubs hold what the document holds. The pages before
-/// it may show what has not come as far as the document.
+/// From the installation step on nothing while the hubs hold what the document holds, and so does
+/// the user's own file, if there is one. The pages before it may show what has not come as far as
+/// the document.
 bool MainWindow::isAnythingToSave() const
 {
-    if (m_currentIndex == installIndex) {
-        return m_installedWork != enteredWork(*m_doc);
+    if (m_currentIndex < installIndex) {
+        return m_currentIndex > 0;
     }
-    return m_currentIndex > 0 && m_currentIndex < installIndex;
+    const EnteredWork work = enteredWork(*m_doc);
+    return (m_currentIndex == installIndex && m_installedWork != work) ||
+           (m_file != nullptr && m_fileWork != work);
 }
 
 BasePage* MainWindow::appendPage(int index)
@@ -278,7 +282,9 @@ void MainWindow::loadWork()
 /// Where devices are missing, the user begins with them: often one was exchanged.
 void MainWindow::loadFile()
 {
-    if (!m_file->load()) {
+    if (m_file->load()) {
+        m_fileWork = enteredWork(*m_doc);
+    } else {
         setPageIndex(*m_doc, int(WizardPage::DeviceLocation));
     }
     showLoadedWork();
@@ -346,7 +352,8 @@ bool MainWindow::saveWork()
     if (m_file == nullptr && !QDir().mkpath(resumeFolder())) {
         return false;
     }
-    setPageIndex(*m_doc, m_currentIndex);
+    // Nobody goes on with work at its end: a hall that was installed opens where it can be again.
+    setPageIndex(*m_doc, std::min(m_currentIndex, installIndex));
     setWindowSize(*m_doc, size());
     pageAt(m_currentIndex)->storeToDocument();
     const bool isSaved = m_file != nullptr ? saveFile() : m_doc->saveResume(resumePath());

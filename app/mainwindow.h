@@ -79,4 +79,5 @@ private:
     int m_resumeTimerId = 0;
     ResumeDialog* m_resumeDialog = nullptr;
     std::optional<EnteredWork> m_installedWork; ///< what the hubs hold; nothing while unknown
+    std::optional<EnteredWork> m_fileWork;      ///< what the file holds; nothing unless all of it
 };

@@ -28,10 +28,12 @@ Introduction::Introduction(QWidget* parent)
 PageIntroduction::PageIntroduction(IPageController* controller, IDocAccessor* doc, QWidget* parent)
     : BasePage(tr("1. Introduction"), stepNumber(WizardPage::Introduction), controller, doc, parent)
 {
-    auto* closeButton = new QPushButton(tr("Close"), this);
-    closeButton->setObjectName(QStringLiteral("closeButton"));
+    // Made first, so that the keyboard begins there and not on "Close", where Return would end the
+    // program that has just begun.
     auto* nextButton = new QPushButton(tr("Next"), this);
     nextButton->setObjectName(QStringLiteral("nextButton"));
+    auto* closeButton = new QPushButton(tr("Close"), this);
+    closeButton->setObjectName(QStringLiteral("closeButton"));
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

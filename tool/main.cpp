@@ -3,6 +3,7 @@
 
 #include <QFile>
 
+#include <csignal>
 #include <cstdio>
 
 #ifdef Q_OS_WIN
@@ -37,6 +38,10 @@ void passWarningsOn(QtMsgType type, const QMessageLogContext& /*context*/, const
 int main(int argc, char** argv)
 {
     qInstallMessageHandler(passWarningsOn);
+#ifdef Q_OS_UNIX
+    // Ctrl+C ends what reads this tool's output first: what is left to put right is still done.
+    std::signal(SIGPIPE, SIG_IGN);
+#endif
     QStringList arguments;
     for (int index = 0; index < argc; ++index) {
         arguments.append(QString::fromLocal8Bit(argv[index]));

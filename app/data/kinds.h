@@ -12,6 +12,7 @@ struct DocumentData;
 namespace SessionKinds {
 
 bool setNicIndex(DocumentData& doc, const QVariantMap& data);
+/// Puts whether it was handed over by the program's arguments only for who asks for it by the key.
 bool getNicIndex(const DocumentData& doc, QVariantMap& data);
 bool setPageIndex(DocumentData& doc, const QVariantMap& data);
 bool getPageIndex(const DocumentData& doc, QVariantMap& data);

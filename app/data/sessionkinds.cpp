@@ -15,6 +15,9 @@ bool SessionKinds::setNicIndex(DocumentData& doc, const QVariantMap& data)
 bool SessionKinds::getNicIndex(const DocumentData& doc, QVariantMap& data)
 {
     data.insert(DataKey::nicIndex(), doc.nicIndex);
+    if (data.contains(DataKey::isNicHandedOver())) {
+        data.insert(DataKey::isNicHandedOver(), doc.isNicHandedOver);
+    }
     return true;
 }
 

@@ -20,6 +20,7 @@ TesselDoc::TesselDoc(QObject* parent)
 {
     const CommandLine commandLine = readCommandLine(QCoreApplication::arguments());
     m_data->nicIndex = commandLine.nicIndex;
+    m_data->isNicHandedOver = commandLine.nicIndex != 0;
     for (const DeviceData& device : commandLine.devices) {
         m_data->devices.append(device);
     }

@@ -11,6 +11,7 @@ namespace DataKey {
 
 // clang-format off
 inline QString nicIndex()           { return QStringLiteral("DataType:NicIndex=int"); }
+inline QString isNicHandedOver()    { return QStringLiteral("DataType:IsNicHandedOver=bool"); }
 inline QString index()              { return QStringLiteral("DataType:Index=int"); }
 inline QString size()               { return QStringLiteral("DataType:Size=QSize"); }
 inline QString count()              { return QStringLiteral("DataType:Count=int"); }

@@ -25,6 +25,13 @@ void setNicIndex(IDocAccessor& doc, int index)
     doc.setData(DataKind::NicIndex, {{DataKey::nicIndex(), index}});
 }
 
+bool isNicHandedOver(IDocAccessor& doc)
+{
+    QVariantMap data{{DataKey::isNicHandedOver(), false}};
+    doc.getData(DataKind::NicIndex, data);
+    return data.value(DataKey::isNicHandedOver()).toBool();
+}
+
 int pageIndex(IDocAccessor& doc)
 {
     return read(doc, DataKind::PageIndex, DataKey::index()).toInt();

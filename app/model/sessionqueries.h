@@ -10,6 +10,10 @@ class IDocAccessor;
 int nicIndex(IDocAccessor& doc);
 void setNicIndex(IDocAccessor& doc, int index);
 
+/// Whether the program's arguments chose the interface: then nobody searches on it, and the devices
+/// are those that were handed over with it.
+bool isNicHandedOver(IDocAccessor& doc);
+
 /// The page shown when the work was saved, an index of WizardPage.
 int pageIndex(IDocAccessor& doc);
 void setPageIndex(IDocAccessor& doc, int index);

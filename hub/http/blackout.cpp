@@ -104,6 +104,31 @@ QString jsonText(const QJsonDocument& document)
     return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
 }
 
+/// An object or an array; an object without entries where the text is neither.
+QJsonValue jsonValue(const QString& body)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(body.toUtf8());
+    return document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
+}
+
+/// The texts below names that say that they are secret, however deep; all texts where `isSecret`.
+QStringList secretsIn(const QJsonValue& value, bool isSecret)
+{
+    QStringList secrets;
+    if (isSecret && value.isString()) {
+        secrets.append(value.toString());
+    }
+    for (const QJsonValue entry : value.toArray()) {
+        secrets += secretsIn(entry, isSecret);
+    }
+    const QJsonObject object = value.toObject();
+    for (auto entry = object.begin(); entry != object.end(); ++entry) {
+        const bool isNamedSo = isSecretName(entry.key()) || entry.key() == firstPasswordName;
+        secrets += secretsIn(entry.value(), isSecret || isNamedSo);
+    }
+    return secrets;
+}
+
 /// A body around the log-in that is no JSON object may be anything.
 QString logInBody(const QString& body)
 {
@@ -117,9 +142,7 @@ QString logInBody(const QString& body)
 /// Any other body stays as it is, unless it is JSON with names that say that they are secret.
 QString otherBody(const QString& body)
 {
-    const QJsonDocument document = QJsonDocument::fromJson(body.toUtf8());
-    const QJsonValue value =
-        document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
+    const QJsonValue value = jsonValue(body);
     const QJsonValue result = blackedOut(value, Secrets::ByName);
     if (result == value) {
         return body;
@@ -169,11 +192,8 @@ void Blackout::learnFrom(const QString& requestLine, const HttpMessage& message)
     if (!isLogIn(requestLine)) {
         return;
     }
-    const QJsonObject body = QJsonDocument::fromJson(message.body.toUtf8()).object();
-    for (auto entry = body.begin(); entry != body.end(); ++entry) {
-        if (isSecretName(entry.key()) || entry.key() == firstPasswordName) {
-            learn(entry->toString());
-        }
+    for (const QString& secret : secretsIn(jsonValue(message.body), false)) {
+        learn(secret);
     }
 }
 

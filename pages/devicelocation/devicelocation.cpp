@@ -14,6 +14,7 @@
 #include "roomkeys.h"
 #include "roomqueries.h"
 #include "roomsummary.h"
+#include "sessionqueries.h"
 #include "textlabel.h"
 
 #include <QEvent>
@@ -277,6 +278,10 @@ DeviceLocation::Row DeviceLocation::decorate(DeviceTable* table, QTreeWidgetItem
 /// Where some devices have answered, the network is the right one and lets answers through.
 void DeviceLocation::explainEmptyLists()
 {
+    if (isNicHandedOver(doc())) {
+        explainWhatIsHandedOver();
+        return;
+    }
     if (m_rows.isEmpty()) {
         const QString nothing =
             tr("No device has answered yet on this network interface. Check that the devices have "
@@ -290,6 +295,18 @@ void DeviceLocation::explainEmptyLists()
                          "cable and firmware of the PX-HBs; then start again."));
     m_noPeripherals->setText(tr("PX-HBs have answered, but no peripheral yet. Check power, network "
                                 "cable and firmware of the peripherals; then start again."));
+}
+
+/// Nothing was searched, so neither cables nor firewalls can be the reason.
+void DeviceLocation::explainWhatIsHandedOver()
+{
+    const QString whatToDo =
+        tr("The wizard was started with a network interface (-N:) and does not search: its devices "
+           "are those that it was started with (-D:). Start it with the missing ones too, or "
+           "without an interface, so that it searches.");
+    m_noHubs->setText(tr("No PX-HB was handed over that can be configured. %1").arg(whatToDo));
+    m_noPeripherals->setText(
+        tr("No peripheral was handed over that can be configured. %1").arg(whatToDo));
 }
 
 /// A device that is listed twice is counted once; all rows of an address have the same room.
@@ -344,11 +361,17 @@ void DeviceLocation::judge(const QList<DeviceCounts>& counts)
         }
     }
     if (!anyDevice) {
-        m_missing.append(m_rows.isEmpty()
-                             ? tr("No device has been found yet: none can be placed in a room.")
-                             : tr("Choose a room for one device or more."));
+        m_missing.append(m_rows.isEmpty() ? noDeviceWords()
+                                          : tr("Choose a room for one device or more."));
     }
     Q_EMIT nextButtonEnabled(m_missing.isEmpty());
+}
+
+QString DeviceLocation::noDeviceWords() const
+{
+    return isNicHandedOver(doc())
+               ? tr("No device was handed over: none can be placed in a room.")
+               : tr("No device has been found yet: none can be placed in a room.");
 }
 
 void DeviceLocation::rename(const Row& row)

@@ -67,6 +67,7 @@ private:
               const QHash<QString, int>& roomOfAddress);
     Row decorate(DeviceTable* table, QTreeWidgetItem* item, RoomCombo* combo);
     void explainEmptyLists();
+    void explainWhatIsHandedOver();
     void markRepeatedRows();
     static void nameWidgets(const Row& row);
     static void updateRow(const Row& row);
@@ -74,6 +75,7 @@ private:
     void chooseSameRoom(const Row& chosen);
     void updateSummary();
     void judge(const QList<DeviceCounts>& counts);
+    QString noDeviceWords() const;
     void rename(const Row& row);
 
     RoomEditor* m_picture;

@@ -55,6 +55,7 @@ void Install::identifyButtonClicked(const QString& ipAddress)
 
 void Install::install()
 {
+    m_keptWords.clear();
     // A status may be what the list is sorted by, so rows can move as soon as one is set.
     QList<std::pair<QString, QString>> hubs;
     for (int index = 0; index < m_hubTable->topLevelItemCount(); ++index) {
@@ -145,6 +146,7 @@ void Install::load()
         }
     }
     m_reasons.clear();
+    m_keptWords.clear();
     m_hubTable->setRows(rows);
     m_awaited.clear();
     for (auto sender = m_senders.cbegin(); sender != m_senders.cend(); ++sender) {
@@ -251,12 +253,14 @@ void Install::explainStatus(const QString& ipAddress, const QString& words)
 
 void Install::tellKeptFile(const QString& path)
 {
-    const QString kept = tr("The hall is kept in %1").arg(QDir::toNativeSeparators(path));
+    m_keptWords = tr("The hall is kept in %1").arg(QDir::toNativeSeparators(path));
     for (int index = 0; index < m_hubTable->topLevelItemCount(); ++index) {
         const QString address = m_hubTable->topLevelItem(index)->text(AddressColumn);
         const QString reason = m_reasons.value(address);
-        explainStatus(address, reason.isEmpty() ? kept : reason + QLatin1Char('\n') + kept);
+        explainStatus(address,
+                      reason.isEmpty() ? m_keptWords : reason + QLatin1Char('\n') + m_keptWords);
     }
+    Q_EMIT noteChanged();
 }
 
 QStringList Install::missing() const
@@ -278,7 +282,7 @@ QString Install::note() const
             return note;
         }
     }
-    return {};
+    return m_keptWords;
 }
 
 QString Install::noteOf(const QTreeWidgetItem* row) const

@@ -39,7 +39,8 @@ public:
     /// True when hubs are listed and all are done.
     bool isDone() const;
 
-    /// Says at every "Done" that the hall is kept in the file at this path.
+    /// Says at every "Done", and in note() until the next installation, that the hall is kept in
+    /// the file at this path.
     void tellKeptFile(const QString& path);
 
     /// While nothing can be installed, what is missing for it.
@@ -47,7 +48,7 @@ public:
 
     /// What is to be said of the current hub or, when that is nothing, of the first one that there
     /// is something to say of: the reason of its "Error", or what it refused although it is "Done".
-    /// Empty when all is well.
+    /// Where all is well, the file that the hall is kept in, or nothing.
     QString note() const;
 
 Q_SIGNALS:
@@ -82,5 +83,6 @@ private:
     DeviceTable* m_hubTable = nullptr;
     QHash<QString, PresetFileSender*> m_senders; ///< by address; children of this widget
     QHash<QString, QString> m_reasons;           ///< by address: of an "Error", or of a refusal
+    QString m_keptWords;                         ///< of tellKeptFile(); empty before
     QSet<QString> m_awaited;                     ///< addresses of the hubs that this list waits for
 };

@@ -100,7 +100,7 @@ void PageInstall::installStatusChanged()
     setExecuteEnabled(!m_content->isBusy());
 }
 
-/// What a hub has to say stands in for what is missing: there is one only without the other.
+/// What is noted stands in for what is missing: there is one only without the other.
 void PageInstall::showNote()
 {
     const QString note = m_content->note();

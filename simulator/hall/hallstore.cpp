@@ -35,7 +35,7 @@ void addPresets(const SimulatedHub& hub, QMap<QString, QByteArray>& contents)
 {
     for (auto preset = hub.presets().begin(); preset != hub.presets().end(); ++preset) {
         const QString folder = QStringLiteral("preset-%1/").arg(preset.key());
-        contents.insert(folder + QStringLiteral("entry.json"), jsonText(preset->entry));
+        contents.insert(folder + QStringLiteral("entry.json"), preset->entry);
         for (auto file = preset->files.begin(); file != preset->files.end(); ++file) {
             contents.insert(folder + file.key() + QStringLiteral(".xml"), file.value());
         }

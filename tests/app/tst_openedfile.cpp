@@ -85,6 +85,14 @@ struct Opened
     }
 
     void open() { user.open(&file); }
+    /// As if every hub were done with what is entered; then some pages on.
+    void endAsInstalled(int pagesOn) const
+    {
+        user.window->setInstallDone(true);
+        for (int page = 0; page < pagesOn; ++page) {
+            user.window->next();
+        }
+    }
     void close(const char* button) const
     {
         const DialogAnswerer question("Save Information?", pressing(button));
@@ -110,6 +118,9 @@ private Q_SLOTS:
     void theFileOpensBehindPleaseWait();
     void yesOnClosingSavesIntoTheFile();
     void withoutYesTheFileStaysAsItIs();
+    void whatWasInstalledIsOfferedToTheFileThatHoldsSomethingElse_data();
+    void whatWasInstalledIsOfferedToTheFileThatHoldsSomethingElse();
+    void afterAnInstallationOfTheFileAsItWasNothingIsAsked();
     void aMissingDeviceIsToldOfAndTheThirdStepOpensWithTheRest();
     void theWayOnFromAMissingDeviceMakesWholeSets();
     void aNewDeviceAtTheOldAddressKeepsItsRemovals();
@@ -222,6 +233,46 @@ void TestOpenedFile::withoutYesTheFileStaysAsItIs()
     again.close("No");
     QCOMPARE(bytesOf(path()), bytes);
     QVERIFY(!QFile::exists(resumePath()));
+}
+
+void TestOpenedFile::whatWasInstalledIsOfferedToTheFileThatHoldsSomethingElse_data()
+{
+    QTest::addColumn<int>("pagesOn");
+    QTest::newRow("on the step that installed it") << 0;
+    QTest::newRow("on the last page") << 1;
+}
+
+void TestOpenedFile::whatWasInstalledIsOfferedToTheFileThatHoldsSomethingElse()
+{
+    QFETCH(const int, pagesOn);
+    saveHall(7);
+    {
+        Opened again;
+        again.open();
+        again.user.namePreset(1, QStringLiteral("Renamed"));
+        again.user.next();
+        again.endAsInstalled(pagesOn);
+        again.close("Yes");
+    }
+    Opened third;
+    third.open();
+    QCOMPARE(third.user.pageNumber(), 8);
+    QCOMPARE(presetName(third.user.doc, 1, 1), QStringLiteral("Renamed"));
+}
+
+void TestOpenedFile::afterAnInstallationOfTheFileAsItWasNothingIsAsked()
+{
+    const QByteArray bytes = saveHall(8);
+    for (const int pagesOn : {0, 1}) {
+        Opened again;
+        again.open();
+        again.user.back(2);
+        again.user.next(2);
+        again.endAsInstalled(pagesOn);
+        const DialogAnswerer nothingIsAsked;
+        QVERIFY(again.user.window->close());
+        QCOMPARE(bytesOf(path()), bytes);
+    }
 }
 
 void TestOpenedFile::aMissingDeviceIsToldOfAndTheThirdStepOpensWithTheRest()

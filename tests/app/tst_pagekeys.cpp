@@ -56,6 +56,8 @@ private Q_SLOTS:
     void aKeyThatIsHeldTurnsOnePage();
     void aDisabledNextStaysWhereItIs();
     void theButtonsNameTheirKeys();
+    void noPageThatGoesOnBeginsOnClose_data();
+    void noPageThatGoesOnBeginsOnClose();
 };
 
 void TestPageKeys::altAndArrowsTurnThePagesUpToTheInstallation()
@@ -116,6 +118,33 @@ void TestPageKeys::theButtonsNameTheirKeys()
     wizard.press(Qt::Key_Right);
     QCOMPARE(wizard.button("nextButton")->toolTip(), QStringLiteral("Alt+Right"));
     QCOMPARE(wizard.button("backButton")->toolTip(), QStringLiteral("Alt+Left"));
+}
+
+void TestPageKeys::noPageThatGoesOnBeginsOnClose_data()
+{
+    QTest::addColumn<bool>("isByMouse");
+    QTest::newRow("by key") << false;
+    QTest::newRow("by mouse") << true;
+}
+
+void TestPageKeys::noPageThatGoesOnBeginsOnClose()
+{
+    QFETCH(const bool, isByMouse);
+    const Wizard wizard;
+    QVERIFY(QTest::qWaitForWindowActive(wizard.window.get()));
+    QCOMPARE(QApplication::focusWidget(), wizard.button("nextButton"));
+    while (wizard.page() < 8) {
+        const int before = wizard.page();
+        if (isByMouse) {
+            QTest::mouseClick(wizard.button("nextButton"), Qt::LeftButton);
+        } else {
+            wizard.press(Qt::Key_Right);
+        }
+        QCOMPARE(wizard.page(), before + 1);
+        const QWidget* focused = QApplication::focusWidget();
+        QVERIFY(focused != nullptr && wizard.stack()->currentWidget()->isAncestorOf(focused));
+        QVERIFY2(focused != wizard.button("closeButton"), qPrintable(QString::number(before + 1)));
+    }
 }
 
 TESSEL_TEST_MAIN(TestPageKeys)

@@ -15,6 +15,17 @@ bool QuietDoc::doAction(int kind, const QVariantMap& data)
     return true;
 }
 
+bool QuietDoc::getData(int kind, QVariantMap& data)
+{
+    const QString key = QStringLiteral("DataType:IsNicHandedOver=bool");
+    const bool isAsked = data.contains(key);
+    const bool isKnown = TesselDoc::getData(kind, data);
+    if (isAsked) {
+        data.insert(key, isNicHandedOver);
+    }
+    return isKnown;
+}
+
 DeviceLocationStep::DeviceLocationStep(int rooms)
 {
     drawRooms(doc, rooms);

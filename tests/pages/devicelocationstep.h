@@ -26,13 +26,16 @@ inline const QString microphoneModel = QStringLiteral("PX-DL");
 inline const QString speakerModel = QStringLiteral("LQA4-08S");
 inline const QString controllerModel = QStringLiteral("PNB-QE7");
 
-/// A document that notes which devices were asked to show themselves instead of asking them.
+/// A document that notes which devices were asked to show themselves instead of asking them, and
+/// may stand for one that was handed over an interface.
 class QuietDoc : public TesselDoc
 {
 public:
     QuietDoc();
     bool doAction(int kind, const QVariantMap& data) override;
+    bool getData(int kind, QVariantMap& data) override;
 
+    bool isNicHandedOver = false;
     QList<std::pair<int, QVariantMap>> actions;
 };
 

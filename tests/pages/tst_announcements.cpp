@@ -135,9 +135,11 @@ void TestAnnouncements::everyNewStatusIsToldOnce()
                           labels.at(1) + QStringLiteral(": Installing...")}));
     QTRY_COMPARE(step.statuses(), QStringLiteral("Done Done"));
     QStringList said = Announcements::takeSaid();
+    const QString kept = said.takeLast();
     said.sort();
     QCOMPARE(said, QStringList({labels.at(0) + QStringLiteral(": Done"),
                                 labels.at(1) + QStringLiteral(": Done")}));
+    QVERIFY2(kept.startsWith(u"The hall is kept in "), qPrintable(kept));
 }
 
 void TestAnnouncements::anErrorIsToldWithItsReasonOnce()
@@ -168,8 +170,9 @@ void TestAnnouncements::installingAgainTellsItAgain()
     Announcements::takeSaid();
     press(step.execute());
     QTRY_COMPARE(step.status(1), QStringLiteral("Done"));
-    QCOMPARE(Announcements::takeSaid(), QStringList({label + QStringLiteral(": Installing..."),
-                                                     label + QStringLiteral(": Done")}));
+    QCOMPARE(
+        Announcements::takeSaid().first(2),
+        QStringList({label + QStringLiteral(": Installing..."), label + QStringLiteral(": Done")}));
 }
 
 TESSEL_TEST_MAIN(TestAnnouncements)

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void everyWidgetHasANameForScreenReaders();
     void identifyAsksTheDocument();
     void listsWithoutRowsSayWhatToCheck();
+    void whereNobodySearchesListsWithoutRowsBlameNoSearch();
 };
 
 namespace {
@@ -362,6 +363,29 @@ void TestDeviceLocation::listsWithoutRowsSayWhatToCheck()
     step.enter();
     QVERIFY(step.hubs->accessibleDescription().contains(QStringLiteral("no PX-HB yet")));
     QCOMPARE(step.peripherals->accessibleDescription(), QString());
+}
+
+void TestDeviceLocation::whereNobodySearchesListsWithoutRowsBlameNoSearch()
+{
+    Step step;
+    step.doc.isNicHandedOver = true;
+    step.enter();
+    QVERIFY(step.next->accessibleDescription().startsWith(u"No device was handed over"));
+    step.add(microphoneModel);
+    step.enter();
+    QCOMPARE(step.peripherals->accessibleDescription(), QString());
+    const QString nothing = step.hubs->accessibleDescription();
+    QVERIFY2(nothing.startsWith(u"No PX-HB was handed over"), qPrintable(nothing));
+    for (const char* cause : {"-N:", "-D:", "does not search"}) {
+        QVERIFY2(nothing.contains(QLatin1String(cause)), cause);
+    }
+    for (const char* untrue : {"cable", "firewall", "answered"}) {
+        QVERIFY2(!nothing.contains(QLatin1String(untrue)), untrue);
+    }
+    const QRect space = step.hubs->viewport()->rect().adjusted(16, 0, -16, 0);
+    const QRect lines =
+        step.hubs->fontMetrics().boundingRect(space, Qt::AlignCenter | Qt::TextWordWrap, nothing);
+    QVERIFY2(space.contains(lines), "the whole text is seen in the smallest window");
 }
 
 void TestDeviceLocation::identifyAsksTheDocument()

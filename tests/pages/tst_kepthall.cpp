@@ -12,6 +12,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -49,6 +50,11 @@ QString toolTip(const InstallHall& step, int hub)
     return row->toolTip(columnOf(*step.list(), "Status"));
 }
 
+QString quietLine(const InstallHall& step)
+{
+    return step.page.findChild<QLabel*>(QStringLiteral("quietLine"))->text();
+}
+
 Fault refusal(Exchange exchange)
 {
     Fault fault;
@@ -84,6 +90,8 @@ private Q_SLOTS:
     void testsKeepAwayFromThePersonsDocuments();
     void whenEveryHubIsDoneTheHallIsKeptAmongTheDocuments();
     void everyDoneNamesTheFileBesideWhatItSaidBefore();
+    void theQuietLineNamesTheFileUntilTheNextInstallation();
+    void whatAHubHasToSayIsMoreUrgentThanTheFile();
     void whatIsKeptIsWhatWasInstalled();
     void noFirmwarePasswordOrDigestIsKept();
     void whileAHubIsNotDoneNothingIsKept();
@@ -147,6 +155,35 @@ void TestKeptHall::everyDoneNamesTheFileBesideWhatItSaidBefore()
     const QTreeWidgetItem* row = rowWith(*step.list(), "IP Address", step.address(1));
     QCOMPARE(row->data(columnOf(*step.list(), "Status"), Qt::AccessibleDescriptionRole).toString(),
              sentence);
+}
+
+void TestKeptHall::theQuietLineNamesTheFileUntilTheNextInstallation()
+{
+    InstallHall step(base, 1);
+    QCOMPARE(quietLine(step), QString());
+    installWhole(step);
+    QCOMPARE(quietLine(step), QStringLiteral("The hall is kept in ") +
+                                  QDir::toNativeSeparators(folder() + u'/' + keptFiles().first()));
+    enterAgain(step);
+    QCOMPARE(quietLine(step), QString());
+    const QString first = keptFiles().first();
+    installWhole(step);
+    QStringList others = keptFiles();
+    others.removeOne(first);
+    QVERIFY2(quietLine(step).endsWith(others.value(0)), qPrintable(quietLine(step)));
+}
+
+void TestKeptHall::whatAHubHasToSayIsMoreUrgentThanTheFile()
+{
+    const InstallHall step(base, 2);
+    step.setFault(2, {.exchange = Exchange::Recall,
+                      .kind = FaultKind::Body,
+                      .bytes = R"({"request":"refused"})"});
+    press(step.execute());
+    QTRY_COMPARE(step.statuses(), QStringLiteral("Done Done"));
+    QCOMPARE(keptFiles().size(), 1);
+    QVERIFY2(quietLine(step).contains(u"Recalling the preset of layout 1"),
+             qPrintable(quietLine(step)));
 }
 
 void TestKeptHall::whatIsKeptIsWhatWasInstalled()

@@ -105,7 +105,10 @@ void TestTesselHall::storeHoldsWhatTheHubHolds()
     const QString hub = folder.filePath(address);
     QCOMPARE(contents(hub + QStringLiteral("/preset-1/hub01.xml")), HubTexts::hubXml());
     QCOMPARE(contents(hub + QStringLiteral("/preset-1/021A00100001.xml")), HubTexts::deviceXml());
-    const QJsonObject entry = object(hub + QStringLiteral("/preset-1/entry.json"));
+    const QString entryFile = hub + QStringLiteral("/preset-1/entry.json");
+    const QByteArray sent = HubTexts::presetEntry(host, {}, 1, "Ä");
+    QCOMPARE(contents(entryFile), sent.mid(sent.indexOf("\r\n\r\n") + 4));
+    const QJsonObject entry = object(entryFile);
     QCOMPARE(entry.value(QLatin1String("description")).toString(), QString::fromUtf8("Ä"));
     QCOMPARE(entry.value(QLatin1String("source-type")).toInt(), 2);
     const QByteArray stateText = contents(hub + QStringLiteral("/state.json"));

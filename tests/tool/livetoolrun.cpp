@@ -2,16 +2,33 @@
 
 #include <QTest>
 
+#include <array>
 #include <csignal>
+#include <unistd.h>
 
 namespace {
 
 constexpr int patience = 60000; // milliseconds
 
+/// In the program itself, before it begins.
+void writeIntoBrokenPipe()
+{
+    std::array<int, 2> ends = {-1, -1};
+    if (::pipe(ends.data()) == 0) {
+        ::dup2(ends[1], STDOUT_FILENO);
+        ::dup2(ends[1], STDERR_FILENO);
+        ::close(ends[1]);
+        ::close(ends[0]);
+    }
+}
+
 } // namespace
 
-LiveToolRun::LiveToolRun(const QStringList& arguments, const QByteArray& typed)
+LiveToolRun::LiveToolRun(const QStringList& arguments, const QByteArray& typed, Reader reader)
 {
+    if (reader == Reader::Gone) {
+        m_program.setChildProcessModifier(writeIntoBrokenPipe);
+    }
     // Tests that are run by nohup would start it without.
     std::signal(SIGHUP, SIG_DFL);
     m_program.start(QStringLiteral(TESSEL_TOOL), arguments);

@@ -8,8 +8,16 @@
 class LiveToolRun
 {
 public:
+    /// Whether anybody reads what it writes; otherwise its pipes are broken from the start.
+    enum class Reader
+    {
+        There,
+        Gone
+    };
+
     /// Starts it, with this as all that its user types.
-    explicit LiveToolRun(const QStringList& arguments, const QByteArray& typed = {});
+    explicit LiveToolRun(const QStringList& arguments, const QByteArray& typed = {},
+                         Reader reader = Reader::There);
     ~LiveToolRun();
 
     /// Waits until it has said this; false when that never comes.

@@ -89,7 +89,7 @@ void TestToolProgram::wrongUsageIsOneLine_data()
     row("a command that moves the cursor", {QStringLiteral("a\x1b[2Jb\nc")},
         "unknown command \"a?[2Jb?c\"");
     row("an unknown option of a command", {show, QStringLiteral("--bogus"), show},
-        "show: unknown option 'bogus'; see tesselctl show --help");
+        "show: unknown option \"--bogus\"; see tesselctl show --help");
     row("no operand", {show}, "show: FILE is missing");
     row("an empty operand", {show, QString()}, "show: FILE is missing");
     row("two operands", {show, QStringLiteral("a"), QStringLiteral("b")},

@@ -11,13 +11,23 @@ QCommandLineOption parserOption(const CommandOption& option)
     return {option.names, option.description, option.valueName};
 }
 
-/// A part of a line, as what else is said of arguments.
-QString inOurWords(QString error)
+QString missingValue(const CommandOption& option)
 {
-    if (error.endsWith(u'.')) {
-        error.chop(1);
+    return QStringLiteral("%1 needs a value: %2")
+        .arg(writtenOption(option.names.first()), option.valueName);
+}
+
+/// What is left when no option is unknown: a value that is missing or is one too many.
+QString faultOfValue(const CommandSyntax& syntax, const QString& given)
+{
+    for (const CommandOption& option : syntax.options) {
+        for (const QString& name : option.names) {
+            if (writtenOption(name) == given && !option.valueName.isEmpty()) {
+                return missingValue(option);
+            }
+        }
     }
-    return error.left(1).toLower() + error.mid(1);
+    return QStringLiteral("%1 takes no value").arg(given);
 }
 
 qsizetype timesGiven(const CommandOption& option, const QStringList& given)
@@ -54,7 +64,10 @@ void Arguments::read(const CommandSyntax& syntax, const QStringList& arguments)
     }
     // The parser passes over its first argument, where it expects the program's name.
     if (!parser.parse(QStringList(QString()) + arguments)) {
-        m_fault = inOurWords(parser.errorText());
+        const QString unknown = parser.unknownOptionNames().value(0);
+        m_fault = unknown.isEmpty()
+                      ? faultOfValue(syntax, parser.errorText().section(u'\'', 1, -2))
+                      : QStringLiteral("unknown option \"%1\"").arg(writtenOption(unknown));
     }
     m_wantsHelp = parser.isSet(help);
     m_operands = parser.positionalArguments();
@@ -80,9 +93,8 @@ QString Arguments::faultOfOption(const CommandOption& option) const
     if (given.isEmpty() && option.isRequired) {
         return QStringLiteral("%1 %2 is missing").arg(written, option.valueName);
     }
-    return !option.valueName.isEmpty() && given.contains(QString())
-               ? QStringLiteral("%1 needs a value: %2").arg(written, option.valueName)
-               : QString();
+    return !option.valueName.isEmpty() && given.contains(QString()) ? missingValue(option)
+                                                                    : QString();
 }
 
 QString Arguments::faultOfOperands(const QList<Operand>& operands) const

@@ -48,13 +48,17 @@ QString emptiness(const QString& file, const DocumentData& hall)
                                       : QString();
 }
 
-bool isAgreedTo(const DocumentData& hall, Terminal& terminal)
+void sayWhatWillBeHeard(const DocumentData& hall, Terminal& terminal)
 {
     terminal.say(
-        QStringLiteral("%1 layouts will be recalled on %2 hubs, one after the other.")
+        QStringLiteral("%1 layouts will be recalled on %2 hubs, one after the other. Whoever is in "
+                       "the hall hears it: microphones and loudspeakers switch to other rooms, and "
+                       "the sound is interrupted.")
             .arg(QString::number(hall.scenes.size()), QString::number(placedHubs(hall).size())));
-    terminal.say(QStringLiteral("Whoever is in the hall hears it: microphones and loudspeakers"));
-    terminal.say(QStringLiteral("switch to other rooms, and the sound is interrupted."));
+}
+
+bool isAgreedTo(Terminal& terminal)
+{
     terminal.say(QStringLiteral("Begin? (y/n)"));
     QFile input;
     if (!terminal.flush() || !input.open(stdin, QIODevice::ReadOnly)) {
@@ -132,7 +136,8 @@ ExitCode walkThrough(const DocumentData& hall, const Arguments& arguments, Pace 
         terminal.say(QStringLiteral("%1: %2").arg(kept.fileName(), kept.errorString()));
         return ExitCode::CouldNotBeTried;
     }
-    if (!arguments.has(QStringLiteral("yes")) && !isAgreedTo(hall, terminal)) {
+    sayWhatWillBeHeard(hall, terminal);
+    if (!arguments.has(QStringLiteral("yes")) && !isAgreedTo(terminal)) {
         terminal.say(QStringLiteral("nothing was recalled"));
         return ExitCode::CouldNotBeTried;
     }

@@ -1,6 +1,7 @@
 #include "terminal.h"
 
 #include "displaywidth.h"
+#include "texttable.h"
 
 #include <QFileDevice>
 #include <QJsonDocument>
@@ -36,7 +37,12 @@ void Terminal::say(const QString& line)
 {
     // Whoever reads both in one window sees them in the order in which they were written.
     flush();
-    m_talk->write((QStringLiteral("tesselctl: ") + printable(line) + u'\n').toUtf8());
+    const QString name = QStringLiteral("tesselctl: ");
+    const QString shown = printable(line);
+    const int room = TextTable::usualWidth - int(name.size());
+    for (const QString& part : m_isWatched ? wrapped(shown, room) : QStringList(shown)) {
+        m_talk->write((name + part + u'\n').toUtf8());
+    }
     isFlushed(m_talk);
 }
 

@@ -22,8 +22,9 @@ public:
     /// Writes data for programs: one object, its keys in alphabetical order on every run.
     void write(const QJsonObject& object);
 
-    /// Says something to the person, in a line of its own and under the program's name. Characters
-    /// that a terminal would act upon are shown as marks.
+    /// Says something to the person, in a line of its own and under the program's name; one that is
+    /// watched and wider than a table is wrapped. Characters that a terminal would act upon are
+    /// shown as marks.
     void say(const QString& line);
 
     /// True when all data has been taken up to here.

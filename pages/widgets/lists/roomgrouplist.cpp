@@ -67,6 +67,9 @@ RoomGroupList::RoomGroupList(const QStringList& headers, const QList<int>& width
         widthOfColumn.insert(column, widths.at(column));
     }
     new ColumnWidths(this, widthOfColumn);
+    for (int column = 0; column < headers.size(); ++column) {
+        headerItem()->setToolTip(column, headers.at(column)); // some are wider than their columns
+    }
 }
 
 void RoomGroupList::setGroups(const QList<RoomGroup>& groups)

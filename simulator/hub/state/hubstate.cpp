@@ -23,6 +23,8 @@ const QString tokenKey = QStringLiteral("access-token");
 const QString requestKey = QStringLiteral("request");
 const QString numberKey = QStringLiteral("preset-number");
 
+const QLatin1String descriptionKey("description");
+
 QJsonObject bodyOf(const HubRequest& request)
 {
     return QJsonDocument::fromJson(request.body).object();
@@ -56,7 +58,7 @@ QByteArray exportedConfiguration(const HubDescription& hub)
 
 QString StoredPreset::description() const
 {
-    return entry.value(QLatin1String("description")).toString();
+    return QJsonDocument::fromJson(entry).object().value(descriptionKey).toString();
 }
 
 HubState::HubState(const HubDescription& description)
@@ -182,11 +184,11 @@ HubReply HubState::presetEntry(const HubRequest& request)
 {
     const QJsonObject entry = bodyOf(request);
     const int number = entry.value(numberKey).toInt();
-    if (!isPresetNumber(number) || !entry.value(QLatin1String("description")).isString()) {
+    if (!isPresetNumber(number) || !entry.value(descriptionKey).isString()) {
         return HubReply::error(400, QStringLiteral("no preset entry"));
     }
     // An entry makes the preset anew: files of an earlier one of that number go with it.
-    m_presets.insert(number, {entry, {}});
+    m_presets.insert(number, {request.body, {}});
     return HubReply::json(200, accepted(),
                           QStringLiteral("preset %1 \"%2\" entered")
                               .arg(QString::number(number), m_presets[number].description()));

@@ -5,14 +5,14 @@
 #include "hubrequest.h"
 #include "hubtokens.h"
 
-#include <QJsonObject>
+#include <QByteArray>
 #include <QMap>
 
 /// A preset as a hub holds it.
 struct StoredPreset
 {
-    /// The entry as it was given.
-    QJsonObject entry = {};
+    /// The entry, byte for byte as it was given.
+    QByteArray entry = {};
     /// The preset files by storage name.
     QMap<QString, QByteArray> files = {};
 

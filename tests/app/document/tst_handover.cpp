@@ -1,4 +1,5 @@
 #include "devicequeries.h"
+#include "sessionqueries.h"
 #include "tesseldoc.h"
 #include "testcase.h"
 
@@ -13,6 +14,7 @@ class TestHandover : public TestCase
 
 private Q_SLOTS:
     void documentStartsWithInterfaceAndDevicesOfTheArguments();
+    void whoAsksIsToldThatNobodySearches();
 };
 
 void TestHandover::documentStartsWithInterfaceAndDevicesOfTheArguments()
@@ -26,6 +28,15 @@ void TestHandover::documentStartsWithInterfaceAndDevicesOfTheArguments()
     QVERIFY(device);
     QCOMPARE(device->modelName, QStringLiteral("PX-HB"));
     QCOMPARE(device->label, QStringLiteral("Süd"));
+}
+
+void TestHandover::whoAsksIsToldThatNobodySearches()
+{
+    TesselDoc doc(nullptr);
+    QVERIFY(isNicHandedOver(doc));
+    QVariantMap data;
+    QVERIFY(doc.getData(1, data));
+    QCOMPARE(data.size(), 1);
 }
 
 int main(int argc, char** argv)

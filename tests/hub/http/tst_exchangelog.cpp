@@ -64,6 +64,8 @@ private Q_SLOTS:
     void noMessageTellsASecret_data();
     void noMessageTellsASecret();
     void aSecretThatWasMetOnceIsBlackEverywhere();
+    void aSecretFromDeepInsideALogInIsBlackEverywhere_data();
+    void aSecretFromDeepInsideALogInIsBlackEverywhere();
     void whatAHubExportsIsLeftOut();
     void whatIsNoSecretStays();
     void aHubWithoutATokenBlacksOutNothing();
@@ -236,6 +238,27 @@ void TestExchangeLog::aSecretThatWasMetOnceIsBlackEverywhere()
              QStringLiteral("GET http://127.20.9.1/api/v0/x/*** HTTP/1.1"));
     QCOMPARE(lines().at(3).value(u"line").toString(), QStringLiteral("HTTP/1.1 500 ***"));
     QCOMPARE(lines().at(3).value(u"body").toString(), QStringLiteral("no *** here"));
+}
+
+void TestExchangeLog::aSecretFromDeepInsideALogInIsBlackEverywhere_data()
+{
+    QTest::addColumn<QString>("body");
+    QTest::newRow("in an object") << R"({"session": {"id": "9f3c-Token-77aa"}})";
+    QTest::newRow("named in an object") << R"({"data": {"access-token": "9f3c-Token-77aa"}})";
+    QTest::newRow("in a list") << R"({"tokens": [["9f3c-Token-77aa"]]})";
+    QTest::newRow("in an object in a list") << R"([{"x": [{"token": "9f3c-Token-77aa"}]}])";
+}
+
+void TestExchangeLog::aSecretFromDeepInsideALogInIsBlackEverywhere()
+{
+    QFETCH(const QString, body);
+    ExchangeLog log(m_path);
+    QVERIFY(log.open());
+    log.noteReply(hub, lineOf(tokenRequest()), reply(qPrintable(body)));
+    const QString later = HttpRequest::getIdentification(hub, QString());
+    log.noteReply(hub, lineOf(later), reply("no 9f3c-Token-77aa here"));
+    QCOMPARE(lines().at(1).value(u"body").toString(), QStringLiteral("no *** here"));
+    QVERIFY2(!bytes().contains(token.toUtf8()), bytes().constData());
 }
 
 void TestExchangeLog::whatAHubExportsIsLeftOut()

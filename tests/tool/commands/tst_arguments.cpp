@@ -70,11 +70,13 @@ void TestArguments::wrongArgumentsAreToldInOneLine_data()
     };
     row("--json", "FILE is missing");
     row("one two", "one argument too many: two");
-    row("file --bogus", "unknown option 'bogus'");
-    row("file -x", "unknown option 'x'");
-    row("file -o", "missing value after '-o'");
+    row("file --bogus", "unknown option \"--bogus\"");
+    row("file -x", "unknown option \"-x\"");
+    row("file --it's --json=a", "unknown option \"--it's\"");
+    row("file -o", "-o needs a value: PATH");
+    row("file --output", "-o needs a value: PATH");
     row("file --output=", "-o needs a value: PATH");
-    row("file --json=yes", "unexpected value after '--json'");
+    row("file --json=yes", "--json takes no value");
     row("file --json --json", "--json is given more than once");
     row("file -o a --output b", "-o is given more than once");
 }

@@ -1,7 +1,10 @@
 #include "commandrun.h"
+#include "hall.h"
 #include "hallfile.h"
 #include "halljson.h"
+#include "hallstore.h"
 #include "httpreply.h"
+#include "installdriver.h"
 #include "installrun.h"
 #include "plancommand.h"
 #include "testcase.h"
@@ -37,6 +40,43 @@ QList<QByteArray> sentBodies(const QString& hub, HallDocument& hall)
     }
 }
 
+/// Four hubs that export at once, each with this password.
+const QString password = QStringLiteral("secret7");
+
+HallDescription openHubs(const QString& base)
+{
+    HallDescription description = *HallDescription::byCounts(4, 0, base);
+    for (HubDescription& hub : description.hubs) {
+        hub.password = password;
+        hub.exportPolls = 0;
+    }
+    return description;
+}
+
+void install(const QString& hub, HallDocument& hall)
+{
+    InstallDriver driver(hub, &hall, nullptr);
+    driver.start();
+    QTRY_VERIFY(driver.isAskingUser());
+    driver.submitPassword(password);
+    QTRY_VERIFY(driver.isLoggedIn());
+    driver.sendPresets();
+    QTRY_VERIFY(!driver.isRunning());
+    QVERIFY(driver.outcome().isInstalled);
+}
+
+/// The bytes of all files in a folder and those below it, by their places in it.
+QMap<QString, QByteArray> filesBelow(const QString& folder)
+{
+    QMap<QString, QByteArray> files;
+    QDirIterator all(folder, QDir::Files, QDirIterator::Subdirectories);
+    while (all.hasNext()) {
+        const QString file = all.next();
+        files.insert(file.mid(folder.size()), fileAt(file));
+    }
+    return files;
+}
+
 } // namespace
 
 /// `plan`.
@@ -50,6 +90,7 @@ private Q_SLOTS:
     void anAddressThatIsNoHubsIsWrongUsage_data();
     void anAddressThatIsNoHubsIsWrongUsage();
     void theBodiesAreThoseOfAnInstallation();
+    void theBodiesAreWhatTheHubsHoldAfterAnInstallation();
     void aFolderThatCannotBeMadeIsTold();
     void aFolderThatIsNotEmptyIsRefused();
     void addressesOfAFileLeaveTheFolderNot();
@@ -152,6 +193,32 @@ void TestPlanCommand::theBodiesAreThoseOfAnInstallation()
              QByteArray("{\"description\": \"Big \\\"hall\\\"\", \"preset-number\": 1, "
                         "\"source-type\": 2, \"external-source\": \"\"}"));
     QVERIFY(fileAt(path("bodies/127.0.1.1/preset-1/hub.xml")).contains("sys.systemname=\"Hub-1\""));
+}
+
+void TestPlanCommand::theBodiesAreWhatTheHubsHoldAfterAnInstallation()
+{
+    const CommandRun run = plan(sampleHallText().replace("127.0.1.", "127.34.1."),
+                                {QStringLiteral("--files"), path("plan")});
+    QCOMPARE(run.code, ExitCode::AllIsWell);
+    Hall hall(openHubs(QStringLiteral("127.34.1.1")));
+    HallStore store(hall, path("store"));
+    QString error;
+    QVERIFY2(hall.start(&error) && store.start(&error), qPrintable(error));
+    const HallReading reading = readHallFile(path("hall.tessel"));
+    for (const SimulatedHub* hub : hall.hubs()) {
+        install(hub->address(), *reading.hall);
+        const QString held = QLatin1Char('/') + hub->hubDescription().storageName() + u".xml";
+        QMap<QString, QByteArray> bodies = filesBelow(path("plan/") + hub->address());
+        for (const QString& file : bodies.keys()) {
+            const QString name = QString(file).replace(QStringLiteral("/hub.xml"), held);
+            bodies.insert(name, bodies.take(file));
+        }
+        QMap<QString, QByteArray> kept = filesBelow(path("store/") + hub->address());
+        QVERIFY(kept.remove(QStringLiteral("/state.json")) == 1);
+        QVERIFY(bodies.remove(QStringLiteral("/recall.json")) == 1); // it leaves no file behind
+        QVERIFY(kept.size() > 2);
+        QCOMPARE(bodies, kept);
+    }
 }
 
 void TestPlanCommand::aFolderThatCannotBeMadeIsTold()

@@ -15,6 +15,9 @@ const QString second = QStringLiteral("127.31.1.2");
 constexpr int patienceMs = 20000;
 constexpr int shortMs = 500;
 
+// So long that nothing comes of it while a test runs.
+constexpr int endlessMs = 600000;
+
 /// Peripherals stand for hubs: they follow the recall of every number.
 HallDescription twoDevices()
 {
@@ -53,6 +56,7 @@ private Q_SLOTS:
     void hubThatNeverAnswersHoldsUpNobodyElse();
     void hubThatRefusesConnectionsIsAskedAgain();
     void hubThatIsSlowIsAskedAgainUntilItIsThere();
+    void presetFromBeforeIsLeftAloneUntilItHasSettled();
     void stoppingRestoresWithoutTheOtherLayouts();
     void stoppingWaitsForTheLayoutThatIsLoading();
     void stoppingBeforeTheFirstLayoutRecallsNothing();
@@ -184,6 +188,26 @@ void TestHallWalk::hubThatIsSlowIsAskedAgainUntilItIsThere()
     other.recall({{first, 4}}, 0);
     QTRY_COMPARE_WITH_TIMEOUT(over.size(), 1, patienceMs);
     QCOMPARE(round.preset(first).value_or(-1), 4);
+}
+
+void TestHallWalk::presetFromBeforeIsLeftAloneUntilItHasSettled()
+{
+    START_HALL;
+    RECALL_ON_BOTH(7);
+    HallWalk walk({first, second}, {1}, endlessMs, patienceMs);
+    const QSignalSpy over(&walk, SIGNAL(finished()));
+    walk.start();
+    QTRY_COMPARE(hall.device(first)->currentPreset(), 1);
+    QTRY_COMPARE(hall.device(second)->currentPreset(), 1);
+    walk.stop(); // the layout needs no more time, what follows does
+    QTRY_COMPARE(hall.device(first)->currentPreset(), 7);
+    const qsizetype asked = questionCount(hall);
+    PresetRound stranger({first}, patienceMs, nullptr);
+    QSignalSpy answered(&stranger, SIGNAL(finished()));
+    stranger.read();
+    QTRY_COMPARE_WITH_TIMEOUT(answered.size(), 1, patienceMs);
+    QCOMPARE(questionCount(hall), asked + 1);
+    QCOMPARE(over.size(), 0);
 }
 
 void TestHallWalk::stoppingRestoresWithoutTheOtherLayouts()
