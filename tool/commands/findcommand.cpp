@@ -3,9 +3,9 @@
 #include "arguments.h"
 #include "findreport.h"
 #include "networkoptions.h"
+#include "searching.h"
 #include "terminal.h"
 
-#include <QEventLoop>
 #include <QHostAddress>
 
 #include <algorithm>
@@ -25,18 +25,9 @@ std::optional<FindResult> searched(const InterfaceChoice& side, int waitMs,
                                    const QStringList& probes, Terminal& terminal)
 {
     HallSearch search(side.row->index, waitMs, probes);
-    QEventLoop untilFinished;
-    QObject::connect(&search, SIGNAL(finished()), &untilFinished, SLOT(quit()));
-    if (!search.start()) {
-        terminal.say(QStringLiteral("UDP port %1 of %2 is in use: is the wizard or another search "
-                                    "open on this computer?")
-                         .arg(QString::number(DeviceDetector::port), side.row->address));
+    if (!searchToTheEnd(search, side, terminal)) {
         return std::nullopt;
     }
-    if (terminal.isWatched()) {
-        terminal.say(QStringLiteral("searching on %1 (%2)").arg(side.row->name, side.row->address));
-    }
-    untilFinished.exec();
     return FindResult{side, search.devices(), search.probes()};
 }
 
@@ -99,13 +90,9 @@ ExitCode FindCommand::run(const Arguments& arguments, Terminal& terminal) const
     if (!waitMs) {
         return ExitCode::WrongUsage;
     }
-    const InterfaceChoice side =
-        chooseInterface(systemInterfaces(), arguments.value(QStringLiteral("interface")));
-    if (!side.row) {
-        terminal.say(side.fault);
-        return ExitCode::CouldNotBeTried;
-    }
-    const std::optional<FindResult> result = searched(side, *waitMs, probes, terminal);
+    const std::optional<InterfaceChoice> side = searchSide(arguments, terminal);
+    const std::optional<FindResult> result =
+        side ? searched(*side, *waitMs, probes, terminal) : std::nullopt;
     if (!result) {
         return ExitCode::CouldNotBeTried;
     }

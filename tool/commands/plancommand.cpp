@@ -1,9 +1,8 @@
 #include "plancommand.h"
 
 #include "arguments.h"
-#include "deviceclass.h"
-#include "devicequeries.h"
 #include "hallfile.h"
+#include "installablehubs.h"
 #include "installplan.h"
 #include "installwords.h"
 #include "planfiles.h"
@@ -35,26 +34,13 @@ struct HubPlan
     InstallPlan plan;
 };
 
-/// The hubs that the installation asks for, in its order.
-QList<DeviceEntry> placedHubs(HallDocument& hall)
-{
-    QList<DeviceEntry> hubs;
-    for (int index = 0; index < deviceCount(hall); ++index) {
-        const DeviceEntry device = deviceAt(hall, index).value_or(DeviceEntry());
-        if (isHub(device.modelName) && device.roomNumber != 0) {
-            hubs.append(device);
-        }
-    }
-    return hubs;
-}
-
 /// The plans of the hubs of these addresses, or of all when there are none; an address that no hub
 /// has goes into `unknown`.
 QList<HubPlan> plansOf(HallDocument& hall, const QStringList& wanted, QStringList& unknown)
 {
     unknown = wanted;
     QList<HubPlan> plans;
-    for (const DeviceEntry& hub : placedHubs(hall)) {
+    for (const DeviceEntry& hub : installableHubs(hall)) {
         if (wanted.isEmpty() || wanted.contains(hub.ipAddress)) {
             plans.append({hub, planInstallation(hub.ipAddress, hall)});
         }

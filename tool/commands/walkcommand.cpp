@@ -1,6 +1,7 @@
 #include "walkcommand.h"
 
 #include "arguments.h"
+#include "consent.h"
 #include "hallfile.h"
 #include "hallhubs.h"
 #include "interruption.h"
@@ -11,11 +12,8 @@
 #include "walkreport.h"
 
 #include <QEventLoop>
-#include <QFile>
 #include <QJsonDocument>
 #include <QSaveFile>
-
-#include <cstdio>
 
 namespace {
 
@@ -48,20 +46,14 @@ QString emptiness(const QString& file, const DocumentData& hall)
                                       : QString();
 }
 
-bool isAgreedTo(const DocumentData& hall, Terminal& terminal)
+bool isWalkAgreedTo(const DocumentData& hall, Terminal& terminal)
 {
     terminal.say(
         QStringLiteral("%1 layouts will be recalled on %2 hubs, one after the other.")
             .arg(QString::number(hall.scenes.size()), QString::number(placedHubs(hall).size())));
     terminal.say(QStringLiteral("Whoever is in the hall hears it: microphones and loudspeakers"));
     terminal.say(QStringLiteral("switch to other rooms, and the sound is interrupted."));
-    terminal.say(QStringLiteral("Begin? (y/n)"));
-    QFile input;
-    if (!terminal.flush() || !input.open(stdin, QIODevice::ReadOnly)) {
-        return false;
-    }
-    const QByteArray answer = input.readLine().trimmed().toLower();
-    return answer == "y" || answer == "yes";
+    return isAgreedTo(QStringLiteral("Begin? (y/n)"), terminal);
 }
 
 /// The layouts' numbers in their order.
@@ -132,7 +124,7 @@ ExitCode walkThrough(const DocumentData& hall, const Arguments& arguments, Pace 
         terminal.say(QStringLiteral("%1: %2").arg(kept.fileName(), kept.errorString()));
         return ExitCode::CouldNotBeTried;
     }
-    if (!arguments.has(QStringLiteral("yes")) && !isAgreedTo(hall, terminal)) {
+    if (!arguments.has(QStringLiteral("yes")) && !isWalkAgreedTo(hall, terminal)) {
         terminal.say(QStringLiteral("nothing was recalled"));
         return ExitCode::CouldNotBeTried;
     }
