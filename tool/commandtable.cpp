@@ -1,6 +1,7 @@
 #include "commandtable.h"
 
 #include "findcommand.h"
+#include "installcommand.h"
 #include "makecommand.h"
 #include "plancommand.h"
 #include "recallcommand.h"
@@ -14,6 +15,7 @@ CommandTable allCommands()
 {
     CommandTable commands;
     commands.push_back(std::make_unique<FindCommand>());
+    commands.push_back(std::make_unique<InstallCommand>());
     commands.push_back(std::make_unique<RecallCommand>());
     commands.push_back(std::make_unique<ShowCommand>());
     commands.push_back(std::make_unique<MakeCommand>());

@@ -56,6 +56,13 @@ void InstallDriver::cancelLogIn()
     }
 }
 
+void InstallDriver::breakOff()
+{
+    if (isRunning()) {
+        fail(InstallTrouble::BrokenOff);
+    }
+}
+
 void InstallDriver::sendPresets()
 {
     if (m_state == State::LoggedIn) {

@@ -40,6 +40,10 @@ public:
     /// The other answer: the run ends. Does nothing when no password is wanted.
     void cancelLogIn();
 
+    /// Breaks a run off, wherever it is, and the connection with it; what the hub holds by then it
+    /// keeps. Does nothing when none is under way.
+    void breakOff();
+
     /// Goes on with the transfer. Does nothing unless the run is waiting for it.
     void sendPresets();
 

@@ -25,6 +25,7 @@ enum class InstallTrouble
     ConnectionBroken,  ///< it hung up before it had answered
     Silence,           ///< it took the connection, or did not even that, and never answered
     Cancelled,         ///< the user did not give the password
+    BrokenOff,         ///< the user broke the installation off
     MissingRecords     ///< the wizard's own data lacked what the request needs
 };
 

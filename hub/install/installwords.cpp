@@ -64,6 +64,8 @@ QString troubleWords(const InstallOutcome& outcome)
         return InstallWords::tr("no answer for 30 seconds");
     case InstallTrouble::Cancelled:
         return InstallWords::tr("you cancelled the log-in");
+    case InstallTrouble::BrokenOff:
+        return InstallWords::tr("it was broken off and is not finished");
     case InstallTrouble::MissingRecords:
         return InstallWords::tr("what was entered for it is missing");
     }
@@ -73,10 +75,12 @@ QString troubleWords(const InstallOutcome& outcome)
 QString reasonWords(const InstallOutcome& outcome)
 {
     const QString trouble = troubleWords(outcome);
-    if (trouble.isEmpty()) {
-        return {};
-    }
-    QString request = requestWords(outcome.place);
+    return trouble.isEmpty() ? QString() : reasonWords(outcome.place, trouble);
+}
+
+QString reasonWords(const InstallPlace& place, const QString& trouble)
+{
+    QString request = requestWords(place);
     request.front() = request.front().toUpper();
     return QStringLiteral("%1: %2").arg(request, trouble);
 }

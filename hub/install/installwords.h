@@ -17,5 +17,8 @@ QString troubleWords(const InstallOutcome& outcome);
 /// without trouble.
 QString reasonWords(const InstallOutcome& outcome);
 
+/// The same of a trouble that is told in other words.
+QString reasonWords(const InstallPlace& place, const QString& trouble);
+
 /// How far the transfer is, such as "12 of 40 files stored"; empty before it begins.
 QString progressWords(const InstallProgress& progress);

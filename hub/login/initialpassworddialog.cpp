@@ -1,5 +1,7 @@
 #include "initialpassworddialog.h"
 
+#include "firstpassword.h"
+
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -10,8 +12,6 @@
 namespace {
 
 constexpr int dialogHeight = 250;
-constexpr int minPasswordLength = 4;
-constexpr int maxPasswordLength = 16;
 
 } // namespace
 
@@ -47,7 +47,7 @@ void InitialPasswordDialog::passwordEdited()
 void InitialPasswordDialog::passwordChanged()
 {
     const bool complete =
-        password().size() >= minPasswordLength && password() == m_confirmationEdit->text();
+        password().size() >= FirstPassword::minLength && password() == m_confirmationEdit->text();
     acceptButton()->setEnabled(complete);
     setDefaultButton(complete);
     describeFields();
@@ -76,7 +76,7 @@ QString InitialPasswordDialog::refusal() const
 
 QString InitialPasswordDialog::troubleOfPassword() const
 {
-    if (password().size() < minPasswordLength) {
+    if (password().size() < FirstPassword::minLength) {
         return tr("Too short: 4 to 16 letters and digits are needed.");
     }
     return isRefused() ? refusal() : QString();
@@ -93,9 +93,9 @@ QString InitialPasswordDialog::troubleOfConfirmation() const
 
 void InitialPasswordDialog::restrictPassword()
 {
-    const QRegularExpression lettersAndDigits(QStringLiteral("[A-Za-z0-9]+"));
+    const QRegularExpression lettersAndDigits(FirstPassword::pattern());
     passwordEdit()->setValidator(new QRegularExpressionValidator(lettersAndDigits, this));
-    passwordEdit()->setMaxLength(maxPasswordLength);
+    passwordEdit()->setMaxLength(FirstPassword::maxLength);
 }
 
 void InitialPasswordDialog::buildConfirmation()

@@ -54,6 +54,9 @@ public:
     /// hub that is not running.
     bool isRunning() const;
 
+    /// What runs the installation; owned by this.
+    InstallDriver* driver() const { return m_driver; }
+
     /// How the last run went, with the reason of a failure; up to date when finished() is emitted.
     const InstallOutcome& outcome() const;
 

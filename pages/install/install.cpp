@@ -1,10 +1,11 @@
 #include "install.h"
 
 #include "columnwidths.h"
-#include "deviceclass.h"
 #include "devicequeries.h"
 #include "devicetable.h"
 #include "emptylisttext.h"
+#include "installablehubs.h"
+#include "installbarrier.h"
 #include "installwords.h"
 #include "presetfilesender.h"
 #include "progressdelegate.h"
@@ -15,8 +16,6 @@
 #include <QLabel>
 #include <QSet>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace {
 
@@ -41,12 +40,15 @@ QString ofHub(const QTreeWidgetItem* row, const QString& words)
 
 Install::Install(IDocAccessor* doc, QWidget* parent)
     : StepContent(doc, parent)
+    , m_barrier(std::make_unique<InstallBarrier>())
 {
     createWidgets();
     buildLayout();
     connect(m_hubTable, SIGNAL(identifyClicked(QString)), this,
             SLOT(identifyButtonClicked(QString)));
 }
+
+Install::~Install() = default;
 
 void Install::identifyButtonClicked(const QString& ipAddress)
 {
@@ -79,6 +81,7 @@ void Install::startSender(const QString& ipAddress, const QString& label)
     PresetFileSender*& sender = m_senders[ipAddress];
     if (sender == nullptr) {
         sender = new PresetFileSender(ipAddress, label, &doc(), this);
+        m_barrier->add(sender->driver());
         connect(sender, SIGNAL(finished(QString, int)), this,
                 SLOT(presetSendFinished(QString, int)));
         connect(sender, SIGNAL(progressed(QString)), this, SLOT(senderProgressed(QString)));
@@ -136,14 +139,9 @@ void Install::buildLayout()
 void Install::load()
 {
     QList<QStringList> rows;
-    const int devices = deviceCount(doc());
-    for (int index = 0; index < devices; ++index) {
-        const std::optional<DeviceEntry> device = deviceAt(doc(), index);
-        if (device && isHub(device->modelName) && device->roomNumber != 0) {
-            const bool running = isRunning(device->ipAddress);
-            rows.append({device->label, QString(), device->ipAddress,
-                         running ? tr("Installing...") : QString()});
-        }
+    for (const DeviceEntry& hub : installableHubs(doc())) {
+        rows.append({hub.label, QString(), hub.ipAddress,
+                     isRunning(hub.ipAddress) ? tr("Installing...") : QString()});
     }
     m_reasons.clear();
     m_keptWords.clear();
@@ -195,15 +193,7 @@ void Install::senderProgressed(const QString& ipAddress)
 
 void Install::senderLogin()
 {
-    // A log-in that was cancelled has ended the run, like every failure.
-    for (const PresetFileSender* sender : std::as_const(m_senders)) {
-        if (sender->isRunning() && !sender->isLoggedIn()) {
-            return;
-        }
-    }
-    for (PresetFileSender* sender : std::as_const(m_senders)) {
-        sender->sendPresets();
-    }
+    m_barrier->goOn();
 }
 
 QString Install::status(int index) const

@@ -5,7 +5,10 @@
 #include <QHash>
 #include <QSet>
 
+#include <memory>
+
 class DeviceTable;
+class InstallBarrier;
 class PresetFileSender;
 class QTreeWidgetItem;
 
@@ -19,6 +22,7 @@ class Install : public StepContent
 public:
     /// `doc` is not owned and outlives the content.
     explicit Install(IDocAccessor* doc, QWidget* parent = nullptr);
+    ~Install() override;
 
     /// Lists the hubs anew. Installations that are under way go on and show as such.
     void load() override;
@@ -82,6 +86,7 @@ private:
 
     DeviceTable* m_hubTable = nullptr;
     QHash<QString, PresetFileSender*> m_senders; ///< by address; children of this widget
+    std::unique_ptr<InstallBarrier> m_barrier;   ///< between their log-ins and their transfers
     QHash<QString, QString> m_reasons;           ///< by address: of an "Error", or of a refusal
     QString m_keptWords;                         ///< of tellKeptFile(); empty before
     QSet<QString> m_awaited;                     ///< addresses of the hubs that this list waits for

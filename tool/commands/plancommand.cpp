@@ -2,7 +2,7 @@
 
 #include "arguments.h"
 #include "hallfile.h"
-#include "hallhubs.h"
+#include "installablehubs.h"
 #include "installplan.h"
 #include "installwords.h"
 #include "planfiles.h"
@@ -40,7 +40,7 @@ QList<HubPlan> plansOf(HallDocument& hall, const QStringList& wanted, QStringLis
 {
     unknown = wanted;
     QList<HubPlan> plans;
-    for (const DeviceData& hub : placedHubs(hall.data())) {
+    for (const DeviceEntry& hub : installableHubs(hall)) {
         if (wanted.isEmpty() || wanted.contains(hub.ipAddress)) {
             plans.append({hub, planInstallation(hub.ipAddress, hall)});
         }

@@ -3,17 +3,14 @@
 #include "arguments.h"
 #include "hallfile.h"
 #include "hallhubs.h"
+#include "layoutrecall.h"
 #include "networkoptions.h"
-#include "presetround.h"
 #include "resultkeys.h"
 #include "terminal.h"
 #include "texttable.h"
 
-#include <QEventLoop>
 #include <QJsonArray>
 #include <QJsonObject>
-
-#include <algorithm>
 
 namespace {
 
@@ -21,47 +18,7 @@ namespace Key = ResultKey;
 
 constexpr int usualWaitMs = 10000;
 
-/// What was read back from each hub.
-struct Recall
-{
-    int layout = 0;
-    QList<DeviceData> hubs;
-    QList<std::optional<int>> presets; ///< of the hubs, in their order
-};
-
-/// Whether one of them tells which preset is active.
-bool isAnyoneThere(const QList<DeviceData>& hubs, int waitMs)
-{
-    PresetRound round(addressesOf(hubs), waitMs, nullptr);
-    QEventLoop untilKnown;
-    QObject::connect(&round, SIGNAL(answered()), &untilKnown, SLOT(quit()));
-    QObject::connect(&round, SIGNAL(finished()), &untilKnown, SLOT(quit()));
-    round.read();
-    untilKnown.exec();
-    return std::any_of(hubs.begin(), hubs.end(), [&round](const DeviceData& hub) {
-        return round.preset(hub.ipAddress).has_value();
-    });
-}
-
-Recall recalled(int layout, const QList<DeviceData>& hubs, int waitMs)
-{
-    PresetRound round(addressesOf(hubs), waitMs, nullptr);
-    QEventLoop untilFinished;
-    QObject::connect(&round, SIGNAL(finished()), &untilFinished, SLOT(quit()));
-    QHash<QString, int> numbers;
-    for (const DeviceData& hub : hubs) {
-        numbers.insert(hub.ipAddress, layout);
-    }
-    round.recall(numbers, 0);
-    untilFinished.exec();
-    Recall recall{layout, hubs, {}};
-    for (const DeviceData& hub : hubs) {
-        recall.presets.append(round.preset(hub.ipAddress));
-    }
-    return recall;
-}
-
-QString tableOf(const Recall& recall)
+QString tableOf(const LayoutRecall& recall)
 {
     TextTable table({QStringLiteral("Hub"), QStringLiteral("Address"),
                      QStringLiteral("Layout %1").arg(recall.layout)});
@@ -73,7 +30,7 @@ QString tableOf(const Recall& recall)
     return table.text();
 }
 
-QJsonObject objectOf(const Recall& recall)
+QJsonObject objectOf(const LayoutRecall& recall)
 {
     QJsonArray hubs;
     for (qsizetype index = 0; index < recall.hubs.size(); ++index) {
@@ -96,6 +53,27 @@ std::optional<int> layoutIn(const DocumentData& hall, const QString& number)
         }
     }
     return std::nullopt;
+}
+
+/// Recalls, writes what was read back, and says which hub is not there.
+ExitCode recallOn(const QList<DeviceData>& hubs, int layout, int waitMs, bool isForPrograms,
+                  Terminal& terminal)
+{
+    const std::optional<LayoutRecall> recall = recallLayout(layout, hubs, waitMs);
+    if (!recall) {
+        terminal.say(silenceWords());
+        return ExitCode::CouldNotBeTried;
+    }
+    if (isForPrograms) {
+        terminal.write(objectOf(*recall));
+    } else {
+        terminal.write(tableOf(*recall));
+    }
+    const QStringList faults = recallFaults(*recall);
+    for (const QString& fault : faults) {
+        terminal.say(fault);
+    }
+    return faults.isEmpty() ? ExitCode::AllIsWell : ExitCode::SomethingIsNot;
 }
 
 } // namespace
@@ -150,24 +128,5 @@ ExitCode RecallCommand::run(const Arguments& arguments, Terminal& terminal) cons
         terminal.say(QStringLiteral("%1: no hub stands in a room").arg(file));
         return ExitCode::CouldNotBeTried;
     }
-    if (!isAnyoneThere(hubs, *waitMs)) {
-        terminal.say(silenceWords());
-        return ExitCode::CouldNotBeTried;
-    }
-    const Recall recall = recalled(*layout, hubs, *waitMs);
-    if (arguments.has(QStringLiteral("json"))) {
-        terminal.write(objectOf(recall));
-    } else {
-        terminal.write(tableOf(recall));
-    }
-    ExitCode code = ExitCode::AllIsWell;
-    for (qsizetype index = 0; index < hubs.size(); ++index) {
-        if (recall.presets.at(index) != *layout) {
-            terminal.say(QStringLiteral("%1: layout %2: %3")
-                             .arg(hubName(hubs.at(index)), QString::number(*layout),
-                                  readBackWords(recall.presets.at(index), *layout)));
-            code = ExitCode::SomethingIsNot;
-        }
-    }
-    return code;
+    return recallOn(hubs, *layout, *waitMs, arguments.has(QStringLiteral("json")), terminal);
 }

@@ -1,6 +1,7 @@
 #include "walkcommand.h"
 
 #include "arguments.h"
+#include "consent.h"
 #include "hallfile.h"
 #include "hallhubs.h"
 #include "interruption.h"
@@ -11,11 +12,8 @@
 #include "walkreport.h"
 
 #include <QEventLoop>
-#include <QFile>
 #include <QJsonDocument>
 #include <QSaveFile>
-
-#include <cstdio>
 
 namespace {
 
@@ -55,17 +53,6 @@ void sayWhatWillBeHeard(const DocumentData& hall, Terminal& terminal)
                        "the hall hears it: microphones and loudspeakers switch to other rooms, and "
                        "the sound is interrupted.")
             .arg(QString::number(hall.scenes.size()), QString::number(placedHubs(hall).size())));
-}
-
-bool isAgreedTo(Terminal& terminal)
-{
-    terminal.say(QStringLiteral("Begin? (y/n)"));
-    QFile input;
-    if (!terminal.flush() || !input.open(stdin, QIODevice::ReadOnly)) {
-        return false;
-    }
-    const QByteArray answer = input.readLine().trimmed().toLower();
-    return answer == "y" || answer == "yes";
 }
 
 /// The layouts' numbers in their order.
@@ -137,7 +124,8 @@ ExitCode walkThrough(const DocumentData& hall, const Arguments& arguments, Pace 
         return ExitCode::CouldNotBeTried;
     }
     sayWhatWillBeHeard(hall, terminal);
-    if (!arguments.has(QStringLiteral("yes")) && !isAgreedTo(terminal)) {
+    if (!arguments.has(QStringLiteral("yes")) &&
+        !isAgreedTo(QStringLiteral("Begin? (y/n)"), terminal)) {
         terminal.say(QStringLiteral("nothing was recalled"));
         return ExitCode::CouldNotBeTried;
     }

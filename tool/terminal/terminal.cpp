@@ -8,6 +8,8 @@
 
 namespace {
 
+const QString name = QStringLiteral("tesselctl: ");
+
 bool isFlushed(QIODevice* device)
 {
     auto* file = qobject_cast<QFileDevice*>(device);
@@ -37,19 +39,66 @@ void Terminal::say(const QString& line)
 {
     // Whoever reads both in one window sees them in the order in which they were written.
     flush();
-    const QString name = QStringLiteral("tesselctl: ");
     const QString shown = printable(line);
     const int room = TextTable::usualWidth - int(name.size());
+    QString lines;
     for (const QString& part : m_isWatched ? wrapped(shown, room) : QStringList(shown)) {
-        m_talk->write((name + part + u'\n').toUtf8());
+        lines += name + part + u'\n';
     }
-    isFlushed(m_talk);
+    talk(erasure() + lines + m_bottom.join(u'\n'));
+}
+
+void Terminal::draw(const QStringList& lines)
+{
+    if (m_isWatched) {
+        const QString before = erasure();
+        m_bottom.clear();
+        for (const QString& line : lines) {
+            m_bottom.append(printable(line));
+        }
+        talk(before + m_bottom.join(u'\n'));
+    }
+}
+
+void Terminal::ask(const QString& question)
+{
+    if (m_isWatched) {
+        draw({name + question});
+    } else {
+        say(question);
+    }
+}
+
+void Terminal::letGo()
+{
+    if (!m_bottom.isEmpty()) {
+        m_bottom.clear();
+        talk(QStringLiteral("\n"));
+    }
 }
 
 bool Terminal::flush()
 {
     m_isWritten = isFlushed(m_data) && m_isWritten;
     return m_isWritten;
+}
+
+void Terminal::talk(const QString& text)
+{
+    m_talk->write(text.toUtf8());
+    isFlushed(m_talk);
+}
+
+/// What makes a terminal forget the lines at the bottom: up to the first of them, and away with all
+/// that stands behind.
+QString Terminal::erasure() const
+{
+    if (m_bottom.isEmpty()) {
+        return {};
+    }
+    const qsizetype above = m_bottom.size() - 1;
+    const QString up = above > 0 ? QStringLiteral("\x1b[%1A").arg(above) : QString();
+    return u'\r' + up + QStringLiteral("\x1b[J");
 }
 
 void Terminal::put(const QByteArray& bytes)

@@ -2,6 +2,7 @@
 
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 
 class QIODevice;
 
@@ -27,14 +28,27 @@ public:
     /// shown as marks.
     void say(const QString& line);
 
+    /// Shows lines that stay at the bottom, below what is said meanwhile, until they are replaced
+    /// or let go; the first word is not the program's name. Does nothing when nobody watches.
+    void draw(const QStringList& lines);
+
+    /// Asks something that is answered in the same line. What is said meanwhile stands above it.
+    void ask(const QString& question);
+
+    /// Leaves what was drawn or asked where it stands, and goes on below it.
+    void letGo();
+
     /// True when all data has been taken up to here.
     bool flush();
 
 private:
     void put(const QByteArray& bytes);
+    void talk(const QString& text);
+    QString erasure() const;
 
     QIODevice* m_data;
     QIODevice* m_talk;
     bool m_isWatched;
+    QStringList m_bottom; ///< drawn or asked; the last line has no line feed yet
     bool m_isWritten = true;
 };

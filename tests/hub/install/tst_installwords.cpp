@@ -82,6 +82,7 @@ void TestInstallWords::everyTroubleHasItsWords_data()
     row(InstallTrouble::ConnectionBroken, "the hub closed the connection before it had answered");
     row(InstallTrouble::Silence, "no answer for 30 seconds");
     row(InstallTrouble::Cancelled, "you cancelled the log-in");
+    row(InstallTrouble::BrokenOff, "it was broken off and is not finished");
     row(InstallTrouble::MissingRecords, "what was entered for it is missing");
 }
 

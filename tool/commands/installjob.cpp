@@ -1,0 +1,285 @@
+#include "installjob.h"
+
+#include "absentdevices.h"
+#include "arguments.h"
+#include "consent.h"
+#include "hallfaults.h"
+#include "hallfile.h"
+#include "hallhubs.h"
+#include "hallinstallation.h"
+#include "httpconnection.h"
+#include "installplan.h"
+#include "installreport.h"
+#include "installtalk.h"
+#include "installwords.h"
+#include "interruption.h"
+#include "layoutrecall.h"
+#include "networkoptions.h"
+#include "networksearch.h"
+#include "outputfile.h"
+#include "passwordfile.h"
+#include "passwordprompt.h"
+#include "terminal.h"
+#include "userpasswords.h"
+
+#include <QEventLoop>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int recallWaitMs = 10000;
+constexpr int firstLayout = 1;
+
+/// The first of the addresses that none of the hubs has; empty when there is none.
+QString strangerAmong(const QStringList& addresses, const QStringList& hubs)
+{
+    const auto stranger =
+        std::find_if(addresses.begin(), addresses.end(),
+                     [&hubs](const QString& address) { return !hubs.contains(address); });
+    return stranger != addresses.end() ? *stranger : QString();
+}
+
+/// What the hall lacks for an installation of these hubs: it is walked before it begins, since half
+/// of it would be worse than none.
+QStringList missingRecords(HallDocument& hall, const QList<DeviceData>& hubs)
+{
+    QStringList lines;
+    for (const DeviceData& hub : hubs) {
+        const InstallOutcome planned = planInstallation(hub.ipAddress, hall).outcome;
+        if (!planned.isInstalled) {
+            lines.append(hubName(hub) + QStringLiteral(": ") + reasonWords(planned));
+        }
+    }
+    return lines;
+}
+
+QString absenceWords(const AbsentDevice& absent)
+{
+    return QStringLiteral("%1, %2 in room %3: %4")
+        .arg(hubName(absent.device), absent.device.modelName,
+             QString::number(absent.device.roomNumber), absent.reason);
+}
+
+/// A word of a command line as a shell takes it.
+QString shellWord(const QString& text)
+{
+    static const QRegularExpression plain(QStringLiteral("\\A[A-Za-z0-9_./-]+\\z"));
+    QString quoted = text;
+    return plain.match(text).hasMatch()
+               ? text
+               : u'\'' + quoted.replace(u'\'', QStringLiteral("'\\''")) + u'\'';
+}
+
+QString namesOf(const QList<DeviceData>& hubs)
+{
+    QStringList names;
+    for (const DeviceData& hub : hubs) {
+        names.append(hubName(hub));
+    }
+    return names.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+InstallJob::InstallJob(const Command* command, const Arguments* arguments, Terminal* terminal)
+    : m_command(command)
+    , m_arguments(arguments)
+    , m_terminal(terminal)
+    , m_path(arguments->operand(0))
+    , m_log(given("log"))
+{
+}
+
+InstallJob::~InstallJob()
+{
+    HttpConnection::writeTo(nullptr);
+}
+
+ExitCode InstallJob::run()
+{
+    for (const auto part :
+         {&InstallJob::readHall, &InstallJob::chooseHubs, &InstallJob::judgeHall,
+          &InstallJob::readPasswords, &InstallJob::openLog, &InstallJob::findDevices}) {
+        if (const Stop stopped = (this->*part)()) {
+            return *stopped;
+        }
+    }
+    install();
+    tendOthers();
+    return m_code;
+}
+
+InstallJob::Stop InstallJob::readHall()
+{
+    HallReading reading = readHallFile(m_path);
+    if (reading.hall == nullptr) {
+        return stop(ExitCode::CouldNotBeTried, reading.fault);
+    }
+    m_hall = std::move(reading.hall);
+    return {};
+}
+
+InstallJob::Stop InstallJob::chooseHubs()
+{
+    const QStringList chosen = m_arguments->values(QStringLiteral("hub"));
+    const QList<DeviceData> placed = placedHubs(m_hall->data());
+    const QString stranger = strangerAmong(chosen, addressesOf(placed));
+    if (!stranger.isEmpty()) {
+        return stop(
+            ExitCode::WrongUsage,
+            QStringLiteral("%1: %2 is no hub in a room of this hall").arg(m_path, stranger));
+    }
+    for (const DeviceData& hub : placed) {
+        const bool isChosen = chosen.isEmpty() || chosen.contains(hub.ipAddress);
+        (isChosen ? m_hubs : m_others).append(hub);
+        m_names.insert(hub.ipAddress, hubName(hub));
+    }
+    return {};
+}
+
+InstallJob::Stop InstallJob::judgeHall()
+{
+    QStringList faults = hallFaults(*m_hall);
+    if (m_hall->data().scenes.isEmpty()) {
+        faults.append(QStringLiteral("there are no layouts"));
+    }
+    if (m_hubs.isEmpty()) {
+        faults.append(QStringLiteral("there is no hub in any room"));
+    }
+    if (faults.isEmpty()) {
+        faults = missingRecords(*m_hall, m_hubs);
+    }
+    for (const QString& fault : faults) {
+        m_terminal->say(m_path + QStringLiteral(": ") + fault);
+    }
+    return faults.isEmpty() ? Stop() : ExitCode::SomethingIsNot;
+}
+
+InstallJob::Stop InstallJob::readPasswords()
+{
+    const QString path = given("passwords");
+    const PasswordReading reading = path.isEmpty() ? PasswordReading() : readPasswordFile(path);
+    m_passwords = reading.passwords;
+    return reading.fault.isEmpty() ? Stop() : stop(ExitCode::CouldNotBeTried, reading.fault);
+}
+
+InstallJob::Stop InstallJob::openLog()
+{
+    const QString path = given("log");
+    if (path.isEmpty()) {
+        return {};
+    }
+    const QString misled = outputFault(path, {m_path, given("passwords")});
+    if (!misled.isEmpty()) {
+        return stop(ExitCode::WrongUsage, misled);
+    }
+    if (!m_log.open()) {
+        return stop(ExitCode::CouldNotBeTried, path + QStringLiteral(": ") + m_log.error());
+    }
+    HttpConnection::writeTo(&m_log);
+    return {};
+}
+
+InstallJob::Stop InstallJob::findDevices()
+{
+    const std::optional<int> waitMs = millisecondsOf(*m_arguments, QStringLiteral("wait"),
+                                                     usualSearchMs, *m_command, *m_terminal);
+    if (!waitMs) {
+        return ExitCode::WrongUsage;
+    }
+    if (m_arguments->has(QStringLiteral("no-search"))) {
+        return {};
+    }
+    const SearchResult result = searchNetwork(given("interface"), *waitMs, {}, *m_terminal);
+    if (!result.fault.isEmpty()) {
+        return stop(ExitCode::CouldNotBeTried, result.fault);
+    }
+    const QList<AbsentDevice> absent = absentDevices(m_hall->data(), result.devices);
+    for (const AbsentDevice& device : absent) {
+        m_terminal->say(m_path + QStringLiteral(": ") + absenceWords(device));
+    }
+    return absent.isEmpty()
+               ? Stop()
+               : stop(ExitCode::SomethingIsNot,
+                      QStringLiteral("nothing was installed; --no-search leaves this search out"));
+}
+
+void InstallJob::install()
+{
+    UserPasswords passwords(m_names, m_passwords, given("passwords"), m_terminal);
+    HallInstallation installation(m_hall.get(), addressesOf(m_hubs), &passwords);
+    InstallTalk talk(m_names, &installation, m_terminal);
+    const Interruption interruption;
+    QEventLoop untilFinished;
+    QObject::connect(&interruption, SIGNAL(interrupted()), &talk, SLOT(sayInterruption()));
+    QObject::connect(&interruption, SIGNAL(interrupted()), &installation, SLOT(breakOff()));
+    QObject::connect(&installation, SIGNAL(finished()), &untilFinished, SLOT(quit()));
+    talk.sayBegin();
+    installation.start();
+    untilFinished.exec();
+    talk.end();
+    report(installation);
+}
+
+void InstallJob::report(const HallInstallation& installation)
+{
+    if (m_arguments->has(QStringLiteral("json"))) {
+        m_terminal->write(installObject(m_hubs, installation));
+    } else {
+        m_terminal->write(installTable(m_hubs, installation));
+    }
+    for (const DeviceData& hub : m_hubs) {
+        if (installation.outcome(hub.ipAddress).isInstalled) {
+            m_hasInstalled = true;
+        } else {
+            m_code = ExitCode::SomethingIsNot;
+        }
+    }
+    m_isBrokenOff = installation.isBrokenOff();
+}
+
+/// The hubs that were installed are on the first layout now, whatever the others are on.
+void InstallJob::tendOthers()
+{
+    if (m_others.isEmpty() || !m_hasInstalled || m_isBrokenOff) {
+        return;
+    }
+    m_terminal->say(QStringLiteral("what was installed is on layout %1 now, and may not fit to: %2")
+                        .arg(QString::number(firstLayout), namesOf(m_others)));
+    if (!m_terminal->isWatched() || !PasswordPrompt().isPossible()) {
+        m_terminal->say(QStringLiteral("all hubs on one layout: tesselctl recall %1 %2")
+                            .arg(QString::number(firstLayout), shellWord(m_path)));
+    } else if (isAgreedTo(
+                   QStringLiteral("Recall layout %1 on all hubs now? (y/N)").arg(firstLayout),
+                   *m_terminal)) {
+        recallFirst();
+    }
+}
+
+void InstallJob::recallFirst()
+{
+    const std::optional<LayoutRecall> recall =
+        recallLayout(firstLayout, placedHubs(m_hall->data()), recallWaitMs);
+    const QStringList faults = recall ? recallFaults(*recall) : QStringList{silenceWords()};
+    for (const QString& fault : faults) {
+        m_terminal->say(fault);
+    }
+    if (faults.isEmpty()) {
+        m_terminal->say(QStringLiteral("layout %1 is active on all hubs").arg(firstLayout));
+    } else {
+        m_code = ExitCode::SomethingIsNot;
+    }
+}
+
+QString InstallJob::given(const char* option) const
+{
+    return m_arguments->value(QLatin1String(option));
+}
+
+InstallJob::Stop InstallJob::stop(ExitCode code, const QString& reason) const
+{
+    m_terminal->say(reason);
+    return code;
+}

@@ -1,0 +1,158 @@
+#include "userpasswords.h"
+
+#include "firstpassword.h"
+#include "terminal.h"
+
+namespace {
+
+QString firstPasswordRule()
+{
+    return QStringLiteral("%1 to %2 letters and digits are needed")
+        .arg(QString::number(FirstPassword::minLength), QString::number(FirstPassword::maxLength));
+}
+
+} // namespace
+
+UserPasswords::UserPasswords(const QHash<QString, QString>& names,
+                             const QHash<QString, QString>& filed, const QString& path,
+                             Terminal* terminal)
+    : m_names(names)
+    , m_filed(filed)
+    , m_path(path)
+    , m_terminal(terminal)
+{
+    connect(&m_prompt, SIGNAL(typed(QString)), this, SLOT(takeLine(QString)));
+    connect(&m_prompt, SIGNAL(closed()), this, SLOT(takeEnd()));
+}
+
+void UserPasswords::ask(const PasswordWish& wish)
+{
+    if (m_filed.contains(wish.address)) {
+        askFile(wish);
+    } else if (!wish.isFirst && m_justSet.contains(wish.address)) {
+        Q_EMIT given(wish.address, m_justSet.take(wish.address));
+    } else if (!m_prompt.isPossible()) {
+        Q_EMIT withheld(wish.address,
+                        m_path.isEmpty()
+                            ? QStringLiteral("standard input is no terminal to ask for the "
+                                             "password, and there is no --passwords")
+                            : QStringLiteral("%1 has no line for it, and standard input is no "
+                                             "terminal to ask for the password")
+                                  .arg(m_path));
+    } else {
+        m_wishes.append(wish);
+        if (m_wishes.size() == 1) {
+            serveNext();
+        }
+    }
+}
+
+void UserPasswords::stop()
+{
+    if (!m_wishes.isEmpty()) {
+        m_prompt.stop();
+        m_terminal->letGo();
+    }
+    m_wishes.clear();
+    m_once.reset();
+    m_justSet.clear();
+}
+
+void UserPasswords::askFile(const PasswordWish& wish)
+{
+    const QString password = m_filed.value(wish.address);
+    if (wish.wasRefused) {
+        Q_EMIT withheld(wish.address,
+                        QStringLiteral("the hub refused the password of %1").arg(m_path));
+    } else if (wish.isFirst && !FirstPassword::isPossible(password)) {
+        Q_EMIT withheld(wish.address,
+                        QStringLiteral("the password of %1 cannot be a hub's first one: %2")
+                            .arg(m_path, firstPasswordRule()));
+    } else {
+        Q_EMIT given(wish.address, password);
+    }
+}
+
+void UserPasswords::serveNext()
+{
+    if (!m_wishes.isEmpty()) {
+        introduce(m_wishes.first());
+        prompt();
+    }
+}
+
+void UserPasswords::introduce(const PasswordWish& wish)
+{
+    const QString name = m_names.value(wish.address);
+    if (!std::exchange(m_isExplained, true)) {
+        m_terminal->say(
+            QStringLiteral("passwords are not shown while you type; Ctrl+D leaves a hub out"));
+    }
+    if (wish.wasRefused) {
+        m_terminal->say(name + (wish.isFirst ? QStringLiteral(": the hub did not take it")
+                                             : QStringLiteral(": the password is wrong")));
+    }
+    if (wish.isFirst) {
+        m_terminal->say(QStringLiteral("%1 has no password yet; for its first one %2")
+                            .arg(name, firstPasswordRule()));
+    }
+}
+
+/// In this order, so that nothing is shown of what is typed at once.
+void UserPasswords::prompt()
+{
+    const PasswordWish& wish = m_wishes.first();
+    const QString question = !wish.isFirst ? QStringLiteral("password of %1: ")
+                             : m_once      ? QStringLiteral("once more, the new password of %1: ")
+                                           : QStringLiteral("new password of %1: ");
+    m_prompt.read();
+    m_terminal->ask(question.arg(m_names.value(wish.address)));
+}
+
+void UserPasswords::takeLine(const QString& line)
+{
+    m_terminal->letGo();
+    if (m_wishes.first().isFirst) {
+        takeFirst(line);
+    } else {
+        finish(line);
+    }
+}
+
+void UserPasswords::takeFirst(const QString& line)
+{
+    if (!m_once && FirstPassword::isPossible(line)) {
+        m_once = line;
+        prompt();
+    } else if (!m_once) {
+        m_terminal->say(firstPasswordRule());
+        prompt();
+    } else if (*m_once != line) {
+        m_once.reset();
+        m_terminal->say(QStringLiteral("the two passwords are not equal"));
+        prompt();
+    } else {
+        m_justSet.insert(m_wishes.first().address, line);
+        finish(line);
+    }
+}
+
+void UserPasswords::takeEnd()
+{
+    m_terminal->letGo();
+    finish(std::nullopt);
+}
+
+void UserPasswords::finish(const std::optional<QString>& password)
+{
+    m_once.reset();
+    // As long as it is in the list, another wish waits.
+    const QString hub = m_wishes.first().address;
+    if (password) {
+        Q_EMIT given(hub, *password);
+    } else {
+        Q_EMIT withheld(hub, QStringLiteral("you left it out"));
+    }
+    m_wishes.removeFirst();
+    serveNext();
+}

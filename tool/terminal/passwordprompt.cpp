@@ -1,0 +1,133 @@
+#include "passwordprompt.h"
+
+#include <array>
+
+#ifdef Q_OS_WIN
+
+#include <io.h>
+#include <windows.h>
+
+/// A console that does not show what is typed.
+class PasswordPrompt::Silence
+{
+public:
+    Silence(int descriptor, PasswordPrompt* prompt)
+        : m_console(reinterpret_cast<HANDLE>(::_get_osfhandle(descriptor)))
+    {
+        ::GetConsoleMode(m_console, &m_before);
+        ::SetConsoleMode(m_console, (m_before | ENABLE_LINE_INPUT) & ~DWORD(ENABLE_ECHO_INPUT));
+        // A console tells no event loop that a line is there, so the loop stands still until then.
+        QMetaObject::invokeMethod(prompt, "takeLine", Qt::QueuedConnection);
+    }
+    ~Silence() { ::SetConsoleMode(m_console, m_before); }
+    Q_DISABLE_COPY_MOVE(Silence)
+
+    /// The next line with its end; empty when there is none.
+    QString line() const
+    {
+        std::array<wchar_t, 1024> letters{};
+        DWORD count = 0;
+        const BOOL isRead =
+            ::ReadConsoleW(m_console, letters.data(), DWORD(letters.size()), &count, nullptr);
+        return isRead ? QString::fromWCharArray(letters.data(), int(count)) : QString();
+    }
+
+private:
+    HANDLE m_console;
+    DWORD m_before = 0;
+};
+
+bool PasswordPrompt::isPossible() const
+{
+    return ::_isatty(m_descriptor) != 0;
+}
+
+#else
+
+#include <QSocketNotifier>
+
+#include <termios.h>
+#include <unistd.h>
+
+/// A terminal that does not show what is typed.
+class PasswordPrompt::Silence
+{
+public:
+    Silence(int descriptor, PasswordPrompt* prompt)
+        : m_descriptor(descriptor)
+        , m_notifier(new QSocketNotifier(descriptor, QSocketNotifier::Read, prompt))
+    {
+        ::tcgetattr(m_descriptor, &m_before);
+        termios silent = m_before;
+        silent.c_lflag |= tcflag_t(ICANON);
+        silent.c_lflag &= ~tcflag_t(ECHO | ECHONL);
+        // What was typed ahead stays: it may be a pasted password and its repetition.
+        ::tcsetattr(m_descriptor, TCSADRAIN, &silent);
+        connect(m_notifier, SIGNAL(activated(QSocketDescriptor, QSocketNotifier::Type)), prompt,
+                SLOT(takeLine()));
+    }
+    ~Silence()
+    {
+        // It may be the one that told of the line.
+        m_notifier->setEnabled(false);
+        m_notifier->deleteLater();
+        ::tcsetattr(m_descriptor, TCSADRAIN, &m_before);
+    }
+    Q_DISABLE_COPY_MOVE(Silence)
+
+    /// The next line with its end; empty when there is none.
+    QString line() const
+    {
+        std::array<char, 4096> letters{};
+        const ssize_t count = ::read(m_descriptor, letters.data(), letters.size());
+        return count > 0 ? QString::fromLocal8Bit(letters.data(), count) : QString();
+    }
+
+private:
+    int m_descriptor;
+    QSocketNotifier* m_notifier; ///< child of the prompt
+    termios m_before{};
+};
+
+bool PasswordPrompt::isPossible() const
+{
+    return ::isatty(m_descriptor) != 0;
+}
+
+#endif
+
+PasswordPrompt::PasswordPrompt(int descriptor, QObject* parent)
+    : QObject(parent)
+    , m_descriptor(descriptor)
+{
+}
+
+PasswordPrompt::~PasswordPrompt() = default;
+
+void PasswordPrompt::read()
+{
+    m_silence = std::make_unique<Silence>(m_descriptor, this);
+}
+
+void PasswordPrompt::stop()
+{
+    m_silence.reset();
+}
+
+void PasswordPrompt::takeLine()
+{
+    if (m_silence == nullptr) {
+        return;
+    }
+    QString line = m_silence->line();
+    stop();
+    const bool isClosed = line.isEmpty();
+    while (line.endsWith(u'\n') || line.endsWith(u'\r')) {
+        line.chop(1);
+    }
+    if (isClosed) {
+        Q_EMIT closed();
+    } else {
+        Q_EMIT typed(line);
+    }
+}

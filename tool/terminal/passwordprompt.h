@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+
+/// Reads lines from a terminal without showing what is typed. Whatever ends it, also in the middle
+/// of a line, the terminal shows again what is typed.
+class PasswordPrompt : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int standardInput = 0;
+
+    /// `descriptor` is open for reading as long as this lives.
+    explicit PasswordPrompt(int descriptor = standardInput, QObject* parent = nullptr);
+    ~PasswordPrompt() override;
+
+    /// Whether it is a terminal; without one nothing can be read.
+    bool isPossible() const;
+
+    /// From now on nothing is shown. One line is read, and after it what is typed is shown again;
+    /// typed() or closed() follows.
+    void read();
+
+    /// Shows again what is typed. Nothing follows.
+    void stop();
+
+Q_SIGNALS:
+    void typed(const QString& line);
+    /// No line came: the user typed the end of input, or the terminal is gone.
+    void closed();
+
+private Q_SLOTS:
+    void takeLine();
+
+private:
+    class Silence;
+
+    int m_descriptor;
+    std::unique_ptr<Silence> m_silence; ///< while a line is awaited
+};
