@@ -4,15 +4,12 @@
 #include "hallfaults.h"
 #include "hallfile.h"
 #include "halljson.h"
+#include "inputfile.h"
 #include "outputfile.h"
 #include "terminal.h"
 
-#include <QFile>
-#include <QFileInfo>
-
 namespace {
 
-constexpr qint64 maxTextSize = qint64(16) * 1024 * 1024;
 constexpr qsizetype maxFaultsTold = 50;
 
 QString output()
@@ -23,28 +20,6 @@ QString output()
 QString force()
 {
     return QStringLiteral("force");
-}
-
-/// Reads the file at `path` into `text`; the reason why it cannot be read, if there is one.
-QString readText(const QString& path, QByteArray& text)
-{
-    if (QFileInfo(path).isDir()) {
-        return QStringLiteral("this is a folder, not a file");
-    }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return file.errorString();
-    }
-    text = file.read(maxTextSize + 1);
-    if (file.error() != QFileDevice::NoError) {
-        return file.errorString();
-    }
-    if (text.isEmpty()) {
-        return QStringLiteral("the file is empty");
-    }
-    return text.size() > maxTextSize
-               ? QStringLiteral("it is larger than any configuration of a hall")
-               : QString();
 }
 
 /// What cannot be understood, and then what makes no sense.
@@ -117,7 +92,7 @@ ExitCode MakeCommand::run(const Arguments& arguments, Terminal& terminal) const
         return ExitCode::WrongUsage;
     }
     QByteArray text;
-    const QString unreadable = readText(path, text);
+    const QString unreadable = readInputFile(path, text);
     if (!unreadable.isEmpty()) {
         tell(path, {unreadable}, terminal);
         return ExitCode::CouldNotBeTried;
