@@ -4,6 +4,7 @@
 #include "makecommand.h"
 #include "plancommand.h"
 #include "recallcommand.h"
+#include "reportcommand.h"
 #include "showcommand.h"
 #include "walkcommand.h"
 
@@ -18,6 +19,7 @@ CommandTable allCommands()
     commands.push_back(std::make_unique<MakeCommand>());
     commands.push_back(std::make_unique<PlanCommand>());
     commands.push_back(std::make_unique<WalkCommand>());
+    commands.push_back(std::make_unique<ReportCommand>());
     return commands;
 }
 

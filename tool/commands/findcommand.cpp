@@ -36,8 +36,9 @@ std::optional<FindResult> searched(const InterfaceChoice& side, int waitMs,
     if (terminal.isWatched()) {
         terminal.say(QStringLiteral("searching on %1 (%2)").arg(side.row->name, side.row->address));
     }
+    const QDateTime begun = QDateTime::currentDateTime();
     untilFinished.exec();
-    return FindResult{side, search.devices(), search.probes()};
+    return FindResult{begun, side, search.devices(), search.probes()};
 }
 
 void write(const FindResult& result, bool isForPrograms, Terminal& terminal)

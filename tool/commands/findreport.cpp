@@ -151,7 +151,8 @@ QJsonObject findObject(const FindResult& result)
     for (const Probe& probe : result.probes) {
         probes.append(probeObject(probe));
     }
-    return {{QStringLiteral("interface"), sideObject(result.side)},
+    return {{QStringLiteral("begun"), result.begun.toString(Qt::ISODate)},
+            {QStringLiteral("interface"), sideObject(result.side)},
             {QStringLiteral("devices"), devices},
             {QStringLiteral("probes"), probes}};
 }

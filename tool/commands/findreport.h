@@ -3,11 +3,13 @@
 #include "hallsearch.h"
 #include "interfacechoice.h"
 
+#include <QDateTime>
 #include <QJsonObject>
 
 /// What a search found, and where it searched.
 struct FindResult
 {
+    QDateTime begun;
     InterfaceChoice side;
     QList<JudgedDevice> devices;
     QList<Probe> probes;
