@@ -6,6 +6,7 @@
 #include "plancommand.h"
 #include "recallcommand.h"
 #include "replacecommand.h"
+#include "reportcommand.h"
 #include "showcommand.h"
 #include "walkcommand.h"
 
@@ -22,6 +23,7 @@ CommandTable allCommands()
     commands.push_back(std::make_unique<PlanCommand>());
     commands.push_back(std::make_unique<ReplaceCommand>());
     commands.push_back(std::make_unique<WalkCommand>());
+    commands.push_back(std::make_unique<ReportCommand>());
     return commands;
 }
 

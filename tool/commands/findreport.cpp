@@ -125,7 +125,8 @@ QJsonObject findObject(const SearchResult& result)
     for (const Probe& probe : result.probes) {
         probes.append(probeObject(probe));
     }
-    return {{Key::interface(), sideObject(result.side)},
+    return {{Key::begun(), result.begun.toString(Qt::ISODate)},
+            {Key::interface(), sideObject(result.side)},
             {Key::devices(), devices},
             {Key::probes(), probes}};
 }

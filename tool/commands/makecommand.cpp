@@ -5,17 +5,15 @@
 #include "hallfile.h"
 #include "halljson.h"
 #include "halloutput.h"
+#include "inputfile.h"
 #include "networkmacs.h"
 #include "networkoptions.h"
 #include "networksearch.h"
+#include "outputfile.h"
 #include "terminal.h"
-
-#include <QFile>
-#include <QFileInfo>
 
 namespace {
 
-constexpr qint64 maxTextSize = qint64(16) * 1024 * 1024;
 constexpr qsizetype maxFaultsTold = 50;
 
 QString output()
@@ -31,28 +29,6 @@ QString interfaceName()
 QString force()
 {
     return QStringLiteral("force");
-}
-
-/// Reads the file at `path` into `text`; the reason why it cannot be read, if there is one.
-QString readText(const QString& path, QByteArray& text)
-{
-    if (QFileInfo(path).isDir()) {
-        return QStringLiteral("this is a folder, not a file");
-    }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return file.errorString();
-    }
-    text = file.read(maxTextSize + 1);
-    if (file.error() != QFileDevice::NoError) {
-        return file.errorString();
-    }
-    if (text.isEmpty()) {
-        return QStringLiteral("the file is empty");
-    }
-    return text.size() > maxTextSize
-               ? QStringLiteral("it is larger than any configuration of a hall")
-               : QString();
 }
 
 /// Fills in from the network what the hall lacks; the reason why it cannot be asked, if there is
@@ -166,7 +142,7 @@ ExitCode MakeCommand::run(const Arguments& arguments, Terminal& terminal) const
         return ExitCode::WrongUsage;
     }
     QByteArray text;
-    const QString unreadable = readText(path, text);
+    const QString unreadable = readInputFile(path, text);
     if (!unreadable.isEmpty()) {
         tell(path, {unreadable}, terminal);
         return ExitCode::CouldNotBeTried;

@@ -1,6 +1,7 @@
 #include "networkoptions.h"
 
 #include "arguments.h"
+#include "interfacechoice.h"
 #include "terminal.h"
 
 namespace {
@@ -38,4 +39,11 @@ std::optional<int> millisecondsOf(const Arguments& arguments, const QString& nam
                      .arg(command.name(), writtenOption(name), QString::number(maxSeconds),
                           arguments.value(name)));
     return std::nullopt;
+}
+
+QString silenceWords()
+{
+    const QString fault = addressFault(systemInterfaces());
+    return fault.isEmpty() ? QStringLiteral("no hub answered")
+                           : QStringLiteral("no hub answered; %1").arg(fault);
 }

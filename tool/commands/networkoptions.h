@@ -19,3 +19,6 @@ CommandOption secondsOption(const QString& name, const QString& description);
 /// no number from 0 to an hour, which is said.
 std::optional<int> millisecondsOf(const Arguments& arguments, const QString& name, int usualMs,
                                   const Command& command, Terminal& terminal);
+
+/// That no hub of a hall answered, and what this computer lacks for it, if anything.
+QString silenceWords();

@@ -23,7 +23,7 @@ SearchResult searchNetwork(const QString& interfaceName, int waitMs, const QStri
 {
     const InterfaceChoice side = chooseInterface(systemInterfaces(), interfaceName);
     if (!side.row) {
-        return {side.fault, side};
+        return {side.fault, {}, side};
     }
     HallSearch search(side.row->index, waitMs, probes);
     QEventLoop untilFinished;
@@ -32,13 +32,15 @@ SearchResult searchNetwork(const QString& interfaceName, int waitMs, const QStri
         return {QStringLiteral("UDP port %1 of %2 is in use: is the wizard or another search open "
                                "on this computer?")
                     .arg(QString::number(DeviceDetector::port), side.row->address),
+                {},
                 side};
     }
     if (terminal.isWatched()) {
         terminal.say(QStringLiteral("searching on %1 (%2)").arg(side.row->name, side.row->address));
     }
+    const QDateTime begun = QDateTime::currentDateTime();
     untilFinished.exec();
-    return {{}, side, search.devices(), search.probes()};
+    return {{}, begun, side, search.devices(), search.probes()};
 }
 
 const JudgedDevice* answerFrom(const QString& address, const QList<JudgedDevice>& devices)

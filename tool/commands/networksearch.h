@@ -3,12 +3,15 @@
 #include "hallsearch.h"
 #include "interfacechoice.h"
 
+#include <QDateTime>
+
 class Terminal;
 
 /// What came of a search for devices.
 struct SearchResult
 {
     QString fault = {}; ///< why nothing could be asked; empty when something could
+    QDateTime begun = {};
     InterfaceChoice side = {};
     QList<JudgedDevice> devices = {}; ///< those that answered, in the order of their addresses
     QList<Probe> probes = {};         ///< the addresses that were asked by name, in the order given

@@ -30,7 +30,7 @@ QString jsonOption()
 
 struct HubPlan
 {
-    DeviceData hub;
+    DeviceEntry hub;
     InstallPlan plan;
 };
 

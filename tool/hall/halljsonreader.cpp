@@ -4,6 +4,7 @@
 #include "hallparts.h"
 #include "hallpicture.h"
 #include "jsonfields.h"
+#include "jsontext.h"
 #include "pngstream.h"
 #include "resumecells.h"
 #include "resumexml.h"
@@ -12,7 +13,6 @@
 #include "wizardpage.h"
 
 #include <QImage>
-#include <QJsonDocument>
 
 #include <algorithm>
 #include <limits>
@@ -403,37 +403,11 @@ void Reader::readExactPresets()
     }
 }
 
-/// Whether this is the text of something else: the parser takes nothing but objects and lists, and
-/// calls a number by itself an illegal one.
-bool isOtherThanObject(QByteArray text)
-{
-    if (text.startsWith("\xef\xbb\xbf")) {
-        text.remove(0, 3);
-    }
-    return !text.trimmed().startsWith('{');
-}
-
-/// Where a text stops being JSON, counted as editors do.
-QString syntaxFault(const QByteArray& text, const QJsonParseError& error)
-{
-    const QByteArray before = text.left(error.offset);
-    const qsizetype line = before.count('\n') + 1;
-    const qsizetype column = before.size() - (before.lastIndexOf('\n') + 1) + 1;
-    return QStringLiteral("line %1, column %2: %3")
-        .arg(QString::number(line), QString::number(column), error.errorString());
-}
-
 } // namespace
 
 HallJsonReading readHallJson(const QByteArray& text)
 {
-    if (isOtherThanObject(text)) {
-        return {nullptr, {QStringLiteral("line 1, column 1: this is no object")}, nullptr};
-    }
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(text, &error);
-    if (error.error != QJsonParseError::NoError) {
-        return {nullptr, {syntaxFault(text, error)}, nullptr};
-    }
-    return Reader(document.object()).read();
+    QString fault;
+    const QJsonObject root = readJsonText(text, fault);
+    return fault.isEmpty() ? Reader(root).read() : HallJsonReading{nullptr, {fault}, nullptr};
 }

@@ -1,7 +1,6 @@
 #include "hallhubs.h"
 
 #include "deviceclass.h"
-#include "interfacechoice.h"
 
 QList<DeviceData> placedHubs(const DocumentData& hall)
 {
@@ -27,13 +26,6 @@ QString hubName(const DeviceData& hub)
 {
     return hub.label.isEmpty() ? hub.ipAddress
                                : QStringLiteral("%1 (%2)").arg(hub.label, hub.ipAddress);
-}
-
-QString silenceWords()
-{
-    const QString fault = addressFault(systemInterfaces());
-    return fault.isEmpty() ? QStringLiteral("no hub answered")
-                           : QStringLiteral("no hub answered; %1").arg(fault);
 }
 
 QString readBackWords(std::optional<int> preset, int expected)

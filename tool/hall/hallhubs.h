@@ -14,9 +14,6 @@ QStringList addressesOf(const QList<DeviceData>& hubs);
 /// A hub for people: its label and its address.
 QString hubName(const DeviceData& hub);
 
-/// That no hub of a hall answered, and what this computer lacks for it, if anything.
-QString silenceWords();
-
 /// What was read back from a hub that was to be on a preset: "ok", or which one it is on instead,
 /// or that it did not answer.
 QString readBackWords(std::optional<int> preset, int expected);
