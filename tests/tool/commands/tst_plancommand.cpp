@@ -207,7 +207,7 @@ void TestPlanCommand::theBodiesAreWhatTheHubsHoldAfterAnInstallation()
     const HallReading reading = readHallFile(path("hall.tessel"));
     for (const SimulatedHub* hub : hall.hubs()) {
         install(hub->address(), *reading.hall);
-        const QString held = QLatin1Char('/') + hub->hubDescription().storageName() + u".xml";
+        const QString held = QStringLiteral("/%1.xml").arg(hub->hubDescription().storageName());
         QMap<QString, QByteArray> bodies = filesBelow(path("plan/") + hub->address());
         for (const QString& file : bodies.keys()) {
             const QString name = QString(file).replace(QStringLiteral("/hub.xml"), held);
