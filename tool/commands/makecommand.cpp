@@ -9,9 +9,7 @@
 #include "networkoptions.h"
 #include "networksearch.h"
 #include "terminal.h"
-
-#include <QFile>
-#include <QFileInfo>
+#include "wholefile.h"
 
 namespace {
 
@@ -36,23 +34,9 @@ QString force()
 /// Reads the file at `path` into `text`; the reason why it cannot be read, if there is one.
 QString readText(const QString& path, QByteArray& text)
 {
-    if (QFileInfo(path).isDir()) {
-        return QStringLiteral("this is a folder, not a file");
-    }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return file.errorString();
-    }
-    text = file.read(maxTextSize + 1);
-    if (file.error() != QFileDevice::NoError) {
-        return file.errorString();
-    }
-    if (text.isEmpty()) {
-        return QStringLiteral("the file is empty");
-    }
-    return text.size() > maxTextSize
-               ? QStringLiteral("it is larger than any configuration of a hall")
-               : QString();
+    QString fault;
+    text = readWholeFile(path, maxTextSize, fault).value_or(QByteArray());
+    return fault.isEmpty() && text.isEmpty() ? QStringLiteral("the file is empty") : fault;
 }
 
 /// Fills in from the network what the hall lacks; the reason why it cannot be asked, if there is
