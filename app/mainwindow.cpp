@@ -292,8 +292,8 @@ void MainWindow::loadFile()
 
 void MainWindow::tellUnreadableFile()
 {
-    QString text = tr("%1 cannot be opened. %2")
-                       .arg(QDir::toNativeSeparators(m_file->path()), m_file->error());
+    QString text = tr("%1 cannot be opened: %2.")
+                       .arg(QDir::toNativeSeparators(m_file->path()), m_file->fault());
     if (QFile::exists(m_file->path())) {
         text += tr("\n\nIt stays as it is: what you save goes into a new file beside it.");
     }

@@ -4,7 +4,6 @@
 #include "missingdevices.h"
 #include "tesseldoc.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 ConfigurationFile::ConfigurationFile(TesselDoc* doc, const QString& path)
@@ -19,14 +18,10 @@ ConfigurationFile::~ConfigurationFile() = default;
 bool ConfigurationFile::read()
 {
     const ConfigurationReading reading = readConfiguration(m_path);
-    *m_configuration = reading.configuration.value_or(Configuration());
-    m_error = reading.error;
-    if (m_configuration->work.hasForeignElement) {
-        m_error = QCoreApplication::translate(
-            "ConfigurationFile",
-            "It holds something that this version of the wizard does not know.");
-    }
-    return m_error.isEmpty();
+    m_fault = reading.fault;
+    // A part of it would be taken for the whole, and replace it in the end.
+    *m_configuration = m_fault.isEmpty() ? *reading.configuration : Configuration();
+    return m_fault.isEmpty();
 }
 
 bool ConfigurationFile::load()

@@ -23,10 +23,10 @@ public:
     /// Where it is, as an absolute path.
     const QString& path() const { return m_path; }
 
-    /// Reads it. False when it cannot be opened: then error() says why and the document stays as it
-    /// is.
+    /// Reads it. False when not all of it can be read: then fault() names the place and the reason,
+    /// and nothing of it is taken.
     bool read();
-    const QString& error() const { return m_error; }
+    const QString& fault() const { return m_fault; }
 
     /// Puts what read() has read into the document, but for placed devices that are not there: the
     /// user is told of these, and the result is false.
@@ -34,12 +34,12 @@ public:
 
     /// Whether the file may hold more than the document: it was not read, or load() left devices
     /// out.
-    bool holdsMore() const { return !m_error.isEmpty() || m_isDeviceMissing; }
+    bool holdsMore() const { return !m_fault.isEmpty() || m_isDeviceMissing; }
 
 private:
     TesselDoc* m_doc;
     QString m_path;
     std::unique_ptr<Configuration> m_configuration; ///< empty before read()
-    QString m_error;
+    QString m_fault;
     bool m_isDeviceMissing = false;
 };

@@ -13,13 +13,17 @@ struct Configuration
     QList<SceneInfo> pictures; ///< the layouts once more, with their pictures
 };
 
-/// A configuration, or why there is none.
+/// What came of reading a file of saved work.
 struct ConfigurationReading
 {
+    /// All that could be read; nothing when that is not even its text.
     std::optional<Configuration> configuration;
-    QString error; ///< a sentence for people; empty when there is one
+    /// The first thing that is wrong with the file, for people: the place in it, if there is one,
+    /// and the reason. Empty when all of it was read.
+    QString fault;
 };
 
 /// Reads a file that the wizard has written, whatever its name. The reader's limits are those of
-/// unpackResumeFile() and readResumeXml(); a foreign element ends the reading and is no error here.
+/// unpackResumeFile() and readResumeXml(). Damage behind the text, and a foreign element in it, are
+/// faults of the file that leave something to be read: whether that will do is up to the caller.
 ConfigurationReading readConfiguration(const QString& path);

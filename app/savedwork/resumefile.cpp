@@ -1,10 +1,9 @@
 #include "resumefile.h"
 
 #include "pngstream.h"
+#include "wholefile.h"
 
-#include <QCoreApplication>
 #include <QDataStream>
-#include <QFile>
 #include <QImage>
 #include <QSaveFile>
 #include <QtEndian>
@@ -117,18 +116,6 @@ QList<SceneInfo> readScenes(QDataStream& stream)
     return scenes;
 }
 
-/// Why what was read of a file is not all of it; empty when it is.
-QString readingFault(const QFile& file, qsizetype size)
-{
-    if (file.error() != QFileDevice::NoError) {
-        return file.exists() ? file.errorString() + QLatin1Char('.')
-                             : QCoreApplication::translate("ResumeFile", "There is no such file.");
-    }
-    return size <= maxFileSize ? QString()
-                               : QCoreApplication::translate(
-                                     "ResumeFile", "It is larger than any configuration (8 MiB).");
-}
-
 } // namespace
 
 QByteArray packResumeFile(const ResumeFile& content)
@@ -165,16 +152,8 @@ bool writeResumeFile(const QString& path, const QByteArray& bytes)
            file.write(bytes) == bytes.size() && file.flush() && file.commit();
 }
 
-std::optional<QByteArray> readResumeFile(const QString& path, QString* error)
+std::optional<QByteArray> readResumeFile(const QString& path, QString* fault)
 {
-    QFile file(path);
-    QByteArray bytes;
-    if (file.open(QIODevice::ReadOnly)) {
-        bytes = file.read(maxFileSize + 1);
-    }
-    const QString fault = readingFault(file, bytes.size());
-    if (error != nullptr) {
-        *error = fault;
-    }
-    return fault.isEmpty() ? std::optional(bytes) : std::nullopt;
+    QString reason;
+    return readWholeFile(path, maxFileSize, fault != nullptr ? *fault : reason);
 }

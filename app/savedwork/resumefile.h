@@ -29,5 +29,5 @@ std::optional<ResumeFile> unpackResumeFile(const QByteArray& bytes, qsizetype* l
 bool writeResumeFile(const QString& path, const QByteArray& bytes);
 
 /// The bytes of the file at `path`; nothing when it cannot be read or is larger than any
-/// configuration (8 MiB). `error`, when given, then says why, as a sentence for people.
-std::optional<QByteArray> readResumeFile(const QString& path, QString* error = nullptr);
+/// configuration (8 MiB). `fault`, when given, then says why.
+std::optional<QByteArray> readResumeFile(const QString& path, QString* fault = nullptr);

@@ -125,6 +125,8 @@ private Q_SLOTS:
     void theWayOnFromAMissingDeviceMakesWholeSets();
     void aNewDeviceAtTheOldAddressKeepsItsRemovals();
     void aFileThatCannotBeReadIsToldOnceAndTheGridIsEmpty();
+    void ofAFileThatIsNotWholeNothingIsTaken_data();
+    void ofAFileThatIsNotWholeNothingIsTaken();
     void whatIsSavedThenGoesBesideTheUnreadableFile();
     void aFileThatIsNotThereIsToldAndMadeOnYes();
     void aFileThatWasOpenedWithoutADeviceStaysAndTheNewOneIsBesideIt();
@@ -360,9 +362,9 @@ void TestOpenedFile::aFileThatCannotBeReadIsToldOnceAndTheGridIsEmpty()
     const DialogAnswerer told("Error", pressing("OK"));
     again.open();
     QCOMPARE(told.text(), QDir::toNativeSeparators(path()) +
-                              QStringLiteral(" cannot be opened. It is no configuration of this "
-                                             "wizard, or it is damaged.\n\nIt stays as it is: what "
-                                             "you save goes into a new file beside it."));
+                              QStringLiteral(" cannot be opened: byte 1: this is no configuration "
+                                             "of a hall.\n\nIt stays as it is: what you save goes "
+                                             "into a new file beside it."));
     QCOMPARE(told.buttons(), QStringList(QStringLiteral("OK")));
     QVERIFY(!QApplication::activeModalWidget());
     QCOMPARE(again.user.pageNumber(), 2);
@@ -370,6 +372,31 @@ void TestOpenedFile::aFileThatCannotBeReadIsToldOnceAndTheGridIsEmpty()
     QCOMPARE(roomCount(again.user.doc), 0);
     QCOMPARE(bytesOf(path()), QByteArray("not a saved configuration"));
     checkResumeFile();
+}
+
+void TestOpenedFile::ofAFileThatIsNotWholeNothingIsTaken_data()
+{
+    QTest::addColumn<qsizetype>("change");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("cut") << qsizetype(-1) << QStringLiteral("it is cut or damaged");
+    QTest::newRow("longer") << qsizetype(1) << QStringLiteral("something follows its pictures");
+}
+
+void TestOpenedFile::ofAFileThatIsNotWholeNothingIsTaken()
+{
+    QFETCH(const qsizetype, change);
+    QFETCH(const QString, reason);
+    QByteArray bytes = saveHall(8);
+    bytes = change < 0 ? bytes.chopped(-change) : bytes.append(change, 'x');
+    QVERIFY(writeBytes(path(), bytes));
+    Opened again;
+    const DialogAnswerer told("Error", pressing("OK"));
+    again.open();
+    QVERIFY2(told.text().contains(reason), qPrintable(told.text()));
+    QCOMPARE(again.user.pageNumber(), 2);
+    QCOMPARE(roomCount(again.user.doc), 0);
+    again.close("Yes");
+    QCOMPARE(bytesOf(path()), bytes);
 }
 
 void TestOpenedFile::whatIsSavedThenGoesBesideTheUnreadableFile()
@@ -395,7 +422,7 @@ void TestOpenedFile::aFileThatIsNotThereIsToldAndMadeOnYes()
     const DialogAnswerer told("Error", pressing("OK"));
     again.open();
     QCOMPARE(told.text(), QDir::toNativeSeparators(path()) +
-                              QStringLiteral(" cannot be opened. There is no such file."));
+                              QStringLiteral(" cannot be opened: No such file or directory."));
     again.user.draw({{0, 0}, {0, 1}});
     again.close("Yes");
     TesselDoc doc(nullptr);

@@ -128,7 +128,7 @@ void TestKeptHall::whenEveryHubIsDoneTheHallIsKeptAmongTheDocuments()
     const auto when = QDateTime::fromString(name, QStringLiteral("yyyy-MM-dd HH-mm-ss'.tessel'"));
     QVERIFY(when >= before.addSecs(-1) && when <= QDateTime::currentDateTime());
     const ConfigurationReading kept = readConfiguration(folder() + u'/' + name);
-    QVERIFY2(kept.configuration, qPrintable(kept.error));
+    QVERIFY2(kept.configuration, qPrintable(kept.fault));
     QCOMPARE(kept.configuration->work.pageIndex, 7);
     QVERIFY(!kept.configuration->work.hasForeignElement);
     QCOMPARE(std::get<QSize>(kept.configuration->work.sections.last()), step.page.size());

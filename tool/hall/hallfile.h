@@ -18,8 +18,7 @@ struct HallReading
 };
 
 /// Reads the hall at `path` with all devices that it names, whether or not anyone has met them: no
-/// firmware is asked for and nothing is looked for. Where the wizard takes what is left of a
-/// damaged file, this refuses it.
+/// firmware is asked for and nothing is looked for.
 HallReading readHallFile(const QString& path);
 
 /// The bytes of such a file; the same hall gives the same bytes.

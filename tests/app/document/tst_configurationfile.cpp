@@ -172,21 +172,32 @@ void TestConfigurationFile::whatCannotBeOpenedSaysWhyAndLeavesTheDocumentAsItIs_
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("reason");
-    const QString damaged =
-        QStringLiteral("It is no configuration of this wizard, or it is damaged.");
     const auto bytesOfXml = [](const char* xml) {
         return packResumeFile({QString::fromLatin1(xml), {}});
     };
-    QTest::newRow("no such file") << QByteArray() << QStringLiteral("There is no such file.");
-    QTest::newRow("any text") << QByteArray("not a configuration") << damaged;
-    QTest::newRow("another root") << bytesOfXml("<Other Page='1'/>") << damaged;
-    QTest::newRow("no page of the wizard") << bytesOfXml("<Tessel Page='99'/>") << damaged;
-    QTest::newRow("too large") << QByteArray(8 * 1024 * 1024 + 1, 'x')
-                               << QStringLiteral("It is larger than any configuration (8 MiB).");
-    QTest::newRow("of a later version")
-        << bytesOfXml("<Tessel Page='7'><RoomInfoList><RoomInfo Number='1' PosList='{0,0}'/>"
-                      "</RoomInfoList><CurtainList/></Tessel>")
-        << QStringLiteral("It holds something that this version of the wizard does not know.");
+    const auto row = [](const char* name, const QByteArray& bytes, const QString& reason) {
+        QTest::newRow(name) << bytes << reason;
+    };
+    const QByteArray whole = bytesOf(m_path);
+    row("no such file", {}, QStringLiteral("No such file or directory"));
+    row("any text", "not a configuration",
+        QStringLiteral("byte 1: this is no configuration of a hall"));
+    row("another root", bytesOfXml("<Other Page='1'/>"),
+        QStringLiteral("line 1 of its text: this is no configuration of a hall"));
+    row("no page of the wizard", bytesOfXml("<Tessel Page='99'/>"),
+        QStringLiteral("line 1 of its text: it names no page of the wizard, or nests too deeply"));
+    row("too large", QByteArray(8 * 1024 * 1024 + 1, 'x'),
+        QStringLiteral("it is larger than any configuration of a hall"));
+    row("of a later version",
+        bytesOfXml("<Tessel Page='7'><RoomInfoList><RoomInfo Number='1' PosList='{0,0}'/>"
+                   "</RoomInfoList><CurtainList/></Tessel>"),
+        QStringLiteral("it holds something that this version does not know"));
+    row("cut in its text", whole.first(100),
+        QStringLiteral("byte 100: the file ends here, in the middle of its text"));
+    row("cut in its pictures", whole.chopped(1),
+        QStringLiteral("picture 2 of 2: it is cut or damaged"));
+    row("longer than it should be", whole + "x",
+        QStringLiteral("byte %1: something follows its pictures").arg(whole.size() + 1));
 }
 
 void TestConfigurationFile::whatCannotBeOpenedSaysWhyAndLeavesTheDocumentAsItIs()
@@ -198,7 +209,8 @@ void TestConfigurationFile::whatCannotBeOpenedSaysWhyAndLeavesTheDocumentAsItIs(
     TesselDoc doc(nullptr);
     ConfigurationFile file(&doc, m_path);
     QVERIFY(!file.read());
-    QCOMPARE(file.error(), reason);
+    QCOMPARE(file.fault(), reason);
+    QVERIFY(file.holdsMore());
     QCOMPARE(roomCount(doc), 0);
     QCOMPARE(pageIndex(doc), 0);
 }
