@@ -5,8 +5,11 @@ _tessel()
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
     if [[ $current == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "-N: -D: --log -h --help --version" -- "$current")
-        [[ ${COMPREPLY[0]-} != *: ]] || compopt -o nospace 2>/dev/null
-        return
+        # The device or the number follows at once.
+        if [[ ${COMPREPLY[0]-} == *: ]]; then
+            compopt -o nospace 2>/dev/null
+        fi
+        return 0
     fi
     compopt -o filenames 2>/dev/null
     if [ "$previous" = --log ]; then

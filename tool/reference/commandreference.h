@@ -9,6 +9,6 @@ QString completionTable(const CommandTable& commands);
 /// The commands as a section of a manual page, in the mdoc language.
 QString manualSection(const CommandTable& commands);
 
-/// A text with `completionTable` in place of a line that reads `<COMPLETION>` and `manualSection` in
-/// place of one that reads `<COMMANDS>`.
+/// A text with `completionTable` in place of a line that reads `<COMPLETION>` and `manualSection`
+/// in place of one that reads `<COMMANDS>`.
 QString filledIn(const QString& text, const CommandTable& commands);
