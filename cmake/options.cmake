@@ -17,6 +17,12 @@ else()
         $<$<BOOL:${TESSEL_WERROR}>:-Werror>)
 endif()
 
+# What is delivered is hardened as Debian hardens its own programs. Every release build is, so that
+# what was tested and measured is what is delivered.
+if(UNIX AND NOT APPLE)
+    target_link_options(tessel_options INTERFACE "$<$<CONFIG:Release>:-Wl,-z,relro,-z,now>")
+endif()
+
 if(TESSEL_SANITIZE OR TESSEL_FUZZ)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     if(TESSEL_FUZZ)

@@ -55,6 +55,7 @@ void describe(QCommandLineParser& parser)
                        "to train and test on."));
     parser.addOption({{QStringLiteral("h"), QStringLiteral("help"), QStringLiteral("help-all")},
                       QStringLiteral("Show this text.")});
+    parser.addOption({QStringLiteral("version"), QStringLiteral("Show the version.")});
     for (const Option& option : optionTable()) {
         const QString byDefault = option.defaultValue.isEmpty()
                                       ? QString()
@@ -178,6 +179,10 @@ HallOptionsReading readHallOptions(const QStringList& arguments)
     }
     if (parser.isSet(QStringLiteral("help"))) {
         reading.help = parser.helpText() + faultHelp() + exitCodeHelp();
+        return reading;
+    }
+    if (parser.isSet(QStringLiteral("version"))) {
+        reading.help = QStringLiteral("tessel-hall " TESSEL_VERSION "\n");
         return reading;
     }
     std::optional<HallDescription> hall = hallFrom(parser, &reading.error);

@@ -14,8 +14,8 @@ struct HallOptions
     QString storeFolder = {};
 };
 
-/// The options, or the text to show instead of starting: `help` when it was asked for, otherwise
-/// `error`.
+/// The options, or the text to show instead of starting: `help` when it or the version was asked
+/// for, otherwise `error`.
 struct HallOptionsReading
 {
     std::optional<HallOptions> options = {};

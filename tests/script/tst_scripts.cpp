@@ -69,6 +69,9 @@ private Q_SLOTS:
     void buildIsAsStrictAsItIsAskedToBe();
     void buildForgetsHowStrictAnEarlierOneWas();
     void buildDoesNotConfigureTwice();
+    void packagesAreMadeOnDebianAlone();
+    void packageIsTriedByRootAlone();
+    void packageIsMadeOfWhatIsDelivered();
 };
 
 void TestScripts::everyScriptSaysWhatItIsForAndStartsNothing_data()
@@ -112,6 +115,8 @@ void TestScripts::wrongUsageIsRefused_data()
     row("demo --bogus");
     row("demo --interactive more");
     row("fuzz --bogus");
+    row("package --bogus");
+    row("package --test more");
     row("pictures more");
     row("valgrind --bogus");
     row("with-network");
@@ -135,7 +140,8 @@ void TestScripts::nothingIsInstalledWhereAllIsThere()
 {
     ScriptCopy copy;
     copy.givePackages(true);
-    const ScriptRun run = copy.run(bootstrap, words("check fuzz bench display valgrind"));
+    const ScriptRun run =
+        copy.run(bootstrap, words("check fuzz bench display valgrind package trial"));
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.output + run.errors, QString());
     QCOMPARE(copy.log(), QString());
@@ -170,6 +176,8 @@ void TestScripts::checkersComeWithTheirChecks_data()
     QTest::newRow("bench") << QStringLiteral("bench") << words("libbenchmark-dev");
     QTest::newRow("display") << QStringLiteral("display") << words("xvfb");
     QTest::newRow("valgrind") << QStringLiteral("valgrind") << words("valgrind");
+    QTest::newRow("package") << QStringLiteral("package") << words("lintian desktop-file-utils");
+    QTest::newRow("trial") << QStringLiteral("trial") << words("mmdebstrap xvfb");
 }
 
 void TestScripts::checkersComeWithTheirChecks()
@@ -347,6 +355,40 @@ void TestScripts::buildDoesNotConfigureTwice()
 {
     QCOMPARE(cmakeCallsOfBuild(QStringLiteral("release"), {}, QStringLiteral("OFF")),
              QStringLiteral("cmake --build --preset release\n"));
+}
+
+void TestScripts::packagesAreMadeOnDebianAlone()
+{
+    const ScriptCopy copy;
+    const ScriptRun run = copy.run(QStringLiteral("package"), {});
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.output, QString());
+    QCOMPARE(run.errors, QStringLiteral("package: Debian's packages are made on Debian: "
+                                        "there is no apt-get\n"));
+}
+
+void TestScripts::packageIsTriedByRootAlone()
+{
+    ScriptCopy copy;
+    copy.givePackages(true);
+    copy.giveUser(true);
+    copy.give(QStringLiteral("cmake"), QStringLiteral("echo \"cmake $*\" >>\"$LOG\""));
+    const ScriptRun run = copy.run(QStringLiteral("package"), {QStringLiteral("--test")});
+    QCOMPARE(run.exitCode, 77);
+    QCOMPARE(run.output, QString());
+    QCOMPARE(run.errors, QStringLiteral("package: a system of its own takes root's rights\n"));
+    QCOMPARE(copy.log(), QString());
+}
+
+void TestScripts::packageIsMadeOfWhatIsDelivered()
+{
+    ScriptCopy copy;
+    copy.givePackages(true);
+    copy.give(QStringLiteral("cmake"), QStringLiteral("echo \"cmake $*\" >>\"$LOG\"\n"
+                                                      "[ \"$1\" != --build ]"));
+    copy.run(QStringLiteral("package"), {});
+    QCOMPARE(copy.log(), QStringLiteral("cmake --preset release -DTESSEL_WERROR=OFF\n"
+                                        "cmake --build --preset release --target delivered\n"));
 }
 
 TESSEL_TEST_MAIN(TestScripts)

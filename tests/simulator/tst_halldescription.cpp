@@ -37,6 +37,7 @@ private Q_SLOTS:
     void wrongOptionsAreExplained();
     void helpIsGivenInsteadOfAHall_data();
     void helpIsGivenInsteadOfAHall();
+    void versionIsTheProjects();
     void helpTellsEverythingThatCanBeGiven();
 
 private:
@@ -335,6 +336,14 @@ void TestHallDescription::helpIsGivenInsteadOfAHall()
     QVERIFY(!reading.options);
     QCOMPARE(reading.error, QString());
     QVERIFY(reading.help.contains(QStringLiteral("--peripherals <number>")));
+}
+
+void TestHallDescription::versionIsTheProjects()
+{
+    const HallOptionsReading reading = read({QStringLiteral("--version")});
+    QVERIFY(!reading.options);
+    QCOMPARE(reading.error, QString());
+    QCOMPARE(reading.help, QStringLiteral("tessel-hall " TESSEL_PROJECT_VERSION "\n"));
 }
 
 void TestHallDescription::helpTellsEverythingThatCanBeGiven()

@@ -1,0 +1,109 @@
+#include "demoplayer.h"
+
+#include "darkpalette.h"
+#include "demodesk.h"
+#include "demofirstrun.h"
+#include "demosecondrun.h"
+#include "hallreader.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QPalette>
+#include <QTextStream>
+#include <QTimer>
+
+namespace {
+
+bool walkSucceeded = false;
+int warnings = 0;
+
+// Prints what Qt has to complain about and counts it; the wizard gives it no reason to.
+void watchMessages(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    // The platform without a display says these of itself.
+    static const QStringList exempt{QStringLiteral("propagateSizeHints()"),
+                                    QStringLiteral("raise()"),
+                                    QStringLiteral("grabbing the keyboard")};
+    const QString own = QStringLiteral("This plugin does not support ");
+    if (text.startsWith(own) && exempt.contains(text.sliced(own.size()))) {
+        return;
+    }
+    if (type == QtWarningMsg || type == QtCriticalMsg) {
+        ++warnings;
+    }
+    QTextStream(stderr) << qFormatLogMessage(type, context, text) << Qt::endl;
+}
+
+DemoDevice demoDevice(const DeviceDescription& device)
+{
+    return {device.address, device.mac, device.model, device.label, 0};
+}
+
+bool play(const DemoScenario& scenario)
+{
+    DemoDesk desk(demoOption(QStringLiteral("pictures")), nullptr);
+    return demoOption(QStringLiteral("part")) == QLatin1String("2")
+               ? DemoSecondRun(desk, scenario).play()
+               : DemoFirstRun(desk, scenario).play();
+}
+
+void walk()
+{
+    if (qEnvironmentVariableIsSet("TESSEL_DARK")) {
+        QApplication::setPalette(darkPalette());
+    }
+    if (const int points = qEnvironmentVariableIntValue("TESSEL_POINTS"); points > 0) {
+        QFont font = QApplication::font();
+        font.setPointSize(points);
+        QApplication::setFont(font);
+    }
+    const std::optional<DemoScenario> scenario = readScenario();
+    walkSucceeded = scenario && play(*scenario);
+    if (!walkSucceeded) {
+        QCoreApplication::exit(1);
+    }
+}
+
+} // namespace
+
+QString demoOption(const QString& name)
+{
+    const QString prefix = QStringLiteral("--%1=").arg(name);
+    for (const QString& argument : QCoreApplication::arguments()) {
+        if (argument.startsWith(prefix)) {
+            return argument.sliced(prefix.size());
+        }
+    }
+    return {};
+}
+
+std::optional<DemoScenario> readScenario()
+{
+    const HallReading hall = readHallFile(demoOption(QStringLiteral("hall")));
+    if (!hall.hall) {
+        QTextStream(stderr) << "tessel-demo: " << hall.error << Qt::endl;
+        return std::nullopt;
+    }
+    QList<DemoDevice> devices;
+    for (const HubDescription& hub : hall.hall->hubs) {
+        devices.append(demoDevice(hub));
+    }
+    for (const DeviceDescription& peripheral : hall.hall->peripherals) {
+        devices.append(demoDevice(peripheral));
+    }
+    return DemoScenario(devices);
+}
+
+void startPlaying()
+{
+    qInstallMessageHandler(watchMessages);
+    QTimer::singleShot(0, walk);
+}
+
+bool wasPlayedWell()
+{
+    if (warnings > 0) {
+        QTextStream(stdout) << "FAILED: " << warnings << " warnings, see above" << Qt::endl;
+    }
+    return walkSucceeded && warnings == 0;
+}
