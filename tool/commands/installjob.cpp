@@ -112,6 +112,14 @@ ExitCode InstallJob::run()
     return m_code;
 }
 
+InstallJob::Stop InstallJob::readWait()
+{
+    const std::optional<int> waitMs =
+        millisecondsOf(*m_arguments, QStringLiteral("wait"), usualWaitMs, *m_command, *m_terminal);
+    m_waitMs = waitMs.value_or(0);
+    return waitMs ? Stop() : ExitCode::WrongUsage;
+}
+
 InstallJob::Stop InstallJob::readHall()
 {
     HallReading reading = readHallFile(m_path);
@@ -185,11 +193,6 @@ InstallJob::Stop InstallJob::openLog()
 
 InstallJob::Stop InstallJob::findDevices()
 {
-    const std::optional<int> waitMs =
-        millisecondsOf(*m_arguments, QStringLiteral("wait"), usualWaitMs, *m_command, *m_terminal);
-    if (!waitMs) {
-        return ExitCode::WrongUsage;
-    }
     if (m_arguments->has(QStringLiteral("no-search"))) {
         return {};
     }
@@ -197,7 +200,7 @@ InstallJob::Stop InstallJob::findDevices()
     if (!side) {
         return ExitCode::CouldNotBeTried;
     }
-    HallSearch search(side->row->index, *waitMs, {});
+    HallSearch search(side->row->index, m_waitMs, {});
     if (!searchToTheEnd(search, *side, *m_terminal)) {
         return ExitCode::CouldNotBeTried;
     }
