@@ -100,9 +100,9 @@ InstallJob::~InstallJob()
 
 ExitCode InstallJob::run()
 {
-    for (const auto part :
-         {&InstallJob::readHall, &InstallJob::chooseHubs, &InstallJob::judgeHall,
-          &InstallJob::readPasswords, &InstallJob::openLog, &InstallJob::findDevices}) {
+    for (const auto part : {&InstallJob::readWait, &InstallJob::readHall, &InstallJob::chooseHubs,
+                            &InstallJob::judgeHall, &InstallJob::readPasswords,
+                            &InstallJob::openLog, &InstallJob::findDevices}) {
         if (const Stop stopped = (this->*part)()) {
             return *stopped;
         }

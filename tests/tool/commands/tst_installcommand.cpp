@@ -367,10 +367,11 @@ void TestInstallCommand::wrongPasswordIsAskedForAgain()
 
 void TestInstallCommand::firstPasswordIsTypedTwice()
 {
-    HallDescription fresh = quickHall(stage, 1, 0);
+    HallDescription fresh = twoHubs();
     fresh.hubs[0].password.reset();
     START_HALL(fresh);
-    PtyToolRun tool({install, file.path(), noSearch});
+    const QString passwords = file.privateFile("passwords", line(gallery));
+    PtyToolRun tool({install, file.path(), noSearch, passwordsOption, passwords});
     const QString once = QStringLiteral("new password of ");
     const QString again = QStringLiteral("once more, the new password of ");
     QVERIFY(tool.hasShown(once));
