@@ -8,20 +8,28 @@
 
 #ifdef Q_OS_WIN
 #include <io.h>
+#include <windows.h>
 #else
 #include <unistd.h>
 #endif
 
 namespace {
 
+#ifdef Q_OS_WIN
+/// A console that moves its cursor when it is told so.
 bool isPersonWatching(FILE* stream)
 {
-#ifdef Q_OS_WIN
-    return ::_isatty(::_fileno(stream)) != 0;
-#else
-    return ::isatty(::fileno(stream)) != 0;
-#endif
+    const auto console = reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(stream)));
+    DWORD mode = 0;
+    return ::GetConsoleMode(console, &mode) != 0 &&
+           ::SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
 }
+#else
+bool isPersonWatching(FILE* stream)
+{
+    return ::isatty(::fileno(stream)) != 0;
+}
+#endif
 
 /// What the wizard's classes note for those who work on them is no talk for users, nor is what Qt
 /// says of folders that a session without a desktop has not.

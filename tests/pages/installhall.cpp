@@ -1,62 +1,11 @@
 #include "installhall.h"
 
-#include "devicequeries.h"
 #include "pagefixtures.h"
-#include "presetqueries.h"
-#include "setqueries.h"
 #include "tablefixtures.h"
 
 #include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
-
-namespace {
-
-const char* const password = "secret7";
-
-} // namespace
-
-HallDescription quickHall(const QString& base, int hubs, int peripherals)
-{
-    HallDescription description = HallDescription::byCounts(hubs, peripherals, base).value();
-    for (HubDescription& hub : description.hubs) {
-        hub.password = QString::fromLatin1(password);
-        hub.exportPolls = 0;
-    }
-    return description;
-}
-
-namespace {
-
-/// Layout 1 has every room for itself; in layout 2 all rooms are one, with the first hub.
-void fillDocument(IDocAccessor& doc, const QList<HubDescription>& hubs)
-{
-    QList<TestDevice> entered;
-    QStringList rooms;
-    for (const HubDescription& hub : hubs) {
-        entered.append({.label = hub.label, .model = hub.model, .address = hub.address});
-        rooms.append(QString::number(entered.size()));
-    }
-    enterHubs(doc, entered);
-    const int allRooms = int(hubs.size()) + 1;
-    for (const HubDescription& hub : hubs) {
-        addToDeviceSet(doc, allRooms, 2, hub.address, hub.address != hubs.first().address);
-    }
-    addPreset(doc, allRooms, 2, QStringLiteral("All \"rooms\""));
-    addTestLayout(doc, 2, rooms.join(u'+'));
-}
-
-/// The peripherals stand in room 1 and belong to its set in each layout.
-void addPeripherals(IDocAccessor& doc, const HallDescription& description)
-{
-    for (const DeviceDescription& device : description.peripherals) {
-        addTestDevice(doc, device.label, device.model, device.address, 1);
-        addToDeviceSet(doc, 1, 1, device.address, false);
-        addToDeviceSet(doc, int(description.hubs.size()) + 1, 2, device.address, false);
-    }
-}
-
-} // namespace
 
 InstallHall::InstallHall(const QString& base, int hubs)
     : InstallHall(quickHall(base, hubs, 0))
@@ -65,13 +14,12 @@ InstallHall::InstallHall(const QString& base, int hubs)
 
 InstallHall::InstallHall(const HallDescription& description)
     : hall(description)
-    , answers(QString::fromLatin1(password))
+    , answers(quickPassword())
 {
     QString error;
     const bool started = hall.start(&error);
     QVERIFY2(started, qPrintable(error));
-    fillDocument(doc, description.hubs);
-    addPeripherals(doc, description);
+    enterQuickHall(doc, description);
     page.enterFrom(7);
     page.resize(780, 540);
     page.show();

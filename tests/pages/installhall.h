@@ -4,14 +4,11 @@
 #include "hall.h"
 #include "loginanswers.h"
 #include "pageinstall.h"
+#include "quickhall.h"
 #include "tesseldoc.h"
 
 class QPushButton;
 class QTreeWidget;
-
-/// A hall whose hubs have the password that the user knows, and export at once: nobody waits for
-/// the second between two polls.
-HallDescription quickHall(const QString& base, int hubs, int peripherals);
 
 /// A simulated hall with its hubs one per room, a document with two layouts and named presets for
 /// it, and the installation step in front of a user who knows the password of every hub.

@@ -3,22 +3,18 @@
 #include "install.h"
 #include "installhall.h"
 #include "presetfilesender.h"
+#include "stillness.h"
 
-#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QSignalSpy>
 #include <QTcpSocket>
-#include <QTest>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
-// Wizard and hall share the event loop: what is under way shows within a few turns of it, however
-// slow the machine.
-constexpr int quietMs = 30;
-constexpr int quietTurns = 60;
 constexpr int longestWaitMs = 60000;
 
 /// Everything that hubs and user have done so far.
@@ -65,18 +61,9 @@ bool waitUntilOver(const QWidget& page)
 
 void waitUntilQuiet(const InstallHall& step)
 {
-    const QDeadlineTimer patience(longestWaitMs);
-    QDeadlineTimer quiet(quietMs);
-    int turns = 0;
-    while ((turns < quietTurns || !quiet.hasExpired()) && !patience.hasExpired()) {
-        const qsizetype before = activity(step);
-        if (!QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) {
-            QTest::qSleep(1);
-        }
-        ++turns;
-        if (activity(step) != before || QApplication::activeModalWidget()) {
-            quiet.setRemainingTime(quietMs);
-            turns = 0;
-        }
-    }
+    qsizetype before = activity(step);
+    waitUntilStill([&step, &before] {
+        const qsizetype last = std::exchange(before, activity(step));
+        return before != last || QApplication::activeModalWidget();
+    });
 }

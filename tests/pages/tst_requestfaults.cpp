@@ -1,6 +1,7 @@
 // Every request of an installation with every fault that its reply can have. CTest runs each
 // function as a test of its own, so that they run side by side: each has addresses of its own.
 #include "faultrow.h"
+#include "pagefaultface.h"
 #include "testcase.h"
 
 #include <QTest>
@@ -30,7 +31,7 @@ void TestRequestFaults::everyFaultBeforeLogInHasItsOutcomeAndIsGoneAtTheNextTry_
 
 void TestRequestFaults::everyFaultBeforeLogInHasItsOutcomeAndIsGoneAtTheNextTry()
 {
-    carryOutFaultRow(QStringLiteral("127.70.1.1"));
+    carryOutFaultRow(QStringLiteral("127.70.1.1"), makePageFace);
 }
 
 void TestRequestFaults::everyFaultAtLogInHasItsOutcomeAndIsGoneAtTheNextTry_data()
@@ -40,7 +41,7 @@ void TestRequestFaults::everyFaultAtLogInHasItsOutcomeAndIsGoneAtTheNextTry_data
 
 void TestRequestFaults::everyFaultAtLogInHasItsOutcomeAndIsGoneAtTheNextTry()
 {
-    carryOutFaultRow(QStringLiteral("127.70.2.1"));
+    carryOutFaultRow(QStringLiteral("127.70.2.1"), makePageFace);
 }
 
 void TestRequestFaults::everyFaultAtExportHasItsOutcomeAndIsGoneAtTheNextTry_data()
@@ -50,7 +51,7 @@ void TestRequestFaults::everyFaultAtExportHasItsOutcomeAndIsGoneAtTheNextTry_dat
 
 void TestRequestFaults::everyFaultAtExportHasItsOutcomeAndIsGoneAtTheNextTry()
 {
-    carryOutFaultRow(QStringLiteral("127.70.3.1"));
+    carryOutFaultRow(QStringLiteral("127.70.3.1"), makePageFace);
 }
 
 void TestRequestFaults::everyFaultAtPresetsHasItsOutcomeAndIsGoneAtTheNextTry_data()
@@ -60,7 +61,7 @@ void TestRequestFaults::everyFaultAtPresetsHasItsOutcomeAndIsGoneAtTheNextTry_da
 
 void TestRequestFaults::everyFaultAtPresetsHasItsOutcomeAndIsGoneAtTheNextTry()
 {
-    carryOutFaultRow(QStringLiteral("127.70.4.1"));
+    carryOutFaultRow(QStringLiteral("127.70.4.1"), makePageFace);
 }
 
 void TestRequestFaults::everyFaultAtTheEndHasItsOutcomeAndIsGoneAtTheNextTry_data()
@@ -70,7 +71,7 @@ void TestRequestFaults::everyFaultAtTheEndHasItsOutcomeAndIsGoneAtTheNextTry_dat
 
 void TestRequestFaults::everyFaultAtTheEndHasItsOutcomeAndIsGoneAtTheNextTry()
 {
-    carryOutFaultRow(QStringLiteral("127.70.5.1"));
+    carryOutFaultRow(QStringLiteral("127.70.5.1"), makePageFace);
 }
 
 TESSEL_TEST_MAIN(TestRequestFaults)

@@ -99,9 +99,9 @@ InstallJob::~InstallJob()
 
 ExitCode InstallJob::run()
 {
-    for (const auto part :
-         {&InstallJob::readHall, &InstallJob::chooseHubs, &InstallJob::judgeHall,
-          &InstallJob::readPasswords, &InstallJob::openLog, &InstallJob::findDevices}) {
+    for (const auto part : {&InstallJob::readWait, &InstallJob::readHall, &InstallJob::chooseHubs,
+                            &InstallJob::judgeHall, &InstallJob::readPasswords,
+                            &InstallJob::openLog, &InstallJob::findDevices}) {
         if (const Stop stopped = (this->*part)()) {
             return *stopped;
         }
@@ -109,6 +109,14 @@ ExitCode InstallJob::run()
     install();
     tendOthers();
     return m_code;
+}
+
+InstallJob::Stop InstallJob::readWait()
+{
+    const std::optional<int> waitMs =
+        millisecondsOf(*m_arguments, QStringLiteral("wait"), usualWaitMs, *m_command, *m_terminal);
+    m_waitMs = waitMs.value_or(0);
+    return waitMs ? Stop() : ExitCode::WrongUsage;
 }
 
 InstallJob::Stop InstallJob::readHall()
@@ -184,15 +192,10 @@ InstallJob::Stop InstallJob::openLog()
 
 InstallJob::Stop InstallJob::findDevices()
 {
-    const std::optional<int> waitMs = millisecondsOf(*m_arguments, QStringLiteral("wait"),
-                                                     usualSearchMs, *m_command, *m_terminal);
-    if (!waitMs) {
-        return ExitCode::WrongUsage;
-    }
     if (m_arguments->has(QStringLiteral("no-search"))) {
         return {};
     }
-    const SearchResult result = searchNetwork(given("interface"), *waitMs, {}, *m_terminal);
+    const SearchResult result = searchNetwork(given("interface"), m_waitMs, {}, *m_terminal);
     if (!result.fault.isEmpty()) {
         return stop(ExitCode::CouldNotBeTried, result.fault);
     }

@@ -28,6 +28,7 @@ private:
     /// Why it ends here, which is said; nothing when it goes on.
     using Stop = std::optional<ExitCode>;
 
+    Stop readWait();
     Stop readHall();
     Stop chooseHubs();
     Stop judgeHall();
@@ -46,6 +47,7 @@ private:
     const Arguments* m_arguments;
     Terminal* m_terminal;
     QString m_path;
+    int m_waitMs = 0; ///< of the search
     std::unique_ptr<HallDocument> m_hall;
     QList<DeviceData> m_hubs;   ///< that are installed
     QList<DeviceData> m_others; ///< that are left as they are

@@ -1,14 +1,9 @@
 #include "faultrow.h"
 
 #include "faulttable.h"
-#include "installhall.h"
-#include "installwatch.h"
-#include "pagefixtures.h"
-#include "presetfilesender.h"
-#include "senderclock.h"
+#include "hall.h"
+#include "quickhall.h"
 
-#include <QPushButton>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <algorithm>
@@ -16,7 +11,6 @@
 namespace {
 
 constexpr int hubCount = 4;
-constexpr int faultyHub = 1;
 constexpr int moreThanPatience = 31;
 const QString othersDone = QStringLiteral(" Done Done Done");
 
@@ -52,6 +46,15 @@ QString heldBy(const SimulatedHub& hub)
     return parts.isEmpty() ? QStringLiteral("nothing") : parts.join(QStringLiteral(", "));
 }
 
+QString statusesOf(const FaultFace& face)
+{
+    QStringList statuses;
+    for (int hub = 0; hub < hubCount; ++hub) {
+        statuses.append(face.status(hub));
+    }
+    return statuses.join(u' ');
+}
+
 } // namespace
 
 void addFaultRows(const QList<Exchange>& exchanges)
@@ -67,45 +70,42 @@ void addFaultRows(const QList<Exchange>& exchanges)
     }
 }
 
-void carryOutFaultRow(const QString& base)
+void carryOutFaultRow(const QString& base, const FaultFaceMaker& makeFace)
 {
     QFETCH(const Exchange, exchange);
     QFETCH(const int, fault);
     const ReplyFault& row = replyFaults().at(fault);
     const FaultOutcome expected = expectedOutcome(exchange, row);
-    InstallHall step(describe(base, exchange));
-    const SimulatedHub* hub = step.hub(faultyHub);
+    const std::unique_ptr<FaultFace> face = makeFace(describe(base, exchange));
+    const SimulatedHub* hub = face->hall().hubs().first();
     for (Fault part : row.faults) {
         part.exchange = exchange;
-        step.setFault(faultyHub, part);
+        face->hall().hubs().first()->setFault(part);
     }
-    step.answers.giveUpAfter(step.address(faultyHub), maxAnswers);
+    face->giveUpAfter(maxAnswers);
 
-    press(step.execute());
-    PresetFileSender* sender = senderOf(step.page, step.address(faultyHub));
-    QVERIFY(sender);
-    const QSignalSpy finished(sender, SIGNAL(finished(QString, int)));
+    face->install();
     if (row.hearing == Hearing::Lost) {
-        waitUntilQuiet(step);
-        QCOMPARE(step.status(faultyHub), QStringLiteral("Installing..."));
+        face->waitUntilQuiet();
+        QCOMPARE(face->status(0), QStringLiteral("Installing..."));
         QVERIFY(!hub->exchangeNames().isEmpty());
         QCOMPARE(hub->exchangeNames().last(), exchangeName(exchange));
-        QCOMPARE(finished.size(), 0);
-        passSeconds(sender, moreThanPatience);
+        QCOMPARE(face->endCount(), 0);
+        face->passSeconds(moreThanPatience);
     }
-    QVERIFY(waitUntilOver(step.page));
-    QCOMPARE(step.statuses(), expected.status + othersDone);
-    QCOMPARE(finished.size(), expected.finished);
+    QVERIFY(face->waitUntilOver());
+    QCOMPARE(statusesOf(*face), expected.status + othersDone);
+    QCOMPARE(face->endCount(), expected.finished);
     QCOMPARE(heldBy(*hub), expected.held);
-    QCOMPARE(step.answers.prompts().count(step.address(faultyHub)), expected.prompts);
+    QCOMPARE(face->promptCount(), expected.prompts);
 
     if (expected.status != u"Done") {
-        step.hall.clearFaults();
-        step.answers.giveUpAfter(step.address(faultyHub), expected.prompts + maxAnswers);
-        press(step.execute());
-        QVERIFY(waitUntilOver(step.page));
+        QVERIFY2(face->reason(0).contains(u": "), qPrintable(face->reason(0)));
+        face->hall().clearFaults();
+        face->giveUpAfter(expected.prompts + maxAnswers);
+        face->install();
+        QVERIFY(face->waitUntilOver());
     }
-    QCOMPARE(step.statuses(), QStringLiteral("Done") + othersDone);
-    QCOMPARE(step.execute()->text(), QStringLiteral("Next"));
+    QCOMPARE(statusesOf(*face), QStringLiteral("Done") + othersDone);
     QCOMPARE(heldBy(*hub), expectedOutcome(exchange, {"", {}, Hearing::Good}).held);
 }

@@ -1,0 +1,84 @@
+#include "ptytoolrun.h"
+
+#include <QTest>
+
+#include <array>
+#include <cstdlib>
+
+#include <fcntl.h>
+#include <sys/ioctl.h>
+#include <termios.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int patience = 60000; // milliseconds
+
+} // namespace
+
+PtyToolRun::PtyToolRun(const QStringList& arguments)
+    : m_keyboard(::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))
+{
+    ::grantpt(m_keyboard);
+    ::unlockpt(m_keyboard);
+    m_terminal = ::open(::ptsname(m_keyboard), O_RDWR | O_NOCTTY | O_CLOEXEC);
+    const int terminal = m_terminal;
+    m_program.setChildProcessModifier([terminal] {
+        ::setsid();
+        ::ioctl(terminal, TIOCSCTTY, 0);
+        ::dup2(terminal, STDIN_FILENO);
+        ::dup2(terminal, STDERR_FILENO);
+    });
+    m_program.start(QStringLiteral(TESSEL_TOOL), arguments);
+}
+
+PtyToolRun::~PtyToolRun()
+{
+    m_program.kill();
+    m_program.waitForFinished();
+    ::close(m_terminal);
+    ::close(m_keyboard);
+}
+
+bool PtyToolRun::hasShown(const QString& words)
+{
+    return QTest::qWaitFor(
+        [this, &words] {
+            look();
+            const qsizetype place = m_shown.indexOf(words, m_seen);
+            m_seen = place < 0 ? m_seen : place + words.size();
+            return place >= 0;
+        },
+        patience);
+}
+
+void PtyToolRun::type(const QByteArray& keys) const
+{
+    QCOMPARE(::write(m_keyboard, keys.constData(), size_t(keys.size())), keys.size());
+}
+
+bool PtyToolRun::isEchoing() const
+{
+    termios mode{};
+    ::tcgetattr(m_terminal, &mode);
+    return (mode.c_lflag & tcflag_t(ECHO)) != 0;
+}
+
+ToolRun PtyToolRun::ended()
+{
+    const bool isOver =
+        QTest::qWaitFor([this] { return m_program.state() == QProcess::NotRunning; }, patience);
+    look();
+    const bool isByItself = isOver && m_program.exitStatus() == QProcess::NormalExit;
+    return {isByItself ? m_program.exitCode() : -1,
+            QString::fromUtf8(m_program.readAllStandardOutput()), m_shown};
+}
+
+void PtyToolRun::look()
+{
+    std::array<char, 4096> bytes{};
+    ssize_t count = 0;
+    while ((count = ::read(m_keyboard, bytes.data(), bytes.size())) > 0) {
+        m_shown += QString::fromUtf8(bytes.data(), count);
+    }
+}
