@@ -5,7 +5,8 @@
 
 bool hasFonts()
 {
-    // Names of families are there in any case; a font behind them is not.
+    // Where there is none, Qt has one all the same, whose letters are all the same box.
     const QRawFont font = QRawFont::fromFont(QFont());
-    return font.isValid() && font.supportsCharacter(u'A') && font.supportsCharacter(u'1');
+    const QList<quint32> glyphs = font.glyphIndexesForString(QStringLiteral("A1"));
+    return glyphs.size() == 2 && glyphs.first() != glyphs.last();
 }
