@@ -114,7 +114,7 @@ ExitCode InstallJob::run()
 InstallJob::Stop InstallJob::readWait()
 {
     const std::optional<int> waitMs =
-        millisecondsOf(*m_arguments, QStringLiteral("wait"), usualWaitMs, *m_command, *m_terminal);
+        millisecondsOf(*m_arguments, QStringLiteral("wait"), usualSearchMs, *m_command, *m_terminal);
     m_waitMs = waitMs.value_or(0);
     return waitMs ? Stop() : ExitCode::WrongUsage;
 }

@@ -5,12 +5,12 @@
 #include "hallrecord.h"
 #include "inputfile.h"
 #include "outputfile.h"
+#include "recordfonts.h"
 #include "recordhtml.h"
 #include "recordpdf.h"
 #include "terminal.h"
 
 #include <QFileInfo>
-#include <QFontDatabase>
 #include <QSaveFile>
 
 namespace {
@@ -217,7 +217,7 @@ ExitCode ReportCommand::run(const Arguments& arguments, Terminal& terminal) cons
     HallRecord record;
     record.hall = reading.hall.get();
     QString fault = reading.hall == nullptr ? reading.fault : gather(record, arguments);
-    if (fault.isEmpty() && QFontDatabase::families().isEmpty()) {
+    if (fault.isEmpty() && !hasFonts()) {
         fault = QStringLiteral("this system has no fonts to write the record with; install some, "
                                "such as DejaVu");
     }

@@ -36,12 +36,12 @@ DeviceFindings::DeviceFindings(const DocumentData& hall, const QList<FoundDevice
 
 FoundDevice DeviceFindings::of(const DeviceData& device) const
 {
-    const FoundDevice there = m_byAddress.value(device.ipAddress);
+    FoundDevice there = m_byAddress.value(device.ipAddress);
     const bool isEitherUnknown = device.macAddress.isEmpty() || there.macAddress.isEmpty();
     if (!there.address.isEmpty() && isSame(device, there)) {
         return there;
     }
-    const FoundDevice elsewhere = m_byMac.value(device.macAddress.toUpper());
+    FoundDevice elsewhere = m_byMac.value(device.macAddress.toUpper());
     return elsewhere.address.isEmpty() && isEitherUnknown ? there : elsewhere;
 }
 

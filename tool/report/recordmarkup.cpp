@@ -21,7 +21,8 @@ bool isHidden(QChar letter)
 
 QString RecordMarkup::escaped(const QString& text)
 {
-    QString shown = text.isValidUtf16() ? text : QString::fromUtf8(text.toUtf8());
+    // A half of a letter is no text, and is replaced when it is written.
+    QString shown = QString::fromUtf8(text.toUtf8());
     for (QChar& letter : shown) {
         letter = isHidden(letter) ? QChar(u'?') : letter;
     }

@@ -45,7 +45,7 @@ void setUpWriter(QPdfWriter& writer, const PdfFrame& frame)
 /// What the style sheet says of tables and a text document does not understand.
 void styleTables(QTextDocument& document)
 {
-    constexpr qreal belowTable = 10;
+    constexpr qreal belowTable = 12;
     for (QTextFrame* frame : document.rootFrame()->childFrames()) {
         if (auto* table = qobject_cast<QTextTable*>(frame)) {
             QTextTableFormat format = table->format();

@@ -1,8 +1,10 @@
+#include "commandrun.h"
 #include "networkrun.h"
 #include "testcase.h"
 #include "toolrun.h"
 
 #include <QJsonArray>
+#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -49,6 +51,7 @@ class TestFindCommand : public TestCase
 private Q_SLOTS:
     void initTestCase();
     void whatADeviceTellsIsListedAndAllIsWell();
+    void whatWasFoundIsTakenIntoARecord();
     void tablesKeepToEightyColumns();
     void queryIsTheWizardsByteForByte();
     void verdictOnADevice_data();
@@ -91,6 +94,30 @@ void TestFindCommand::whatADeviceTellsIsListedAndAllIsWell()
     const QJsonObject side = run.object().value(QLatin1String("interface")).toObject();
     QCOMPARE(text(side, "name"), QStringLiteral("wizard"));
     QCOMPARE(text(side, "address"), QStringLiteral("10.54.0.1"));
+}
+
+void TestFindCommand::whatWasFoundIsTakenIntoARecord()
+{
+    const NetworkRun found = runBesideHall(oneHub, find);
+    const QTemporaryDir folder;
+    const auto path = [&folder](const char* name) { return folder.filePath(QLatin1String(name)); };
+    putFile(path("find.json"), found.output.toUtf8());
+    putFile(path("hall.json"), R"({"rooms": ["1.......", "........", "........", "........",
+        "........", "........", "........", "........"], "devices": [{"address": ")" +
+                                   hub.toUtf8() + R"(", "model": "PX-HB", "room": 1,
+        "mac": "02:00:00:00:00:01"}]})");
+    const QString o = QStringLiteral("-o");
+    QCOMPARE(
+        runBuiltTool({QStringLiteral("make"), path("hall.json"), o, path("hall.tessel")}).exitCode,
+        0);
+    const ToolRun run =
+        runBuiltTool({QStringLiteral("report"), path("hall.tessel"), o, path("hall.html"),
+                      QStringLiteral("--found"), path("find.json")});
+    QCOMPARE(run.errors, QString());
+    QCOMPARE(run.exitCode, 0);
+    const QByteArray page = fileAt(path("hall.html"));
+    QVERIFY(page.contains(">H1<"));
+    QVERIFY(page.contains("the day of the search"));
 }
 
 void TestFindCommand::tablesKeepToEightyColumns()

@@ -57,6 +57,7 @@ private Q_SLOTS:
     void whatWillBeHeardIsSaidAndNothingIsDoneWithoutAYes();
     void tableShowsLayoutsByHubsInEightyColumns();
     void resultIsKept();
+    void keptResultIsTakenIntoARecord();
     void resultThatCannotBeKeptStopsBeforeAnythingIsHeard();
     void resultDoesNotReplaceTheHall();
     void hubWhosePresetCouldNotBeReadIsNamed();
@@ -174,6 +175,22 @@ void TestWalkCommand::resultIsKept()
     QCOMPARE(hubs.at(0).toObject().value(QLatin1String("preset")).toInt(), 2);
     QVERIFY(hubs.at(0).toObject().value(QLatin1String("ok")).toBool());
     QVERIFY(hubs.at(1).toObject().value(QLatin1String("preset")).isNull());
+}
+
+void TestWalkCommand::keptResultIsTakenIntoARecord()
+{
+    START_HALL;
+    RECALL_ON_BOTH(1);
+    const QString kept = file.beside(QStringLiteral("result.json"));
+    const QString record = file.beside(QStringLiteral("hall.html"));
+    LiveToolRun tool({walk, file.path(), yes, atOnce, QStringLiteral("-o"), kept});
+    QCOMPARE(tool.ended().exitCode, 0);
+    LiveToolRun report({QStringLiteral("report"), file.path(), QStringLiteral("-o"), record,
+                        QStringLiteral("--walk"), kept});
+    const ToolRun run = report.ended();
+    QCOMPARE(run.errors, QString());
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY(bytesOf(record).contains(u"every layout was read back from every hub"));
 }
 
 void TestWalkCommand::resultThatCannotBeKeptStopsBeforeAnythingIsHeard()

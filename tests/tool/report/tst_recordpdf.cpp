@@ -1,0 +1,118 @@
+#include "recordpdf.h"
+#include "recordstrips.h"
+#include "testcase.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QTest>
+#include <QTextDocument>
+
+namespace {
+
+const PdfFrame frame{QStringLiteral("A title"), QStringLiteral("hall.tessel"), QDate(2026, 11, 22),
+                     QPageSize::A4};
+
+QString longTable(int rows)
+{
+    QString html = QStringLiteral("<h2>Devices</h2><table><thead><tr><th>Name</th></tr></thead>");
+    for (int row = 0; row < rows; ++row) {
+        html += QStringLiteral("<tr><td>Device %1</td></tr>").arg(row);
+    }
+    return html + QStringLiteral("</table>");
+}
+
+/// Every page has one such object.
+qsizetype pageCount(const QByteArray& pdf)
+{
+    return pdf.count("/Type /Page\n");
+}
+
+} // namespace
+
+/// The record of a hall as a PDF.
+class TestRecordPdf : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theSameTextGivesTheSameBytes();
+    void theDateIsTheRecordsAndNotTodays();
+    void thePaperIsTheOneAskedFor();
+    void aLongTextTakesManyPages();
+    void aHeadingIsKeptWithItsTable();
+    void rowsAreStripsAndRepeatTheTitles();
+    void anEmptyTextIsAPage();
+};
+
+void TestRecordPdf::theSameTextGivesTheSameBytes()
+{
+    const QString html = QStringLiteral("<h1>A</h1><p>plain <b>bold</b> <i>slanted</i></p>");
+    const QByteArray first = recordPdf(html, frame);
+    const qint64 second = QDateTime::currentSecsSinceEpoch();
+    QTRY_VERIFY(QDateTime::currentSecsSinceEpoch() != second);
+    QCOMPARE(recordPdf(html, frame), first);
+}
+
+void TestRecordPdf::theDateIsTheRecordsAndNotTodays()
+{
+    const QByteArray pdf = recordPdf(QStringLiteral("<p>text</p>"), frame);
+    QVERIFY(pdf.contains("/CreationDate (D:20261122000000Z)"));
+    QCOMPARE(pdf.count("/CreationDate"), 1);
+}
+
+void TestRecordPdf::thePaperIsTheOneAskedFor()
+{
+    QVERIFY(recordPdf(QStringLiteral("<p>text</p>"), frame)
+                .contains("/MediaBox [0 0 595.000000 842.000000]"));
+    PdfFrame letter = frame;
+    letter.paper = QPageSize::Letter;
+    QVERIFY(recordPdf(QStringLiteral("<p>text</p>"), letter)
+                .contains("/MediaBox [0 0 612.000000 792.000000]"));
+}
+
+void TestRecordPdf::aLongTextTakesManyPages()
+{
+    QCOMPARE(pageCount(recordPdf(longTable(10), frame)), 1);
+    const qsizetype pages = pageCount(recordPdf(longTable(300), frame));
+    QVERIFY2(pages >= 5 && pages <= 9, qPrintable(QString::number(pages)));
+}
+
+void TestRecordPdf::aHeadingIsKeptWithItsTable()
+{
+    QTextDocument document;
+    document.setHtml(QStringLiteral("<p>alone</p><h2>Devices</h2><p>counts</p>") +
+                     longTable(3).section(u'>', 2));
+    document.setTextWidth(500);
+    const QList<Strip> strips = stripsOf(document, 1);
+    QCOMPARE(strips.size(), 3 + 3);
+    QVERIFY(!strips.at(0).isKeptWithNext); // a paragraph above a heading
+    QVERIFY(strips.at(1).isKeptWithNext);  // the heading
+    QVERIFY(strips.at(2).isKeptWithNext);  // the paragraph above the table
+    QVERIFY(strips.at(3).isKeptWithNext);  // the first row
+    QVERIFY(strips.at(4).isKeptWithNext);  // the last row but one
+    QVERIFY(!strips.at(5).isKeptWithNext);
+}
+
+void TestRecordPdf::rowsAreStripsAndRepeatTheTitles()
+{
+    QTextDocument document;
+    document.setHtml(longTable(5));
+    document.setTextWidth(500);
+    const QList<Strip> strips = stripsOf(document, 1);
+    QCOMPARE(strips.size(), 1 + 5);
+    QVERIFY(!strips.at(1).head); // the titles are part of it
+    for (qsizetype index = 2; index < strips.size(); ++index) {
+        QVERIFY(strips.at(index).head);
+        QVERIFY(strips.at(index).head->height() > 0);
+        QVERIFY(strips.at(index).head->bottom <= strips.at(2).span.top);
+        QVERIFY(strips.at(index).span.top >= strips.at(index - 1).span.bottom);
+        QVERIFY(strips.at(index).span.height() > 0);
+    }
+}
+
+void TestRecordPdf::anEmptyTextIsAPage()
+{
+    QCOMPARE(pageCount(recordPdf(QString(), frame)), 1);
+}
+
+TESSEL_TEST_MAIN(TestRecordPdf)
+#include "tst_recordpdf.moc"
