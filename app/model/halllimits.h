@@ -1,9 +1,14 @@
 #pragma once
 
-/// How much of a hall the wizard lets its users enter.
+/// How much of a hall there can be.
 namespace HallLimits {
 
+/// What the wizard lets its users enter.
 inline constexpr int maxLayoutCount = 10;
 inline constexpr int maxPresetNameLength = 255;
+
+/// What is read of a file: ten times as much, since more is none of the wizard's making and would
+/// only stall its pages.
+inline constexpr int maxReadLayoutCount = 100;
 
 } // namespace HallLimits

@@ -1,6 +1,7 @@
 #include "resumexml.h"
 
 #include "boundedxml.h"
+#include "halllimits.h"
 #include "orderedxml.h"
 #include "resumecells.h"
 #include "resumeforms.h"
@@ -12,8 +13,6 @@
 namespace {
 
 constexpr int maxWindowSide = 10000;
-// Ten times what the wizard makes: more would only stall its pages.
-constexpr qsizetype maxLayouts = 100;
 constexpr qsizetype maxRoomGroupLength = 64;
 
 /// A name as a string without a copy of it: names last as long as the program.
@@ -169,7 +168,7 @@ SavedSection readSection(BoundedXml& xml)
 SavedSection readScenes(BoundedXml& xml)
 {
     QList<SceneInfo> scenes = readList<SceneInfo>(xml);
-    scenes.resize(std::min(scenes.size(), maxLayouts));
+    scenes.resize(std::min(scenes.size(), qsizetype(HallLimits::maxReadLayoutCount)));
     return scenes;
 }
 

@@ -1,6 +1,7 @@
 #include "halljson.h"
 
 #include "halljsonkeys.h"
+#include "halllimits.h"
 #include "hallparts.h"
 #include "hallpicture.h"
 #include "jsonfields.h"
@@ -23,8 +24,6 @@ namespace Key = HallJsonKey;
 constexpr int maxWindowSide = 10000;
 constexpr int maxNumber = std::numeric_limits<int>::max();
 constexpr int maxThumbnailSide = 256;
-// What the file's reader takes; the wizard makes ten.
-constexpr qsizetype maxLayouts = 100;
 
 /// Reads the parts of a hall, each after those that it depends on.
 class Reader
@@ -204,7 +203,7 @@ void Reader::readExactRooms()
 void Reader::readLayouts()
 {
     const QJsonArray layouts = m_root.list(Key::layouts());
-    if (layouts.size() > maxLayouts) {
+    if (layouts.size() > HallLimits::maxReadLayoutCount) {
         m_root.fault(Key::layouts(), QStringLiteral("too many"));
         return;
     }
@@ -298,7 +297,7 @@ void Reader::readExactLayouts()
     hall().scenes.clear();
     m_soundLayouts.clear();
     const QJsonArray layouts = m_exact.list(Key::layouts());
-    if (layouts.size() > maxLayouts) {
+    if (layouts.size() > HallLimits::maxReadLayoutCount) {
         m_exact.fault(Key::layouts(), QStringLiteral("too many"));
         return;
     }
