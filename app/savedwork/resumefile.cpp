@@ -1,5 +1,6 @@
 #include "resumefile.h"
 
+#include "halllimits.h"
 #include "pngstream.h"
 #include "wholefile.h"
 
@@ -14,8 +15,6 @@ namespace {
 
 // 250 devices in ten layouts take less than one MiB.
 constexpr qint64 maxFileSize = qint64(8) * 1024 * 1024;
-// The wizard makes ten layouts; a count beyond this is none of its making.
-constexpr qint64 maxScenes = 100;
 // Thumbnails are 64 x 64.
 constexpr int maxThumbnailSide = 256;
 constexpr qint64 maxThumbnailBytes = qint64(512) * 1024;
@@ -106,7 +105,8 @@ QList<SceneInfo> readScenes(QDataStream& stream)
     QList<SceneInfo> scenes;
     qint64 count = 0;
     stream >> count;
-    for (qint64 index = 0; index < std::min(count, maxScenes); ++index) {
+    for (qint64 index = 0; index < std::min(count, qint64(HallLimits::maxReadLayoutCount));
+         ++index) {
         SceneInfo scene;
         if (!readScene(stream, scene)) {
             break;

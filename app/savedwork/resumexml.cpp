@@ -1,6 +1,7 @@
 #include "resumexml.h"
 
 #include "boundedxml.h"
+#include "halllimits.h"
 #include "orderedxml.h"
 #include "resumecells.h"
 #include "resumeforms.h"
@@ -111,8 +112,8 @@ std::optional<RoomInfo> plausible(const RoomInfo& room)
 
 std::optional<SceneInfo> plausible(const SceneInfo& scene)
 {
-    return scene.roomGroup.size() <= SavedWorkLimit::layoutText ? std::optional(scene)
-                                                                : std::nullopt;
+    return scene.roomGroup.size() <= HallLimits::maxReadLayoutLength ? std::optional(scene)
+                                                                     : std::nullopt;
 }
 
 template <typename Record>
@@ -165,7 +166,7 @@ SavedSection readSection(BoundedXml& xml)
 SavedSection readScenes(BoundedXml& xml)
 {
     QList<SceneInfo> scenes = readList<SceneInfo>(xml);
-    scenes.resize(std::min(scenes.size(), SavedWorkLimit::layouts));
+    scenes.resize(std::min(scenes.size(), qsizetype(HallLimits::maxReadLayoutCount)));
     return scenes;
 }
 
@@ -175,7 +176,7 @@ SavedSection readWindowSize(BoundedXml& xml)
     const auto sides = readRecord<WindowSides>(xml);
     xml.leave();
     const QSize size(sides.width, sides.height);
-    const QSize largest(SavedWorkLimit::windowSide, SavedWorkLimit::windowSide);
+    const QSize largest(HallLimits::maxReadWindowSide, HallLimits::maxReadWindowSide);
     return size.isValid() && size.boundedTo(largest) == size ? size : QSize();
 }
 

@@ -4,16 +4,6 @@
 
 #include <optional>
 
-/// What reading takes of layouts and of the window: the wizard makes a tenth of it, and more would
-/// only stall its pages. Who writes such a text from elsewhere keeps to these.
-namespace SavedWorkLimit {
-
-inline constexpr qsizetype layouts = 100;
-inline constexpr qsizetype layoutText = 64; ///< letters of a layout such as "1+2/3"
-inline constexpr int windowSide = 10000;    ///< pixels
-
-} // namespace SavedWorkLimit
-
 /// The XML text inside a resume file: the work's sections in their order. The same work gives the
 /// same text.
 QString writeResumeXml(const SavedWork& work);

@@ -178,7 +178,7 @@ QString ReplaceCommand::name() const
 
 QString ReplaceCommand::summary() const
 {
-    return QStringLiteral("Puts another device into the place of one");
+    return QStringLiteral("Puts a new device into the place of an old one");
 }
 
 QString ReplaceCommand::details() const

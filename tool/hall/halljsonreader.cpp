@@ -1,6 +1,7 @@
 #include "halljson.h"
 
 #include "halljsonkeys.h"
+#include "halllimits.h"
 #include "hallparts.h"
 #include "hallpicture.h"
 #include "jsonfields.h"
@@ -27,10 +28,10 @@ constexpr int maxThumbnailSide = 256;
 /// The file drops a layout of a longer text, and with it what was chosen for it.
 void judgeLength(JsonFields& layout, const QString& text)
 {
-    if (text.size() > SavedWorkLimit::layoutText) {
+    if (text.size() > HallLimits::maxReadLayoutLength) {
         layout.fault(Key::rooms(), QStringLiteral("%1 characters; a file holds %2")
                                        .arg(text.size())
-                                       .arg(SavedWorkLimit::layoutText));
+                                       .arg(HallLimits::maxReadLayoutLength));
     }
 }
 
@@ -143,8 +144,8 @@ void Reader::readWindow()
 {
     if (m_root.has(Key::window())) {
         JsonFields window(m_root.value(Key::window()), u'.' + Key::window(), &m_faults);
-        hall().windowSize = {window.number(Key::width(), 0, SavedWorkLimit::windowSide, 0),
-                             window.number(Key::height(), 0, SavedWorkLimit::windowSide, 0)};
+        hall().windowSize = {window.number(Key::width(), 0, HallLimits::maxReadWindowSide, 0),
+                             window.number(Key::height(), 0, HallLimits::maxReadWindowSide, 0)};
         window.finish();
     }
 }
@@ -212,7 +213,7 @@ void Reader::readExactRooms()
 void Reader::readLayouts()
 {
     const QJsonArray layouts = m_root.list(Key::layouts());
-    if (layouts.size() > SavedWorkLimit::layouts) {
+    if (layouts.size() > HallLimits::maxReadLayoutCount) {
         m_root.fault(Key::layouts(), QStringLiteral("too many"));
         return;
     }
@@ -307,7 +308,7 @@ void Reader::readExactLayouts()
     hall().scenes.clear();
     m_soundLayouts.clear();
     const QJsonArray layouts = m_exact.list(Key::layouts());
-    if (layouts.size() > SavedWorkLimit::layouts) {
+    if (layouts.size() > HallLimits::maxReadLayoutCount) {
         m_exact.fault(Key::layouts(), QStringLiteral("too many"));
         return;
     }
