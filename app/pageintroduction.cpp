@@ -28,12 +28,10 @@ Introduction::Introduction(QWidget* parent)
 PageIntroduction::PageIntroduction(IPageController* controller, IDocAccessor* doc, QWidget* parent)
     : BasePage(tr("1. Introduction"), stepNumber(WizardPage::Introduction), controller, doc, parent)
 {
-    // Made first, so that the keyboard begins there and not on "Close", where Return would end the
-    // program that has just begun.
-    auto* nextButton = new QPushButton(tr("Next"), this);
-    nextButton->setObjectName(QStringLiteral("nextButton"));
     auto* closeButton = new QPushButton(tr("Close"), this);
     closeButton->setObjectName(QStringLiteral("closeButton"));
+    m_nextButton = new QPushButton(tr("Next"), this);
+    m_nextButton->setObjectName(QStringLiteral("nextButton"));
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -42,11 +40,20 @@ PageIntroduction::PageIntroduction(IPageController* controller, IDocAccessor* do
     layout->addLayout(row);
     row->addWidget(closeButton);
     row->addStretch();
-    row->addWidget(nextButton);
+    row->addWidget(m_nextButton);
 
     connect(closeButton, SIGNAL(clicked()), this, SLOT(closeButtonClicked()));
-    connect(nextButton, SIGNAL(clicked()), this, SLOT(nextButtonClicked()));
-    pressOnNextKey(this, nextButton);
+    connect(m_nextButton, SIGNAL(clicked()), this, SLOT(nextButtonClicked()));
+    pressOnNextKey(this, m_nextButton);
+}
+
+/// The keyboard would begin on "Close", the first in line, where Return ends what has just begun.
+void PageIntroduction::showEvent(QShowEvent* event)
+{
+    BasePage::showEvent(event);
+    if (window()->focusWidget() == nullptr) {
+        m_nextButton->setFocus();
+    }
 }
 
 void PageIntroduction::nextButtonClicked()

@@ -3,6 +3,8 @@
 #include "basepage.h"
 #include "picturetext.h"
 
+class QPushButton;
+
 /// What the wizard is for: the content of the first page.
 class Introduction : public PictureText
 {
@@ -20,7 +22,13 @@ class PageIntroduction : public BasePage
 public:
     PageIntroduction(IPageController* controller, IDocAccessor* doc, QWidget* parent);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private Q_SLOTS:
     void nextButtonClicked();
     void closeButtonClicked();
+
+private:
+    QPushButton* m_nextButton;
 };

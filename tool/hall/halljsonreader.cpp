@@ -8,7 +8,6 @@
 #include "jsontext.h"
 #include "pngstream.h"
 #include "resumecells.h"
-#include "resumexml.h"
 #include "roomgroup.h"
 #include "roomtext.h"
 #include "wizardpage.h"

@@ -1,5 +1,4 @@
-#include "hall.h"
-#include "hallondisk.h"
+#include "followinghall.h"
 #include "livetoolrun.h"
 #include "testcase.h"
 
@@ -18,7 +17,7 @@ const QString shortWait = QStringLiteral("--wait=1");
 
 } // namespace
 
-/// `recall` beside a hall over real sockets. Peripherals stand for hubs: they follow every number.
+/// `recall` beside a hall over real sockets.
 class TestRecallCommand : public TestCase
 {
     Q_OBJECT
@@ -35,33 +34,26 @@ private Q_SLOTS:
     void wrongUsageIsOneLine();
 };
 
-#define START_HALL                                                                                 \
-    const HallOnDisk file(stage, gallery);                                                         \
-    QVERIFY(!file.path().isEmpty());                                                               \
-    Hall hall(*HallDescription::byCounts(0, 2, stage));                                            \
-    QString error;                                                                                 \
-    QVERIFY2(hall.start(&error), qPrintable(error))
-
 void TestRecallCommand::allHubsAreOnTheLayoutAndAllIsWell()
 {
-    START_HALL;
-    LiveToolRun tool({QStringLiteral("recall"), QStringLiteral("2"), file.path()});
+    const FollowingHall site(stage, gallery);
+    LiveToolRun tool({QStringLiteral("recall"), QStringLiteral("2"), site.file.path()});
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.errors, QString());
-    QCOMPARE(hall.device(stage)->currentPreset(), 2);
-    QCOMPARE(hall.device(gallery)->currentPreset(), 2);
+    QCOMPARE(site.hall.device(stage)->currentPreset(), 2);
+    QCOMPARE(site.hall.device(gallery)->currentPreset(), 2);
     for (const char* shown : {"Layout 2", "Stage", "127.32.1.1", "Gallery", "127.32.1.2", "ok"}) {
         QVERIFY2(run.output.contains(QLatin1String(shown)), qPrintable(run.output));
     }
-    QCOMPARE(hall.differences(), QStringList());
+    QCOMPARE(site.hall.differences(), QStringList());
 }
 
 void TestRecallCommand::jsonTellsWhatWasReadBack()
 {
-    START_HALL;
-    hall.device(gallery)->setFault({.kind = FaultKind::NoAnswer});
-    LiveToolRun tool({QStringLiteral("recall"), QStringLiteral("3"), file.path(), shortWait,
+    const FollowingHall site(stage, gallery);
+    site.hall.device(gallery)->setFault({.kind = FaultKind::NoAnswer});
+    LiveToolRun tool({QStringLiteral("recall"), QStringLiteral("3"), site.file.path(), shortWait,
                       QStringLiteral("--json")});
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 1);
@@ -93,9 +85,9 @@ void TestRecallCommand::hubThatIsNotThereIsNamed()
 {
     QFETCH(const Fault, fault);
     QFETCH(const QString, result);
-    START_HALL;
-    hall.device(gallery)->setFault(fault);
-    LiveToolRun tool({QStringLiteral("recall"), QStringLiteral("1"), file.path(), shortWait});
+    const FollowingHall site(stage, gallery);
+    site.hall.device(gallery)->setFault(fault);
+    LiveToolRun tool({QStringLiteral("recall"), QStringLiteral("1"), site.file.path(), shortWait});
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(run.errors,
@@ -105,18 +97,18 @@ void TestRecallCommand::hubThatIsNotThereIsNamed()
 
 void TestRecallCommand::hallWhereNobodyAnswersIsLeftAlone()
 {
-    START_HALL;
+    const FollowingHall site(stage, gallery);
     for (const QString& hub : {stage, gallery}) {
-        hall.device(hub)->setFault(
+        site.hall.device(hub)->setFault(
             {.exchange = Exchange::CurrentPreset, .kind = FaultKind::NoAnswer});
     }
-    LiveToolRun tool({QStringLiteral("recall"), QStringLiteral("1"), file.path(), shortWait});
+    LiveToolRun tool({QStringLiteral("recall"), QStringLiteral("1"), site.file.path(), shortWait});
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 3);
     QVERIFY2(isOneLine(run.errors) && run.errors.contains(u"no hub answered"),
              qPrintable(run.errors));
     QCOMPARE(run.output, QString());
-    QVERIFY(!hall.device(stage)->exchangeNames().contains(QStringLiteral("recall-command")));
+    QVERIFY(!site.hall.device(stage)->exchangeNames().contains(QStringLiteral("recall-command")));
 }
 
 void TestRecallCommand::realHubRefusesWhatItDoesNotHold()
@@ -166,12 +158,12 @@ void TestRecallCommand::wrongUsageIsOneLine()
     QFETCH(const QString, number);
     QFETCH(const QString, option);
     QFETCH(const QString, reason);
-    START_HALL;
-    LiveToolRun tool({QStringLiteral("recall"), number, file.path(), option});
+    const FollowingHall site(stage, gallery);
+    LiveToolRun tool({QStringLiteral("recall"), number, site.file.path(), option});
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 2);
     QVERIFY2(isOneLine(run.errors) && run.errors.endsWith(reason), qPrintable(run.errors));
-    QCOMPARE(hall.device(stage)->exchangeNames(), QStringList());
+    QCOMPARE(site.hall.device(stage)->exchangeNames(), QStringList());
 }
 
 TESSEL_TEST_MAIN(TestRecallCommand)

@@ -1,5 +1,4 @@
-#include "hall.h"
-#include "hallondisk.h"
+#include "followinghall.h"
 #include "livetoolrun.h"
 #include "testcase.h"
 
@@ -44,9 +43,18 @@ QString bytesOf(const QString& path)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
+/// As an earlier recall left them, of which the journals say nothing.
+void recallOnBoth(const FollowingHall& site, int number)
+{
+    LiveToolRun before({QStringLiteral("recall"), QString::number(number), site.file.path()});
+    QCOMPARE(before.ended().exitCode, 0);
+    site.hall.device(stage)->clearJournal();
+    site.hall.device(gallery)->clearJournal();
+}
+
 } // namespace
 
-/// `walk` beside a hall over real sockets. Peripherals stand for hubs: they follow every number.
+/// `walk` beside a hall over real sockets.
 class TestWalkCommand : public TestCase
 {
     Q_OBJECT
@@ -73,37 +81,22 @@ private Q_SLOTS:
     void fileThatIsNoneIsOneLine();
 };
 
-#define START_HALL                                                                                 \
-    const HallOnDisk file(stage, gallery);                                                         \
-    QVERIFY(!file.path().isEmpty());                                                               \
-    Hall hall(*HallDescription::byCounts(0, 2, stage));                                            \
-    QString error;                                                                                 \
-    QVERIFY2(hall.start(&error), qPrintable(error))
-
-#define RECALL_ON_BOTH(number)                                                                     \
-    {                                                                                              \
-        LiveToolRun before({QStringLiteral("recall"), QStringLiteral(#number), file.path()});      \
-        QCOMPARE(before.ended().exitCode, 0);                                                      \
-        hall.device(stage)->clearJournal();                                                        \
-        hall.device(gallery)->clearJournal();                                                      \
-    }
-
 void TestWalkCommand::everyLayoutIsReadBackAndTheOldPresetIsActiveAgain()
 {
-    START_HALL;
-    RECALL_ON_BOTH(2);
-    LiveToolRun tool({walk, file.path(), yes, atOnce});
+    const FollowingHall site(stage, gallery);
+    recallOnBoth(site, 2);
+    LiveToolRun tool({walk, site.file.path(), yes, atOnce});
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 0);
     QVERIFY2(run.errors.startsWith(u"tesselctl: 3 layouts will be recalled on 2 hubs"),
              qPrintable(run.errors));
     QVERIFY2(!run.errors.contains(u"Begin?"), qPrintable(run.errors));
-    QCOMPARE(recalls(hall.device(stage)).join(u' '), QStringLiteral("1 2 3 2"));
-    QCOMPARE(recalls(hall.device(gallery)).join(u' '), QStringLiteral("1 2 3 2"));
-    QCOMPARE(hall.device(stage)->currentPreset(), 2);
+    QCOMPARE(recalls(site.hall.device(stage)).join(u' '), QStringLiteral("1 2 3 2"));
+    QCOMPARE(recalls(site.hall.device(gallery)).join(u' '), QStringLiteral("1 2 3 2"));
+    QCOMPARE(site.hall.device(stage)->currentPreset(), 2);
     QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: layout 3: active on 2 of 2 hubs\n")),
              qPrintable(run.errors));
-    QCOMPARE(hall.differences(), QStringList());
+    QCOMPARE(site.hall.differences(), QStringList());
 }
 
 void TestWalkCommand::whatWillBeHeardIsSaidAndNothingIsDoneWithoutAYes_data()
@@ -121,23 +114,23 @@ void TestWalkCommand::whatWillBeHeardIsSaidAndNothingIsDoneWithoutAYes_data()
 void TestWalkCommand::whatWillBeHeardIsSaidAndNothingIsDoneWithoutAYes()
 {
     QFETCH(const QByteArray, typed);
-    START_HALL;
-    LiveToolRun tool({walk, file.path(), atOnce}, typed);
+    const FollowingHall site(stage, gallery);
+    LiveToolRun tool({walk, site.file.path(), atOnce}, typed);
     const ToolRun run = tool.ended();
     QTEST(run.exitCode, "code");
     QVERIFY2(run.errors.startsWith(u"tesselctl: 3 layouts will be recalled on 2 hubs"),
              qPrintable(run.errors));
     QVERIFY2(run.errors.contains(u"hears it"), qPrintable(run.errors));
-    QCOMPARE(recalls(hall.device(stage)).isEmpty(), run.exitCode != 0);
+    QCOMPARE(recalls(site.hall.device(stage)).isEmpty(), run.exitCode != 0);
     QCOMPARE(run.errors.contains(u"nothing was recalled"), run.exitCode != 0);
 }
 
 void TestWalkCommand::tableShowsLayoutsByHubsInEightyColumns()
 {
-    START_HALL;
-    hall.device(gallery)->setFault(
+    const FollowingHall site(stage, gallery);
+    site.hall.device(gallery)->setFault(
         {.exchange = Exchange::RecallCommand, .kind = FaultKind::NoEffect, .skip = 1});
-    LiveToolRun tool({walk, file.path(), yes, atOnce, shortWait});
+    LiveToolRun tool({walk, site.file.path(), yes, atOnce, shortWait});
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 1);
     const QStringList lines = run.output.split(u'\n', Qt::SkipEmptyParts);
@@ -152,12 +145,12 @@ void TestWalkCommand::tableShowsLayoutsByHubsInEightyColumns()
 
 void TestWalkCommand::resultIsKept()
 {
-    START_HALL;
-    RECALL_ON_BOTH(3);
-    hall.device(gallery)->setFault(
+    const FollowingHall site(stage, gallery);
+    recallOnBoth(site, 3);
+    site.hall.device(gallery)->setFault(
         {.exchange = Exchange::CurrentPreset, .kind = FaultKind::NoAnswer, .skip = 1});
-    const QString kept = file.beside(QStringLiteral("result.json"));
-    LiveToolRun tool({walk, file.path(), yes, atOnce, shortWait, QStringLiteral("--json"),
+    const QString kept = site.file.beside(QStringLiteral("result.json"));
+    LiveToolRun tool({walk, site.file.path(), yes, atOnce, shortWait, QStringLiteral("--json"),
                       QStringLiteral("-o"), kept});
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 1);
@@ -195,13 +188,13 @@ void TestWalkCommand::keptResultIsTakenIntoARecord()
 
 void TestWalkCommand::resultThatCannotBeKeptStopsBeforeAnythingIsHeard()
 {
-    START_HALL;
-    LiveToolRun tool(
-        {walk, file.path(), yes, atOnce, QStringLiteral("-o"), file.beside(QStringLiteral("a/b"))});
+    const FollowingHall site(stage, gallery);
+    LiveToolRun tool({walk, site.file.path(), yes, atOnce, QStringLiteral("-o"),
+                      site.file.beside(QStringLiteral("a/b"))});
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 3);
     QVERIFY2(isOneLine(run.errors) && run.errors.contains(u"a/b: "), qPrintable(run.errors));
-    QCOMPARE(hall.device(stage)->exchangeNames(), QStringList());
+    QCOMPARE(site.hall.device(stage)->exchangeNames(), QStringList());
 }
 
 void TestWalkCommand::resultDoesNotReplaceTheHall()
@@ -217,27 +210,27 @@ void TestWalkCommand::resultDoesNotReplaceTheHall()
 
 void TestWalkCommand::hubWhosePresetCouldNotBeReadIsNamed()
 {
-    START_HALL;
-    RECALL_ON_BOTH(2);
-    hall.device(gallery)->setFault(
+    const FollowingHall site(stage, gallery);
+    recallOnBoth(site, 2);
+    site.hall.device(gallery)->setFault(
         {.exchange = Exchange::CurrentPreset, .kind = FaultKind::NoAnswer, .times = 1});
-    LiveToolRun tool({walk, file.path(), yes, atOnce, shortWait});
+    LiveToolRun tool({walk, site.file.path(), yes, atOnce, shortWait});
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: Gallery (127.33.1.2): which preset was "
                                                 "active before could not be read")),
              qPrintable(run.errors));
-    QCOMPARE(hall.device(stage)->currentPreset(), 2);
-    QCOMPARE(hall.device(gallery)->currentPreset(), 3);
+    QCOMPARE(site.hall.device(stage)->currentPreset(), 2);
+    QCOMPARE(site.hall.device(gallery)->currentPreset(), 3);
 }
 
 void TestWalkCommand::hubThatDoesNotGoBackIsNamed()
 {
-    START_HALL;
-    RECALL_ON_BOTH(2);
-    hall.device(gallery)->setFault(
+    const FollowingHall site(stage, gallery);
+    recallOnBoth(site, 2);
+    site.hall.device(gallery)->setFault(
         {.exchange = Exchange::RecallCommand, .kind = FaultKind::ErrorAnswer, .skip = 3});
-    LiveToolRun tool({walk, file.path(), yes, atOnce, shortWait});
+    LiveToolRun tool({walk, site.file.path(), yes, atOnce, shortWait});
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: Gallery (127.33.1.2): preset 2 was "
@@ -247,77 +240,78 @@ void TestWalkCommand::hubThatDoesNotGoBackIsNamed()
 
 void TestWalkCommand::interruptionRestoresFirst()
 {
-    START_HALL;
-    RECALL_ON_BOTH(2);
-    LiveToolRun tool({walk, file.path(), yes, someSettle});
-    QTRY_COMPARE_WITH_TIMEOUT(hall.device(stage)->currentPreset(), 1, 30000);
-    QTRY_COMPARE_WITH_TIMEOUT(hall.device(gallery)->currentPreset(), 1, 30000);
+    const FollowingHall site(stage, gallery);
+    recallOnBoth(site, 2);
+    LiveToolRun tool({walk, site.file.path(), yes, someSettle});
+    QTRY_COMPARE_WITH_TIMEOUT(site.hall.device(stage)->currentPreset(), 1, 30000);
+    QTRY_COMPARE_WITH_TIMEOUT(site.hall.device(gallery)->currentPreset(), 1, 30000);
     tool.interrupt();
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 1);
-    QCOMPARE(recalls(hall.device(stage)).join(u' '), QStringLiteral("1 2"));
-    QCOMPARE(hall.device(gallery)->currentPreset(), 2);
+    QCOMPARE(recalls(site.hall.device(stage)).join(u' '), QStringLiteral("1 2"));
+    QCOMPARE(site.hall.device(gallery)->currentPreset(), 2);
     QVERIFY2(run.errors.contains(u"interrupted: "), qPrintable(run.errors));
     QVERIFY2(run.output.contains(u"not tried"), qPrintable(run.output));
 }
 
 void TestWalkCommand::closedTerminalRestoresFirst()
 {
-    START_HALL;
-    RECALL_ON_BOTH(2);
-    LiveToolRun tool({walk, file.path(), yes, someSettle});
-    QTRY_COMPARE_WITH_TIMEOUT(hall.device(stage)->currentPreset(), 1, 30000);
-    QTRY_COMPARE_WITH_TIMEOUT(hall.device(gallery)->currentPreset(), 1, 30000);
+    const FollowingHall site(stage, gallery);
+    recallOnBoth(site, 2);
+    LiveToolRun tool({walk, site.file.path(), yes, someSettle});
+    QTRY_COMPARE_WITH_TIMEOUT(site.hall.device(stage)->currentPreset(), 1, 30000);
+    QTRY_COMPARE_WITH_TIMEOUT(site.hall.device(gallery)->currentPreset(), 1, 30000);
     tool.closeTerminal();
     QVERIFY(tool.hasSaid(QStringLiteral("interrupted: ")));
     tool.closeTerminal();
     QCOMPARE(tool.ended().exitCode, 1);
-    QCOMPARE(recalls(hall.device(stage)).join(u' '), QStringLiteral("1 2"));
-    QCOMPARE(hall.device(gallery)->currentPreset(), 2);
+    QCOMPARE(recalls(site.hall.device(stage)).join(u' '), QStringLiteral("1 2"));
+    QCOMPARE(site.hall.device(gallery)->currentPreset(), 2);
 }
 
 void TestWalkCommand::outputThatNobodyReadsEndsNoWalk()
 {
-    START_HALL;
-    RECALL_ON_BOTH(2);
-    LiveToolRun tool({walk, file.path(), yes, atOnce}, {}, LiveToolRun::Reader::Gone);
+    const FollowingHall site(stage, gallery);
+    recallOnBoth(site, 2);
+    LiveToolRun tool({walk, site.file.path(), yes, atOnce}, {}, LiveToolRun::Reader::Gone);
     QCOMPARE(tool.ended().exitCode, 3);
-    QCOMPARE(recalls(hall.device(stage)).join(u' '), QStringLiteral("1 2 3 2"));
-    QCOMPARE(hall.device(gallery)->currentPreset(), 2);
+    QCOMPARE(recalls(site.hall.device(stage)).join(u' '), QStringLiteral("1 2 3 2"));
+    QCOMPARE(site.hall.device(gallery)->currentPreset(), 2);
 }
 
 void TestWalkCommand::secondInterruptionLeaves()
 {
-    START_HALL;
-    RECALL_ON_BOTH(2);
-    hall.device(stage)->setFault(
+    const FollowingHall site(stage, gallery);
+    recallOnBoth(site, 2);
+    site.hall.device(stage)->setFault(
         {.exchange = Exchange::RecallCommand, .kind = FaultKind::ErrorAnswer, .skip = 1});
-    LiveToolRun tool({walk, file.path(), yes, longSettle, longWait});
-    QTRY_COMPARE_WITH_TIMEOUT(hall.device(stage)->currentPreset(), 1, 30000);
+    LiveToolRun tool({walk, site.file.path(), yes, longSettle, longWait});
+    QTRY_COMPARE_WITH_TIMEOUT(site.hall.device(stage)->currentPreset(), 1, 30000);
     tool.interrupt();
     QVERIFY(tool.hasSaid(QStringLiteral("interrupted: ")));
     tool.interrupt();
     tool.ended();
     QVERIFY(tool.isKilled());
-    QCOMPARE(hall.device(stage)->currentPreset(), 1);
+    QCOMPARE(site.hall.device(stage)->currentPreset(), 1);
 }
 
 void TestWalkCommand::interruptionBeforeTheFirstLayoutRecallsNothing()
 {
-    START_HALL;
-    RECALL_ON_BOTH(2);
-    hall.device(gallery)->setFault(
+    const FollowingHall site(stage, gallery);
+    recallOnBoth(site, 2);
+    site.hall.device(gallery)->setFault(
         {.exchange = Exchange::CurrentPreset, .kind = FaultKind::NoAnswer});
-    const QString kept = file.beside(QStringLiteral("result.json"));
-    LiveToolRun tool({walk, file.path(), yes, atOnce, longWait, QStringLiteral("-o"), kept});
+    const QString kept = site.file.beside(QStringLiteral("result.json"));
+    LiveToolRun tool({walk, site.file.path(), yes, atOnce, longWait, QStringLiteral("-o"), kept});
     QTRY_VERIFY_WITH_TIMEOUT(
-        hall.device(gallery)->exchangeNames().contains(QStringLiteral("current-preset")), 30000);
+        site.hall.device(gallery)->exchangeNames().contains(QStringLiteral("current-preset")),
+        30000);
     tool.interrupt();
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 3);
     QVERIFY2(run.errors.endsWith(u"interrupted.\ntesselctl: nothing was recalled\n"),
              qPrintable(run.errors));
-    QCOMPARE(recalls(hall.device(stage)), QStringList());
+    QCOMPARE(recalls(site.hall.device(stage)), QStringList());
     const QJsonObject object = QJsonDocument::fromJson(bytesOf(kept).toUtf8()).object();
     QVERIFY(!object.value(QLatin1String("ok")).toBool(true));
     const QJsonArray hubs = object.value(QLatin1String("hubs")).toArray();
@@ -338,10 +332,10 @@ void TestWalkCommand::hubThatIsNotBackIsToldInTheResult_data()
 void TestWalkCommand::hubThatIsNotBackIsToldInTheResult()
 {
     QFETCH(const Fault, fault);
-    START_HALL;
-    RECALL_ON_BOTH(2);
-    hall.device(gallery)->setFault(fault);
-    LiveToolRun tool({walk, file.path(), yes, atOnce, shortWait, QStringLiteral("--json")});
+    const FollowingHall site(stage, gallery);
+    recallOnBoth(site, 2);
+    site.hall.device(gallery)->setFault(fault);
+    LiveToolRun tool({walk, site.file.path(), yes, atOnce, shortWait, QStringLiteral("--json")});
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 1);
     const QJsonObject object = QJsonDocument::fromJson(run.output.toUtf8()).object();
@@ -353,19 +347,19 @@ void TestWalkCommand::hubThatIsNotBackIsToldInTheResult()
 
 void TestWalkCommand::hallWhereNobodyAnswersIsLeftAlone()
 {
-    START_HALL;
+    const FollowingHall site(stage, gallery);
     for (const QString& hub : {stage, gallery}) {
-        hall.device(hub)->setFault(
+        site.hall.device(hub)->setFault(
             {.exchange = Exchange::CurrentPreset, .kind = FaultKind::NoAnswer});
     }
-    LiveToolRun tool({walk, file.path(), yes, atOnce, shortWait});
+    LiveToolRun tool({walk, site.file.path(), yes, atOnce, shortWait});
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 3);
     const QStringList lines = run.errors.split(u'\n', Qt::SkipEmptyParts);
     QCOMPARE(lines.size(), 2);
     QVERIFY2(lines.at(0).contains(u"hears it"), qPrintable(run.errors));
     QVERIFY2(lines.at(1).contains(u"no hub answered"), qPrintable(run.errors));
-    QCOMPARE(recalls(hall.device(stage)), QStringList());
+    QCOMPARE(recalls(site.hall.device(stage)), QStringList());
 }
 
 void TestWalkCommand::fileThatIsNoneIsOneLine()
