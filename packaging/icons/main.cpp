@@ -47,7 +47,7 @@ int main(int argc, char** argv)
         return complain(arguments.value(1) + QStringLiteral(": no drawing"));
     }
     for (const QString& size : arguments.mid(4)) {
-        const QString name = arguments.at(3);
+        const QString& name = arguments.at(3);
         if (size.toInt() <= 0 || !save(painted(drawing, size.toInt()), arguments.at(2), name)) {
             return complain(QStringLiteral("size %1 could not be written").arg(size));
         }
