@@ -93,6 +93,9 @@ QString InstallTalk::wordsOf(const QString& hub) const
                                                         : QStringLiteral("error");
     }
     const InstallProgress progress = m_installation->progress(hub);
+    if (progress.filesToStore == 0) {
+        return QStringLiteral("waits");
+    }
     return QStringLiteral("%1 of %2 files")
         .arg(QString::number(progress.filesStored), QString::number(progress.filesToStore));
 }

@@ -93,8 +93,8 @@ void UserPasswords::introduce(const PasswordWish& wish)
                                              : QStringLiteral(": the password is wrong")));
     }
     if (wish.isFirst) {
-        m_terminal->say(QStringLiteral("%1 has no password yet; for its first one %2")
-                            .arg(name, firstPasswordRule()));
+        m_terminal->say(name + QStringLiteral(": it has no password yet and gets its first one"));
+        m_terminal->say(firstPasswordRule());
     }
 }
 

@@ -4,7 +4,24 @@
 #include <QBuffer>
 #include <QTest>
 
+#include <memory>
+
 namespace {
+
+/// A terminal whose two streams are kept.
+struct KeptTerminal
+{
+    explicit KeptTerminal(bool isWatched)
+    {
+        data.open(QIODevice::WriteOnly);
+        talk.open(QIODevice::WriteOnly);
+        terminal = std::make_unique<Terminal>(&data, &talk, isWatched);
+    }
+
+    QBuffer data;
+    QBuffer talk;
+    std::unique_ptr<Terminal> terminal;
+};
 
 const QString name = QStringLiteral("tesselctl: ");
 
@@ -15,18 +32,14 @@ const QString longLine = QStringLiteral("hall.tessel: ") +
 /// What a line that is said looks like.
 QStringList said(const QString& line, bool isWatched)
 {
-    QBuffer data;
-    QBuffer talk;
-    data.open(QIODevice::WriteOnly);
-    talk.open(QIODevice::WriteOnly);
-    Terminal terminal(&data, &talk, isWatched);
-    terminal.say(line);
-    return QString::fromUtf8(talk.data()).split(u'\n', Qt::SkipEmptyParts);
+    KeptTerminal kept(isWatched);
+    kept.terminal->say(line);
+    return QString::fromUtf8(kept.talk.data()).split(u'\n', Qt::SkipEmptyParts);
 }
 
 } // namespace
 
-/// What commands say.
+/// What commands say, and what stands at the bottom of a terminal meanwhile.
 class TestTerminal : public TestCase
 {
     Q_OBJECT
@@ -35,6 +48,11 @@ private Q_SLOTS:
     void whatAPersonWatchesFitsTheTerminal();
     void whatIsReadByAProgramIsOneLine();
     void whatATerminalWouldActUponIsShownAsAMark();
+    void whatIsSaidStandsAboveTheQuestion();
+    void whatIsDrawnIsDrawnOver();
+    void whatWasLetGoStays();
+    void nothingIsDrawnWhereNobodyWatches();
+    void charactersThatActOnTerminalsAreNotDrawn();
 };
 
 void TestTerminal::whatAPersonWatchesFitsTheTerminal()
@@ -61,6 +79,49 @@ void TestTerminal::whatATerminalWouldActUponIsShownAsAMark()
         QCOMPARE(said(QStringLiteral("a\x1b[2Jb\nc"), isWatched),
                  QStringList(name + QStringLiteral("a?[2Jb?c")));
     }
+}
+
+void TestTerminal::whatIsSaidStandsAboveTheQuestion()
+{
+    KeptTerminal kept(true);
+    kept.terminal->ask(QStringLiteral("who? "));
+    kept.terminal->say(QStringLiteral("news"));
+    QCOMPARE(kept.talk.data(), QByteArray("tesselctl: who? \r\x1b[Jtesselctl: news\n"
+                                          "tesselctl: who? "));
+}
+
+void TestTerminal::whatIsDrawnIsDrawnOver()
+{
+    KeptTerminal kept(true);
+    kept.terminal->draw({QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")});
+    kept.terminal->draw({QStringLiteral("four")});
+    QCOMPARE(kept.talk.data(), QByteArray("one\ntwo\nthree\r\x1b[2A\x1b[Jfour"));
+}
+
+void TestTerminal::whatWasLetGoStays()
+{
+    KeptTerminal kept(true);
+    kept.terminal->draw({QStringLiteral("bar")});
+    kept.terminal->letGo();
+    kept.terminal->letGo();
+    kept.terminal->say(QStringLiteral("end"));
+    QCOMPARE(kept.talk.data(), QByteArray("bar\ntesselctl: end\n"));
+}
+
+void TestTerminal::nothingIsDrawnWhereNobodyWatches()
+{
+    KeptTerminal kept(false);
+    kept.terminal->draw({QStringLiteral("bar")});
+    kept.terminal->ask(QStringLiteral("who? "));
+    kept.terminal->letGo();
+    QCOMPARE(kept.talk.data(), QByteArray("tesselctl: who? \n"));
+}
+
+void TestTerminal::charactersThatActOnTerminalsAreNotDrawn()
+{
+    KeptTerminal kept(true);
+    kept.terminal->draw({QStringLiteral("a\x1b[2Jb")});
+    QCOMPARE(kept.talk.data(), QByteArray("a?[2Jb"));
 }
 
 TESSEL_TEST_MAIN(TestTerminal)
