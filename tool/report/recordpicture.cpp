@@ -13,7 +13,7 @@
 
 namespace {
 
-// Three times what the wizard shows: 300 dots per inch at the size of a page's width.
+// At the sizes that the page gives them at least 300 dots per inch.
 constexpr GridGeometry drawnGeometry{.gap = 6, .cellSize = 120};
 constexpr GridGeometry combinedGeometry{.gap = 6, .cellSize = 72};
 constexpr int sampleSide = 72;
