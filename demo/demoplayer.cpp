@@ -94,9 +94,13 @@ std::optional<DemoScenario> readScenario()
     return DemoScenario(devices);
 }
 
-void startPlaying()
+void watchWarnings()
 {
     qInstallMessageHandler(watchMessages);
+}
+
+void startPlaying()
+{
     QTimer::singleShot(0, walk);
 }
 

@@ -63,6 +63,7 @@ int main(int argc, char** argv)
     if (isCheck(argc, argv)) {
         return checkHubs(argc, argv);
     }
+    watchWarnings();
     const int result = runWizard(argc, argv);
     return wasPlayedWell() ? result : 1;
 }

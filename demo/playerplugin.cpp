@@ -27,6 +27,7 @@ class PlayerPlugin : public QGenericPlugin
 public:
     QObject* create(const QString& /*name*/, const QString& /*spec*/) override
     {
+        watchWarnings();
         startPlaying();
         qAddPostRoutine(endAsPlayed);
         return new QObject;
