@@ -20,6 +20,8 @@ endif()
 # What is delivered is hardened as Debian hardens its own programs. Every release build is, so that
 # what was tested and measured is what is delivered.
 if(UNIX AND NOT APPLE)
+    target_compile_options(tessel_options INTERFACE
+        "$<$<CONFIG:Release>:-fstack-protector-strong;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
     target_link_options(tessel_options INTERFACE "$<$<CONFIG:Release>:-Wl,-z,relro,-z,now>")
 endif()
 

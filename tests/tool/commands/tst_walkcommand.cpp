@@ -172,13 +172,13 @@ void TestWalkCommand::resultIsKept()
 
 void TestWalkCommand::keptResultIsTakenIntoARecord()
 {
-    START_HALL;
-    RECALL_ON_BOTH(1);
-    const QString kept = file.beside(QStringLiteral("result.json"));
-    const QString record = file.beside(QStringLiteral("hall.html"));
-    LiveToolRun tool({walk, file.path(), yes, atOnce, QStringLiteral("-o"), kept});
+    const FollowingHall site(stage, gallery);
+    recallOnBoth(site, 1);
+    const QString kept = site.file.beside(QStringLiteral("result.json"));
+    const QString record = site.file.beside(QStringLiteral("hall.html"));
+    LiveToolRun tool({walk, site.file.path(), yes, atOnce, QStringLiteral("-o"), kept});
     QCOMPARE(tool.ended().exitCode, 0);
-    LiveToolRun report({QStringLiteral("report"), file.path(), QStringLiteral("-o"), record,
+    LiveToolRun report({QStringLiteral("report"), site.file.path(), QStringLiteral("-o"), record,
                         QStringLiteral("--walk"), kept});
     const ToolRun run = report.ended();
     QCOMPARE(run.errors, QString());
