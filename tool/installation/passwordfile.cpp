@@ -1,7 +1,8 @@
 #include "passwordfile.h"
 
+#include "devicetexts.h"
+
 #include <QFile>
-#include <QHostAddress>
 #include <QStringDecoder>
 #include <QStringList>
 
@@ -27,12 +28,6 @@ QString openness(const QFile& file)
 #endif
 }
 
-bool isAddress(const QString& text)
-{
-    const QHostAddress address(text);
-    return address.protocol() == QAbstractSocket::IPv4Protocol && address.toString() == text;
-}
-
 bool isPassedOver(const QString& line)
 {
     return line.startsWith(u'#') || line.trimmed().isEmpty();
@@ -46,7 +41,7 @@ QString taken(const QString& line, QHash<QString, QString>& passwords)
         ++blank;
     }
     const QString address = line.left(blank);
-    if (!isAddress(address)) {
+    if (!isIpv4Address(address)) {
         return QStringLiteral("it does not begin with an IPv4 address");
     }
     if (blank == line.size()) {
