@@ -52,5 +52,8 @@ int runWizard(int& argc, char** argv)
     window.show();
     const int code = QApplication::exec();
     HttpConnection::writeTo(nullptr);
+    if (!log.isWhole()) {
+        writeToErrors(QStringLiteral("tessel: %1 is not complete: %2\n").arg(logFile, log.error()));
+    }
     return code;
 }

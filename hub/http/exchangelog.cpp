@@ -46,6 +46,6 @@ void ExchangeLog::write(const QString& address, const QString& requestLine,
     if (isReply) {
         line.insert(QStringLiteral("line"), message.firstLine);
     }
-    m_file.write(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
-    m_file.flush();
+    const QByteArray bytes = QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+    m_isWhole = m_file.write(bytes) == bytes.size() && m_file.flush() && m_isWhole;
 }

@@ -20,6 +20,9 @@ public:
     bool open();
     QString error() const { return m_file.errorString(); }
 
+    /// False once a line could not be written completely, such as on a full disk; error() says why.
+    bool isWhole() const { return m_isWhole; }
+
     void noteRequest(const QString& address, const QString& request);
     /// `requestLine` is the first line of the request that is answered.
     void noteReply(const QString& address, const QString& requestLine, const QString& reply);
@@ -30,4 +33,5 @@ private:
 
     QFile m_file;
     Blackout m_blackout;
+    bool m_isWhole = true;
 };

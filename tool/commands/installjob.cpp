@@ -107,14 +107,15 @@ ExitCode InstallJob::run()
         }
     }
     install();
+    tellOfLog();
     tendOthers();
     return m_code;
 }
 
 InstallJob::Stop InstallJob::readWait()
 {
-    const std::optional<int> waitMs =
-        millisecondsOf(*m_arguments, QStringLiteral("wait"), usualSearchMs, *m_command, *m_terminal);
+    const std::optional<int> waitMs = millisecondsOf(*m_arguments, QStringLiteral("wait"),
+                                                     usualSearchMs, *m_command, *m_terminal);
     m_waitMs = waitMs.value_or(0);
     return waitMs ? Stop() : ExitCode::WrongUsage;
 }
@@ -234,24 +235,39 @@ void InstallJob::report(const HallInstallation& installation)
         m_terminal->write(installTable(m_hubs, installation));
     }
     for (const DeviceData& hub : m_hubs) {
-        if (installation.outcome(hub.ipAddress).isInstalled) {
-            m_hasInstalled = true;
-        } else {
+        const InstallOutcome outcome = installation.outcome(hub.ipAddress);
+        const bool isRecalled = outcome.trouble == InstallTrouble::None;
+        if (!outcome.isInstalled || !isRecalled) {
             m_code = ExitCode::SomethingIsNot;
         }
+        m_hasInstalled = m_hasInstalled || outcome.isInstalled;
+        m_hasRecalled = m_hasRecalled && (!outcome.isInstalled || isRecalled);
     }
     m_isBrokenOff = installation.isBrokenOff();
+}
+
+/// A log that is wanted for a proof and is cut must not pass for a whole one.
+void InstallJob::tellOfLog()
+{
+    if (!m_log.isWhole()) {
+        m_terminal->say(
+            QStringLiteral("%1: it is not complete: %2").arg(given("log"), m_log.error()));
+        m_code = m_code == ExitCode::AllIsWell ? ExitCode::CouldNotBeTried : m_code;
+    }
 }
 
 /// The hubs that were installed are on the first layout now, whatever the others are on.
 void InstallJob::tendOthers()
 {
-    if (m_others.isEmpty() || !m_hasInstalled || m_isBrokenOff) {
+    if (m_others.isEmpty() || !m_hasInstalled) {
         return;
     }
-    m_terminal->say(QStringLiteral("what was installed is on layout %1 now, and may not fit to: %2")
+    const QString state = m_hasRecalled
+                              ? QStringLiteral("what was installed is on layout %1 now")
+                              : QStringLiteral("what was installed was told to recall layout %1");
+    m_terminal->say((state + QStringLiteral(", and may not fit to: %2"))
                         .arg(QString::number(firstLayout), namesOf(m_others)));
-    if (!m_terminal->isWatched() || !PasswordPrompt().isPossible()) {
+    if (m_isBrokenOff || !m_terminal->isWatched() || !PasswordPrompt().isPossible()) {
         m_terminal->say(QStringLiteral("all hubs on one layout: tesselctl recall %1 %2")
                             .arg(QString::number(firstLayout), shellWord(m_path)));
     } else if (isAgreedTo(

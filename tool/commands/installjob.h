@@ -39,6 +39,7 @@ private:
     void tendOthers();
 
     void report(const HallInstallation& installation);
+    void tellOfLog();
     void recallFirst();
     QString given(const char* option) const;
     Stop stop(ExitCode code, const QString& reason) const;
@@ -55,6 +56,7 @@ private:
     QHash<QString, QString> m_passwords; ///< of the file, by address
     ExchangeLog m_log;
     bool m_hasInstalled = false; ///< at least one hub
+    bool m_hasRecalled = true;   ///< all hubs that were installed did
     bool m_isBrokenOff = false;
     ExitCode m_code = ExitCode::AllIsWell;
 };

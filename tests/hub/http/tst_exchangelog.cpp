@@ -61,6 +61,7 @@ private Q_SLOTS:
     void eachRequestAndEachReplyIsALine();
     void whatIsWrittenDownGoesOutUnchanged();
     void withoutALogNothingIsWritten();
+    void logThatCouldNotBeWrittenSaysSo();
     void noMessageTellsASecret_data();
     void noMessageTellsASecret();
     void aSecretThatWasMetOnceIsBlackEverywhere();
@@ -167,6 +168,20 @@ void TestExchangeLog::withoutALogNothingIsWritten()
     connection.ask(tokenRequest());
     QTRY_COMPARE(replied.size(), 1);
     QCOMPARE(bytes(), QByteArray());
+}
+
+void TestExchangeLog::logThatCouldNotBeWrittenSaysSo()
+{
+    const QString fullDisk = QStringLiteral("/dev/full");
+    if (!QFile::exists(fullDisk)) {
+        QSKIP("This system has no disk that is always full");
+    }
+    ExchangeLog log(fullDisk);
+    QVERIFY(log.open());
+    QVERIFY(log.isWhole());
+    log.noteRequest(hub, tokenRequest());
+    QVERIFY(!log.isWhole());
+    QVERIFY(!log.error().isEmpty());
 }
 
 void TestExchangeLog::noMessageTellsASecret_data()

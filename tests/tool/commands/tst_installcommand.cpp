@@ -93,6 +93,7 @@ private Q_SLOTS:
     void wrongUsageIsOneLine();
     void passwordsThatOthersMayReadAreRefused();
     void hubAloneLeavesTheOthersAndSaysSo();
+    void hubThatRefusesTheRecallIsNotCalledOnTheLayout();
     void interruptionNamesWhatIsNotFinished();
     void passwordsAreTypedUnseen();
     void wrongPasswordIsAskedForAgain();
@@ -313,6 +314,21 @@ void TestInstallCommand::hubAloneLeavesTheOthersAndSaysSo()
              qPrintable(run.errors));
     QCOMPARE(hall.hub(stage)->recalledPreset(), 1);
     QCOMPARE(hall.hub(gallery)->exchangeNames(), QStringList());
+}
+
+void TestInstallCommand::hubThatRefusesTheRecallIsNotCalledOnTheLayout()
+{
+    START_HALL(twoHubs());
+    hall.hub(stage)->setFault(
+        {.exchange = Exchange::Recall, .kind = FaultKind::Status, .number = 503});
+    const QString passwords = file.privateFile("passwords", line(stage));
+    LiveToolRun tool({install, file.path(), noSearch, passwordsOption, passwords,
+                      QStringLiteral("--hub"), stage});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.output.contains(u"Done") && run.output.contains(u"503"), qPrintable(run.output));
+    QVERIFY2(run.errors.contains(u"was told to recall layout 1, and may not fit to: Gallery"),
+             qPrintable(run.errors));
 }
 
 void TestInstallCommand::interruptionNamesWhatIsNotFinished()
