@@ -67,6 +67,15 @@ bool enterRoot(QXmlStreamReader& reader)
     return false;
 }
 
+/// A sentence as a reason, which others are put around.
+QString withoutFullStop(QString sentence)
+{
+    if (sentence.endsWith(u'.')) {
+        sentence.chop(1);
+    }
+    return sentence;
+}
+
 /// Why a text is not read as saved work.
 QString xmlFault(const QString& text)
 {
@@ -76,7 +85,7 @@ QString xmlFault(const QString& text)
         reader.readNext();
     }
     if (reader.hasError()) {
-        return at(textLine(reader.lineNumber()), reader.errorString());
+        return at(textLine(reader.lineNumber()), withoutFullStop(reader.errorString()));
     }
     return at(textLine(1), isOurs
                                ? translated("it names no page of the wizard, or nests too deeply")

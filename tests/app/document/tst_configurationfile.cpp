@@ -197,6 +197,8 @@ void TestConfigurationFile::whatCannotBeOpenedSaysWhyAndLeavesTheDocumentAsItIs_
         bytesOfXml("<Tessel Page='7'><RoomInfoList><RoomInfo Number='1' PosList='{0,0}'/>"
                    "</RoomInfoList><CurtainList/></Tessel>"),
         QStringLiteral("line 1 of its text: it holds something that this version does not know"));
+    row("tags that do not match", bytesOfXml("<Tessel Page='7'>\n<RoomInfoList></Tessel>"),
+        QStringLiteral("line 2 of its text: Opening and ending tag mismatch"));
     row("cut in its text", whole.first(100),
         QStringLiteral("byte 100: the file ends here, in the middle of its text"));
     row("cut in its pictures", whole.chopped(1),
