@@ -1,5 +1,6 @@
 #include "configuration.h"
 
+#include "leftoutline.h"
 #include "resumefile.h"
 #include "resumeforms.h"
 #include "resumexml.h"
@@ -29,6 +30,11 @@ QString at(const QString& place, const QString& reason)
 QString byte(qsizetype number)
 {
     return translated("byte %1").arg(number);
+}
+
+QString textLine(qint64 number)
+{
+    return translated("line %1 of its text").arg(number);
 }
 
 QString noConfiguration()
@@ -61,6 +67,15 @@ bool enterRoot(QXmlStreamReader& reader)
     return false;
 }
 
+/// A sentence as a reason, which others are put around.
+QString withoutFullStop(QString sentence)
+{
+    if (sentence.endsWith(u'.')) {
+        sentence.chop(1);
+    }
+    return sentence;
+}
+
 /// Why a text is not read as saved work.
 QString xmlFault(const QString& text)
 {
@@ -69,13 +84,21 @@ QString xmlFault(const QString& text)
     while (isOurs && !reader.atEnd()) {
         reader.readNext();
     }
-    const QString line = translated("line %1 of its text");
     if (reader.hasError()) {
-        return at(line.arg(reader.lineNumber()), reader.errorString());
+        return at(textLine(reader.lineNumber()), withoutFullStop(reader.errorString()));
     }
-    return at(line.arg(1), isOurs
+    return at(textLine(1), isOurs
                                ? translated("it names no page of the wizard, or nests too deeply")
                                : noConfiguration());
+}
+
+/// Whether all that a text says is in the work that was read from it.
+QString lossFault(const QString& text, const SavedWork& work)
+{
+    const std::optional<qint64> line = firstLineLeftOut(text, writeResumeXml(work));
+    return line ? at(textLine(*line),
+                     translated("it holds something that this version does not know"))
+                : QString();
 }
 
 /// Whether there are as many pictures as the file announces, and nothing behind them. `length` is
@@ -107,10 +130,9 @@ ConfigurationReading unpacked(const QByteArray& bytes)
     if (!work) {
         return {{}, xmlFault(content->xml)};
     }
+    const QString loss = lossFault(content->xml, *work);
     return {Configuration{*work, content->scenes},
-            work->hasForeignElement
-                ? translated("it holds something that this version does not know")
-                : pictureFault(bytes, *content, length)};
+            loss.isEmpty() ? pictureFault(bytes, *content, length) : loss};
 }
 
 } // namespace

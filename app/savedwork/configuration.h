@@ -24,6 +24,8 @@ struct ConfigurationReading
 };
 
 /// Reads a file that the wizard has written, whatever its name. The reader's limits are those of
-/// unpackResumeFile() and readResumeXml(). Damage behind the text, and a foreign element in it, are
-/// faults of the file that leave something to be read: whether that will do is up to the caller.
+/// unpackResumeFile() and readResumeXml(). Damage behind the text, and whatever the text
+/// says that the limits or this version leave out (an unknown element or attribute, an impossible
+/// value), are faults of the file that leave something to be read: whether that will do is up to
+/// the caller. A record without an attribute is read; it keeps its default.
 ConfigurationReading readConfiguration(const QString& path);

@@ -76,6 +76,11 @@ private Q_SLOTS:
     void aMissingDeviceOfNoRoomIsNotToldOf();
     void whatCannotBeOpenedSaysWhyAndLeavesTheDocumentAsItIs_data();
     void whatCannotBeOpenedSaysWhyAndLeavesTheDocumentAsItIs();
+    void whatWouldBeLeftOutInsideAListIsAFault_data();
+    void whatWouldBeLeftOutInsideAListIsAFault();
+    void moreLayoutsThanAreReadAreAFault();
+    void whatIsWrittenInAnotherWayIsNoFault();
+    void whateverNamesHoldTheFileIsWhole();
     void thePathIsKnownWhereverTheProgramWorks();
     void readingLeavesTheFileAsItIs();
 
@@ -191,7 +196,9 @@ void TestConfigurationFile::whatCannotBeOpenedSaysWhyAndLeavesTheDocumentAsItIs_
     row("of a later version",
         bytesOfXml("<Tessel Page='7'><RoomInfoList><RoomInfo Number='1' PosList='{0,0}'/>"
                    "</RoomInfoList><CurtainList/></Tessel>"),
-        QStringLiteral("it holds something that this version does not know"));
+        QStringLiteral("line 1 of its text: it holds something that this version does not know"));
+    row("tags that do not match", bytesOfXml("<Tessel Page='7'>\n<RoomInfoList></Tessel>"),
+        QStringLiteral("line 2 of its text: Opening and ending tag mismatch"));
     row("cut in its text", whole.first(100),
         QStringLiteral("byte 100: the file ends here, in the middle of its text"));
     row("cut in its pictures", whole.chopped(1),
@@ -213,6 +220,89 @@ void TestConfigurationFile::whatCannotBeOpenedSaysWhyAndLeavesTheDocumentAsItIs(
     QVERIFY(file.holdsMore());
     QCOMPARE(roomCount(doc), 0);
     QCOMPARE(pageIndex(doc), 0);
+}
+
+void TestConfigurationFile::whatWouldBeLeftOutInsideAListIsAFault_data()
+{
+    QTest::addColumn<QString>("good");
+    QTest::addColumn<QString>("bad");
+    const auto row = [](const char* name, const char* good, const char* bad) {
+        QTest::newRow(name) << QString::fromLatin1(good) << QString::fromLatin1(bad);
+    };
+    row("another element than a device", "<DeviceData ", "<GatewayData ");
+    row("another element than a room", "<RoomInfo ", "<RoomInfoX ");
+    row("another element than a layout", "<SceneInfo ", "<Scene ");
+    row("an unknown attribute of a device", " MacAddress=", " MacAdress=");
+    row("one more attribute of a device", " MacAddress=", " Floor=\"3\" MacAddress=");
+    row("an attribute of a list", "<RoomInfoList", "<RoomInfoList Floor=\"3\"");
+    row("an attribute of the root", "<Tessel ", "<Tessel Version=\"9\" ");
+    row("an impossible room of a device", " Room=\"1\"", " Room=\"9\"");
+    row("no number", " Room=\"1\"", " Room=\"one\"");
+    row("an impossible room", "<RoomInfo Number=\"2\"", "<RoomInfo Number=\"5\"");
+    row("a cell off the grid", "{0,0}", "{0,8}");
+    row("neither yes nor no", " Remove=\"1\"", " Remove=\"true\"");
+    row("an impossible window", " Width=\"900\"", " Width=\"-900\"");
+    row("a text", "<RoomInfoList>", "more<RoomInfoList>");
+    row("an element in a room", "{1,7}\"/>", "{1,7}\"><Door/></RoomInfo>");
+}
+
+void TestConfigurationFile::whatWouldBeLeftOutInsideAListIsAFault()
+{
+    QFETCH(const QString, good);
+    QFETCH(const QString, bad);
+    ResumeFile content = *unpackResumeFile(bytesOf(m_path));
+    const qsizetype place = content.xml.indexOf(good);
+    QVERIFY2(place >= 0, qPrintable(content.xml));
+    content.xml.replace(place, good.size(), bad);
+    QVERIFY(writeBytes(m_path, packResumeFile(content)));
+    TesselDoc doc(nullptr);
+    ConfigurationFile file(&doc, m_path);
+    QVERIFY(!file.read());
+    QCOMPARE(file.fault(),
+             QStringLiteral("line %1 of its text: it holds something that this version does not "
+                            "know")
+                 .arg(content.xml.first(place).count(u'\n') + 1));
+    QVERIFY(file.holdsMore());
+}
+
+void TestConfigurationFile::moreLayoutsThanAreReadAreAFault()
+{
+    ResumeFile content = *unpackResumeFile(bytesOf(m_path));
+    content.xml.replace(QStringLiteral(" </SceneInfoList>"),
+                        QStringLiteral("<SceneInfo Number=\"3\" RoomGroup=\"1\"/>").repeated(99) +
+                            QStringLiteral(" </SceneInfoList>"));
+    QVERIFY(writeBytes(m_path, packResumeFile(content)));
+    TesselDoc doc(nullptr);
+    ConfigurationFile file(&doc, m_path);
+    QVERIFY(!file.read());
+}
+
+void TestConfigurationFile::whatIsWrittenInAnotherWayIsNoFault()
+{
+    const char* text = "<?xml version='1.0'?><!-- of an earlier version -->\n\n"
+                       "<Tessel   Page='7'><RoomInfoList><RoomInfo PosList='&#123;0,0}' Number='1'>"
+                       "</RoomInfo></RoomInfoList><DeviceSetInfoList>\n<DeviceSetInfo IP='10.0.0.1'"
+                       " SceneNumber='1' DeviceSetNumber='1'/></DeviceSetInfoList></Tessel>";
+    QVERIFY(writeBytes(m_path, packResumeFile({QString::fromLatin1(text), {}})));
+    TesselDoc doc(nullptr);
+    ConfigurationFile file(&doc, m_path);
+    QVERIFY2(file.read(), qPrintable(file.fault()));
+}
+
+void TestConfigurationFile::whateverNamesHoldTheFileIsWhole()
+{
+    TesselDoc before(nullptr);
+    FoundDevice odd = deviceAtAddress(hub);
+    for (char16_t unit = 0; unit < 0x100; ++unit) {
+        odd.label += QChar(unit);
+    }
+    odd.label += QString::fromUcs4(U"\U0001F50A") + QChar(0xD800) + QChar(0xFFFE);
+    odd.macAddress = QStringLiteral(" \t\r\n ");
+    QVERIFY(addDevice(before, odd));
+    QVERIFY(before.saveResume(m_path));
+    TesselDoc doc(nullptr);
+    ConfigurationFile file(&doc, m_path);
+    QVERIFY2(file.read(), qPrintable(file.fault()));
 }
 
 void TestConfigurationFile::thePathIsKnownWhereverTheProgramWorks()

@@ -89,7 +89,11 @@ void TestHallFile::whatIsNoHallIsRefusedWithPlaceAndReason_data()
     row("a document type", fileOf("<!DOCTYPE a [<!ENTITY b \"c\">]><Tessel Page=\"1\"/>"),
         "this is no configuration");
     row("foreign element", fileOf("<Tessel Page=\"1\"><Later/></Tessel>"),
-        "something that this version does not know");
+        "line 1 of its text: it holds something that this version does not know");
+    row("a device of another name",
+        fileOf("<Tessel Page=\"1\">\n<DeviceDataList>\n<GatewayData IP=\"10.0.0.1\"/>\n"
+               "</DeviceDataList></Tessel>"),
+        "line 3 of its text: it holds something that this version does not know");
 }
 
 void TestHallFile::whatIsNoHallIsRefusedWithPlaceAndReason()
