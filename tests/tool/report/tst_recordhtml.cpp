@@ -5,10 +5,17 @@
 #include "recordmarkup.h"
 #include "testcase.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QBuffer>
 #include <QDomDocument>
 #include <QImage>
+#include <QPdfWriter>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTextDocument>
+#include <QTextFrame>
+#include <QTextLayout>
+#include <QTextTable>
 
 namespace {
 
@@ -36,6 +43,36 @@ QStringList textsOf(const QDomDocument& page, const char* tag)
     return texts;
 }
 
+/// Lays a page out as the PDF does on the narrowest paper.
+void layOut(QTextDocument& document, const QString& html, QPdfWriter& writer)
+{
+    writer.setResolution(600);
+    writer.setPageMargins(QMarginsF(18, 15, 15, 12), QPageLayout::Millimeter);
+    document.setDocumentMargin(0);
+    document.documentLayout()->setPaintDevice(&writer);
+    document.setHtml(html);
+    for (QTextFrame* frame : document.rootFrame()->childFrames()) {
+        QTextFrameFormat format = frame->frameFormat();
+        format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+        frame->setFrameFormat(format);
+    }
+    document.setTextWidth(writer.width());
+}
+
+/// The columns of a table whose titles need more than a line.
+QStringList wrappedTitles(const QTextTable& table)
+{
+    QStringList titles;
+    const bool hasTitles = table.format().headerRowCount() > 0;
+    for (int column = 0; hasTitles && column < table.columns(); ++column) {
+        const QTextBlock title = table.cellAt(0, column).firstCursorPosition().block();
+        if (title.layout()->lineCount() > 1) {
+            titles.append(title.text());
+        }
+    }
+    return titles;
+}
+
 } // namespace
 
 /// The record of a hall as a page.
@@ -50,6 +87,7 @@ private Q_SLOTS:
     void headingsLeadThroughRoomsAndLayouts();
     void everyColumnAndRowHasItsTitle();
     void aDeviceHasItsFirmwareOrIsNotRecorded();
+    void noTitleOfAColumnNeedsTwoLines();
     void picturesAreSharpAndSaidInWords();
     void presetsUsesAndRemovedDevicesAreNamed();
     void brokenLimitsAreToldFirst();
@@ -172,6 +210,20 @@ void TestRecordHtml::aDeviceHasItsFirmwareOrIsNotRecorded()
     QCOMPARE(cells.count(QStringLiteral("not recorded")), 7 * 2 + 1);
     QVERIFY(cells.contains(QStringLiteral("2.1.7")));
     QVERIFY(cells.contains(QStringLiteral("Y77")));
+}
+
+void TestRecordHtml::noTitleOfAColumnNeedsTwoLines()
+{
+    QBuffer pdf;
+    QVERIFY(pdf.open(QIODevice::WriteOnly));
+    QPdfWriter writer(&pdf);
+    QTextDocument document;
+    layOut(document, html(), writer);
+    for (QTextFrame* frame : document.rootFrame()->childFrames()) {
+        if (const auto* table = qobject_cast<QTextTable*>(frame)) {
+            QCOMPARE(wrappedTitles(*table).join(u'|'), QString());
+        }
+    }
 }
 
 void TestRecordHtml::picturesAreSharpAndSaidInWords()
