@@ -9,10 +9,25 @@ namespace {
 
 namespace Key = ResultKey;
 
+/// The second port of a hub is nothing wrong: the hub is listed under its other address.
+bool isRefused(const QString& verdict)
+{
+    return !verdict.isEmpty() && verdict != u"taken" && verdict != u"second-port";
+}
+
 FoundDevice deviceFrom(JsonFields fields)
 {
-    return {fields.requiredText(Key::address()), fields.text(Key::mac()),
-            fields.text(Key::firmware()), fields.text(Key::serial())};
+    FoundDevice device{fields.requiredText(Key::address()),
+                       fields.text(Key::mac()),
+                       fields.text(Key::firmware()),
+                       fields.text(Key::serial()),
+                       {}};
+    const QString verdict = fields.text(Key::verdict());
+    const QString reason = fields.text(Key::reason(), verdict);
+    if (isRefused(verdict)) {
+        device.refusal = reason;
+    }
+    return device;
 }
 
 } // namespace

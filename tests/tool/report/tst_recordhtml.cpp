@@ -202,14 +202,16 @@ void TestRecordHtml::everyColumnAndRowHasItsTitle()
 void TestRecordHtml::aDeviceHasItsFirmwareOrIsNotRecorded()
 {
     QCOMPARE(textsOf(parsed(html()), "td").count(QStringLiteral("not recorded")), 8 * 2 + 1);
-    m_record.found.emplace(
-        m_hall->data(),
-        QList<FoundDevice>{{QStringLiteral("127.0.1.1"), QStringLiteral("02:1A:FF:00:00:01"),
-                            QStringLiteral("2.1.7"), QStringLiteral("Y77")}});
+    m_record.found.emplace(m_hall->data(), QList<FoundDevice>{{QStringLiteral("127.0.1.1"),
+                                                               QStringLiteral("02:1A:FF:00:00:01"),
+                                                               QStringLiteral("2.1.7"),
+                                                               QStringLiteral("Y77"),
+                                                               {}}});
     const QStringList cells = textsOf(parsed(html()), "td");
     QCOMPARE(cells.count(QStringLiteral("not recorded")), 7 * 2 + 1);
     QVERIFY(cells.contains(QStringLiteral("2.1.7")));
     QVERIFY(cells.contains(QStringLiteral("Y77")));
+    QCOMPARE(textsOf(parsed(html()), "li").size(), 6); // whoever did not answer
 }
 
 void TestRecordHtml::noTitleOfAColumnNeedsTwoLines()
