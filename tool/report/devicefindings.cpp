@@ -57,7 +57,15 @@ QString DeviceFindings::remarkOn(const DeviceData& device) const
                               "%2")
             .arg(hubName(device), there.macAddress);
     }
-    return {};
+    // What stands in no room may be switched off or stay away.
+    if (device.roomNumber == 0) {
+        return {};
+    }
+    if (found.address.isEmpty()) {
+        return QStringLiteral("%1: it did not answer the search").arg(hubName(device));
+    }
+    return found.refusal.isEmpty() ? QString()
+                                   : QStringLiteral("%1: %2").arg(hubName(device), found.refusal);
 }
 
 /// A hub may be found at its other port too, which is nothing strange.

@@ -19,7 +19,8 @@ public:
     /// What was found of a device of the hall; empty when nothing was.
     FoundDevice of(const DeviceData& device) const;
 
-    /// The devices of the hall of which another one, or another address, was found; a line each.
+    /// The devices of the hall of which another one, or another address, was found, and those in
+    /// rooms that did not answer or are refused; a line each.
     const QStringList& remarks() const { return m_remarks; }
 
     /// The addresses of what was found and is not in the hall.

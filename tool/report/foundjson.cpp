@@ -3,13 +3,31 @@
 #include "jsonfields.h"
 #include "jsontext.h"
 #include "jsontime.h"
+#include "resultkeys.h"
 
 namespace {
 
+namespace Key = ResultKey;
+
+/// The second port of a hub is nothing wrong: the hub is listed under its other address.
+bool isRefused(const QString& verdict)
+{
+    return !verdict.isEmpty() && verdict != u"taken" && verdict != u"second-port";
+}
+
 FoundDevice deviceFrom(JsonFields fields)
 {
-    return {fields.requiredText(QStringLiteral("address")), fields.text(QStringLiteral("mac")),
-            fields.text(QStringLiteral("firmware")), fields.text(QStringLiteral("serial"))};
+    FoundDevice device{fields.requiredText(Key::address()),
+                       fields.text(Key::mac()),
+                       fields.text(Key::firmware()),
+                       fields.text(Key::serial()),
+                       {}};
+    const QString verdict = fields.text(Key::verdict());
+    const QString reason = fields.text(Key::reason(), verdict);
+    if (isRefused(verdict)) {
+        device.refusal = reason;
+    }
+    return device;
 }
 
 } // namespace
@@ -23,15 +41,14 @@ FoundReading readFoundJson(const QByteArray& text)
     }
     QStringList faults;
     JsonFields fields(root, QString(), &faults);
-    const QString devices = QStringLiteral("devices");
-    if (!fields.has(devices)) {
-        fields.fault(devices, QStringLiteral("this is missing"));
+    if (!fields.has(Key::devices())) {
+        fields.fault(Key::devices(), QStringLiteral("this is missing"));
     }
-    reading.date = timeFrom(fields, QStringLiteral("begun")).date();
-    const QJsonArray items = fields.list(devices);
+    reading.date = timeFrom(fields, Key::begun()).date();
+    const QJsonArray items = fields.list(Key::devices());
     for (qsizetype index = 0; index < items.size() && faults.isEmpty(); ++index) {
         reading.devices.append(
-            deviceFrom({items.at(index), itemPlace(u'.' + devices, index), &faults}));
+            deviceFrom({items.at(index), itemPlace(u'.' + Key::devices(), index), &faults}));
     }
     reading.fault = faults.value(0);
     return reading;

@@ -12,6 +12,7 @@ struct FoundDevice
     QString macAddress;   ///< empty when it never told its identity, as the rest may be
     QString firmware;     ///< as it told it
     QString serialNumber; ///< likewise
+    QString refusal;      ///< why the wizard does not take it; empty when it does
 };
 
 /// What a search has found.

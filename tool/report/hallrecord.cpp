@@ -2,6 +2,8 @@
 
 #include "hallfaults.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr qsizetype maxNamed = 5;

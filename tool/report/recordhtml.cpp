@@ -148,12 +148,12 @@ QString deviceTable(const HallRecord& record, const QList<const DeviceData*>& de
     for (const DeviceData* device : devices) {
         rows += deviceRow(record, *device);
     }
-    return table({{QStringLiteral("Device"), 22},
+    return table({{QStringLiteral("Device"), 20},
                   {QStringLiteral("Model"), 12},
                   {QStringLiteral("MAC address"), 21},
                   {QStringLiteral("Address"), 17},
                   {QStringLiteral("Firmware"), 13},
-                  {QStringLiteral("Serial number"), 15}},
+                  {QStringLiteral("Serial number"), 17}},
                  rows);
 }
 

@@ -62,6 +62,25 @@ void paintHatching(QPainter& painter, const QRect& area, int room)
     }
 }
 
+/// A cell of a room, with its number in the painter's font. Leaves a clip behind.
+void paintCell(QPainter& painter, const QRect& cell, int room)
+{
+    painter.setClipRect(cell);
+    painter.fillRect(cell, roomColor(room, Qt::white));
+    paintHatching(painter, cell, room);
+    painter.setPen(Qt::white);
+    painter.drawText(cell, Qt::AlignCenter, QString::number(room));
+}
+
+void paintRooms(QPainter& painter, const RoomGrid& grid)
+{
+    for (int room = 1; room <= grid.highestRoom(); ++room) {
+        for (const QPoint cell : grid.cellsOf(room)) {
+            paintCell(painter, drawnGeometry.cellRect(cell), room);
+        }
+    }
+}
+
 void paintCombinedHatching(QPainter& painter, const LayoutPicture& picture,
                            const QList<QList<int>>& groups)
 {
@@ -88,8 +107,11 @@ QByteArray drawnRoomsPng(const QList<RoomInfo>& rooms)
     QImage image = canvas(drawnGeometry.side());
     {
         QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
         painter.setFont(numberFont(drawnGeometry.cellSize / 2));
-        RoomPicture(drawnGeometry).paint(painter, grid, image.rect());
+        const RoomGrid lines;
+        RoomPicture(drawnGeometry).paint(painter, lines, image.rect());
+        paintRooms(painter, grid);
     }
     return png(image);
 }
@@ -120,11 +142,8 @@ QByteArray roomSamplePng(int room)
     {
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillRect(image.rect(), roomColor(room, Qt::white));
-        paintHatching(painter, image.rect(), room);
         painter.setFont(numberFont(sampleSide * 2 / 3));
-        painter.setPen(Qt::white);
-        painter.drawText(image.rect(), Qt::AlignCenter, QString::number(room));
+        paintCell(painter, image.rect(), room);
     }
     return png(image);
 }

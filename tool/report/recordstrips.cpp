@@ -4,6 +4,7 @@
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextFrame>
+#include <QTextList>
 #include <QTextTable>
 
 #include <algorithm>
@@ -41,16 +42,31 @@ private:
         const QRectF place = m_layout.blockBoundingRect(block);
         const bool isPicture = block.text().contains(QChar::ObjectReplacementCharacter);
         const bool isHeading = block.blockFormat().headingLevel() > 0;
+        const bool isOfList = block.textList() != nullptr;
+        if (isOfList) {
+            keepLeadWithNext();
+        } else if (isHeading) {
+            m_leadBegin = m_strips.size();
+        }
         m_strips.append({{place.top(), place.bottom()}, isPicture || isHeading, {}});
+        if (isOfList) {
+            m_leadBegin = m_strips.size();
+        }
+    }
+
+    /// What leads up to a table or a list, from its heading on, is nothing without it.
+    void keepLeadWithNext()
+    {
+        for (qsizetype index = m_leadBegin; index < m_strips.size(); ++index) {
+            m_strips[index].isKeptWithNext = true;
+        }
     }
 
     void addTable(const QTextTable& table)
     {
         const QRectF place = m_layout.frameBoundingRect(const_cast<QTextTable*>(&table));
         const int headRows = std::min(table.format().headerRowCount(), table.rows() - 1);
-        if (!m_strips.isEmpty()) {
-            m_strips.last().isKeptWithNext = true;
-        }
+        keepLeadWithNext();
         // The titles are one piece with the first row below them.
         qreal top = place.top();
         std::optional<Span> head;
@@ -65,6 +81,7 @@ private:
             }
             top = bottom;
         }
+        m_leadBegin = m_strips.size();
     }
 
     /// The space below a piece may reach into the next one.
@@ -87,6 +104,7 @@ private:
     const QAbstractTextDocumentLayout& m_layout;
     qreal m_scale;
     QList<Strip> m_strips;
+    qsizetype m_leadBegin = 0; ///< of what leads up to the next table or list
 };
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "roomgroup.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 

@@ -3,10 +3,13 @@
 #include "jsonfields.h"
 #include "jsontext.h"
 #include "jsontime.h"
+#include "resultkeys.h"
 
 #include <limits>
 
 namespace {
+
+namespace Key = ResultKey;
 
 constexpr int maxNumber = std::numeric_limits<int>::max();
 
@@ -29,26 +32,25 @@ QJsonArray requiredList(JsonFields& fields, const QString& key)
 
 WalkedHub hubFrom(JsonFields fields)
 {
-    return {fields.requiredText(QStringLiteral("address")),
-            fields.text(QStringLiteral("label")),
-            fields.text(QStringLiteral("mac")),
-            presetFrom(fields, QStringLiteral("before")),
-            presetFrom(fields, QStringLiteral("restored")),
-            fields.flag(QStringLiteral("back"))};
+    return {fields.requiredText(Key::address()),
+            fields.text(Key::label()),
+            fields.text(Key::mac()),
+            presetFrom(fields, Key::before()),
+            presetFrom(fields, Key::restored()),
+            fields.flag(Key::back())};
 }
 
 WalkedLayout layoutFrom(JsonFields fields, QStringList& faults)
 {
     WalkedLayout layout;
-    layout.number = fields.number(QStringLiteral("number"), 1, maxNumber, 0);
-    layout.rooms = fields.requiredText(QStringLiteral("rooms"));
-    layout.isReached = fields.flag(QStringLiteral("reached"));
-    const QString hubs = QStringLiteral("hubs");
-    const QJsonArray items = requiredList(fields, hubs);
+    layout.number = fields.number(Key::number(), 1, maxNumber, 0);
+    layout.rooms = fields.requiredText(Key::rooms());
+    layout.isReached = fields.flag(Key::reached());
+    const QJsonArray items = requiredList(fields, Key::hubs());
     for (qsizetype index = 0; index < items.size() && faults.isEmpty(); ++index) {
-        JsonFields hub(items.at(index), itemPlace(fields.place() + u'.' + hubs, index), &faults);
-        layout.presets.insert(hub.requiredText(QStringLiteral("address")),
-                              presetFrom(hub, QStringLiteral("preset")));
+        JsonFields hub(items.at(index), itemPlace(fields.place() + u'.' + Key::hubs(), index),
+                       &faults);
+        layout.presets.insert(hub.requiredText(Key::address()), presetFrom(hub, Key::preset()));
     }
     return layout;
 }
@@ -64,17 +66,17 @@ WalkReading readWalkJson(const QByteArray& text)
     }
     QStringList faults;
     JsonFields fields(root, QString(), &faults);
-    fields.requiredText(QStringLiteral("begun"));
-    reading.begun = timeFrom(fields, QStringLiteral("begun"));
-    const QJsonArray hubs = requiredList(fields, QStringLiteral("hubs"));
+    fields.requiredText(Key::begun());
+    reading.begun = timeFrom(fields, Key::begun());
+    const QJsonArray hubs = requiredList(fields, Key::hubs());
     for (qsizetype index = 0; index < hubs.size() && faults.isEmpty(); ++index) {
         reading.hubs.append(
-            hubFrom({hubs.at(index), itemPlace(QStringLiteral(".hubs"), index), &faults}));
+            hubFrom({hubs.at(index), itemPlace(u'.' + Key::hubs(), index), &faults}));
     }
-    const QJsonArray layouts = requiredList(fields, QStringLiteral("layouts"));
+    const QJsonArray layouts = requiredList(fields, Key::layouts());
     for (qsizetype index = 0; index < layouts.size() && faults.isEmpty(); ++index) {
         reading.layouts.append(layoutFrom(
-            {layouts.at(index), itemPlace(QStringLiteral(".layouts"), index), &faults}, faults));
+            {layouts.at(index), itemPlace(u'.' + Key::layouts(), index), &faults}, faults));
     }
     reading.fault = faults.value(0);
     return reading;

@@ -12,10 +12,18 @@
 
 namespace {
 
+/// A search in which all devices that stand in rooms answered.
 QByteArray sampleFind()
 {
+    QByteArray others;
+    for (const char* last : {"2", "3", "4", "5", "6", "7"}) {
+        others += QByteArray(",\n {\"address\": \"127.0.1.") + last +
+                  "\", \"mac\": \"02:1A:FF:00:00:0" + last + "\"}";
+    }
     return R"({"begun": "2026-11-20T10:00:00", "devices": [
- {"address": "127.0.1.1", "mac": "02:1A:FF:00:00:01", "firmware": "2.1.7", "serial": "Y77"}]})";
+ {"address": "127.0.1.1", "mac": "02:1A:FF:00:00:01", "firmware": "2.1.7", "serial": "Y77",
+  "verdict": "taken", "reason": "taken"})" +
+           others + "]}";
 }
 
 QByteArray sampleWalk()
@@ -85,6 +93,7 @@ private Q_SLOTS:
     void aBrokenHallIsRecordedAsSuch();
     void aWalkThatWentWrongIsARecordAllTheSame();
     void theWalkOfAnotherHallIsNamed();
+    void aDeviceThatWasNotFoundAsItShouldIsNamed();
     void devicesOfAnotherHallAreLeftOutWithALine();
     void wrongUsageIsOneLine_data();
     void wrongUsageIsOneLine();
@@ -247,14 +256,32 @@ void TestReportCommand::theWalkOfAnotherHallIsNamed()
     QVERIFY(fileAt(path("hall.html")).contains("one through another hall"));
 }
 
+void TestReportCommand::aDeviceThatWasNotFoundAsItShouldIsNamed()
+{
+    QByteArray find = changed(sampleFind(), "127.0.1.7\", \"mac\": \"02:1A:FF:00:00:07",
+                              "127.0.1.8\", \"mac\": \"02:1A:FF:00:00:08");
+    find = changed(find, "\"taken\", \"reason\": \"taken\"",
+                   "\"firmware-too-old\", \"reason\": \"firmware too old\"");
+    putFile(path("find.json"), find);
+    const ToolRun run = report(
+        {QStringLiteral("-o"), path("hall.html"), QStringLiteral("--found"), path("find.json")});
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains(u"tesselctl: Hub-1 (127.0.1.1): firmware too old\n"),
+             qPrintable(run.errors));
+    QVERIFY2(run.errors.contains(u": it did not answer the search\n"), qPrintable(run.errors));
+    QCOMPARE(run.errors.count(u'\n'), 2);
+    const QByteArray page = fileAt(path("hall.html"));
+    QVERIFY(page.contains("Not as it should be"));
+    QVERIFY(page.contains(": it did not answer the search"));
+}
+
 void TestReportCommand::devicesOfAnotherHallAreLeftOutWithALine()
 {
-    QByteArray devices;
+    QByteArray devices = sampleFind().chopped(2);
     for (int number = 1; number <= 7; ++number) {
-        devices += "{\"address\": \"127.0.9." + QByteArray::number(number) + "\"},";
+        devices += ", {\"address\": \"127.0.9." + QByteArray::number(number) + "\"}";
     }
-    devices.chop(1);
-    putFile(path("find.json"), "{\"devices\": [" + devices + "]}");
+    putFile(path("find.json"), devices + "]}");
     const ToolRun run = report(
         {QStringLiteral("-o"), path("hall.html"), QStringLiteral("--found"), path("find.json")});
     QCOMPARE(run.exitCode, 0);

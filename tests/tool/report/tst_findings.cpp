@@ -11,8 +11,29 @@ namespace {
 
 FoundDevice found(const char* address, const char* mac, const char* serial = "S")
 {
-    return {QString::fromLatin1(address), QString::fromLatin1(mac), QStringLiteral("2.1.0"),
-            QString::fromLatin1(serial)};
+    return {QString::fromLatin1(address),
+            QString::fromLatin1(mac),
+            QStringLiteral("2.1.0"),
+            QString::fromLatin1(serial),
+            {}};
+}
+
+/// A search in which every device of a hall answered as it should.
+QList<FoundDevice> rightSearch(const DocumentData& hall)
+{
+    QList<FoundDevice> devices;
+    for (const DeviceData& device : hall.devices.all()) {
+        devices.append({device.ipAddress, device.macAddress, {}, {}, {}});
+    }
+    return devices;
+}
+
+/// The same, but for one device.
+QList<FoundDevice> searchWith(const DocumentData& hall, const FoundDevice& other)
+{
+    QList<FoundDevice> devices = rightSearch(hall);
+    devices.first() = other;
+    return devices;
 }
 
 /// A walk through all of a hall in which all went well.
@@ -46,6 +67,9 @@ private Q_SLOTS:
     void anotherDeviceAtTheAddressIsNotTakenForIt();
     void aDeviceAtAnotherAddressIsNamed();
     void aDeviceWithoutMacAddressIsKnownByItsAddress();
+    void aDeviceThatDidNotAnswerIsNamed();
+    void aDeviceThatIsRefusedIsNamedWithTheReason();
+    void aDeviceInNoRoomNeedNotAnswer();
     void aDeviceOfAnotherHallIsAStranger();
     void theOtherPortOfAHubIsNoStranger();
     void aRightWalkIsRight();
@@ -76,7 +100,8 @@ void TestFindings::initTestCase()
 
 void TestFindings::aDeviceIsKnownByItsMacAddress()
 {
-    const DeviceFindings findings(hall(), {found("127.0.1.1", "02:1a:ff:00:00:01", "Y1")});
+    const DeviceFindings findings(
+        hall(), searchWith(hall(), found("127.0.1.1", "02:1a:ff:00:00:01", "Y1")));
     QCOMPARE(findings.of(device("127.0.1.1")).serialNumber, QStringLiteral("Y1"));
     QCOMPARE(findings.of(device("127.0.1.2")).serialNumber, QString());
     QVERIFY(findings.remarks().isEmpty());
@@ -85,7 +110,8 @@ void TestFindings::aDeviceIsKnownByItsMacAddress()
 
 void TestFindings::anotherDeviceAtTheAddressIsNotTakenForIt()
 {
-    const DeviceFindings findings(hall(), {found("127.0.1.1", "02:1A:FF:00:00:99", "Y1")});
+    const DeviceFindings findings(
+        hall(), searchWith(hall(), found("127.0.1.1", "02:1A:FF:00:00:99", "Y1")));
     QCOMPARE(findings.of(device("127.0.1.1")).serialNumber, QString());
     QCOMPARE(findings.remarks(),
              QStringList(QStringLiteral("Hub-1 (127.0.1.1): another device was found at this "
@@ -95,7 +121,8 @@ void TestFindings::anotherDeviceAtTheAddressIsNotTakenForIt()
 
 void TestFindings::aDeviceAtAnotherAddressIsNamed()
 {
-    const DeviceFindings findings(hall(), {found("127.0.2.1", "02:1A:FF:00:00:01", "Y1")});
+    const DeviceFindings findings(
+        hall(), searchWith(hall(), found("127.0.2.1", "02:1A:FF:00:00:01", "Y1")));
     QCOMPARE(findings.of(device("127.0.1.1")).serialNumber, QStringLiteral("Y1"));
     QCOMPARE(findings.remarks(),
              QStringList(QStringLiteral("Hub-1 (127.0.1.1): it was found at 127.0.2.1")));
@@ -106,6 +133,32 @@ void TestFindings::aDeviceWithoutMacAddressIsKnownByItsAddress()
 {
     const DeviceFindings findings(hall(), {found("127.0.1.1", "", "Y1")});
     QCOMPARE(findings.of(device("127.0.1.1")).serialNumber, QStringLiteral("Y1"));
+}
+
+void TestFindings::aDeviceThatDidNotAnswerIsNamed()
+{
+    QList<FoundDevice> devices = rightSearch(hall());
+    devices.removeFirst();
+    QCOMPARE(DeviceFindings(hall(), devices).remarks(),
+             QStringList(QStringLiteral("Hub-1 (127.0.1.1): it did not answer the search")));
+    QCOMPARE(DeviceFindings(hall(), {}).remarks().size(), 7); // all that stand in rooms
+}
+
+void TestFindings::aDeviceThatIsRefusedIsNamedWithTheReason()
+{
+    QList<FoundDevice> devices = rightSearch(hall());
+    devices.first().refusal = QStringLiteral("firmware too old: has 1.0.0, needs 2.0.0");
+    const DeviceFindings findings(hall(), devices);
+    QCOMPARE(
+        findings.remarks(),
+        QStringList(QStringLiteral("Hub-1 (127.0.1.1): firmware too old: has 1.0.0, needs 2.0.0")));
+}
+
+void TestFindings::aDeviceInNoRoomNeedNotAnswer()
+{
+    QList<FoundDevice> devices = rightSearch(hall());
+    QCOMPARE(devices.takeLast().address, QStringLiteral("127.0.1.8"));
+    QCOMPARE(DeviceFindings(hall(), devices).remarks(), QStringList());
 }
 
 void TestFindings::aDeviceOfAnotherHallIsAStranger()

@@ -10,6 +10,7 @@ class TestFoundJson : public TestCase
 
 private Q_SLOTS:
     void aSearchIsReadWithItsDayAndItsDevices();
+    void whyADeviceIsRefusedIsRead();
     void keysOfLaterVersionsDoNoHarm();
     void aSearchMayHaveNoDay();
     void whatIsNoSearchIsToldWithItsPlace_data();
@@ -29,6 +30,23 @@ void TestFoundJson::aSearchIsReadWithItsDayAndItsDevices()
     QCOMPARE(reading.devices.first().firmware, QStringLiteral("2.1.0"));
     QCOMPARE(reading.devices.first().serialNumber, QStringLiteral("Y1"));
     QCOMPARE(reading.devices.last().firmware, QString());
+}
+
+void TestFoundJson::whyADeviceIsRefusedIsRead()
+{
+    const FoundReading reading = readFoundJson(R"({"devices": [
+            {"address": "127.0.1.1", "verdict": "taken", "reason": "taken"},
+            {"address": "127.0.1.2", "verdict": "second-port", "reason": "second port of ..."},
+            {"address": "127.0.1.3", "verdict": "unknown-model", "reason": "unknown model"},
+            {"address": "127.0.1.4", "verdict": "other"},
+            {"address": "127.0.1.5"}]})");
+    QCOMPARE(reading.fault, QString());
+    QStringList refusals;
+    for (const FoundDevice& device : reading.devices) {
+        refusals.append(device.refusal);
+    }
+    QCOMPARE(refusals,
+             QStringList({{}, {}, QStringLiteral("unknown model"), QStringLiteral("other"), {}}));
 }
 
 void TestFoundJson::keysOfLaterVersionsDoNoHarm()
@@ -71,6 +89,8 @@ void TestFoundJson::whatIsNoSearchIsToldWithItsPlace_data()
     row("a serial number that is a list",
         "{\"devices\": [{\"address\": \"1.1.1.1\", \"serial\": []}]}",
         ".devices[0].serial: this is no text");
+    row("a verdict that is a number", "{\"devices\": [{\"address\": \"1.1.1.1\", \"verdict\": 7}]}",
+        ".devices[0].verdict: this is no text");
     row("a day that is none", "{\"begun\": \"yesterday\", \"devices\": []}",
         ".begun: this is no date and time");
     row("a day that is a number", "{\"begun\": 5, \"devices\": []}", ".begun: this is no text");

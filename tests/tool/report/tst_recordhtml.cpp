@@ -5,10 +5,17 @@
 #include "recordmarkup.h"
 #include "testcase.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QBuffer>
 #include <QDomDocument>
 #include <QImage>
+#include <QPdfWriter>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTextDocument>
+#include <QTextFrame>
+#include <QTextLayout>
+#include <QTextTable>
 
 namespace {
 
@@ -36,6 +43,36 @@ QStringList textsOf(const QDomDocument& page, const char* tag)
     return texts;
 }
 
+/// Lays a page out as the PDF does on the narrowest paper.
+void layOut(QTextDocument& document, const QString& html, QPdfWriter& writer)
+{
+    writer.setResolution(600);
+    writer.setPageMargins(QMarginsF(18, 15, 15, 12), QPageLayout::Millimeter);
+    document.setDocumentMargin(0);
+    document.documentLayout()->setPaintDevice(&writer);
+    document.setHtml(html);
+    for (QTextFrame* frame : document.rootFrame()->childFrames()) {
+        QTextFrameFormat format = frame->frameFormat();
+        format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+        frame->setFrameFormat(format);
+    }
+    document.setTextWidth(writer.width());
+}
+
+/// The columns of a table whose titles need more than a line.
+QStringList wrappedTitles(const QTextTable& table)
+{
+    QStringList titles;
+    const bool hasTitles = table.format().headerRowCount() > 0;
+    for (int column = 0; hasTitles && column < table.columns(); ++column) {
+        const QTextBlock title = table.cellAt(0, column).firstCursorPosition().block();
+        if (title.layout()->lineCount() > 1) {
+            titles.append(title.text());
+        }
+    }
+    return titles;
+}
+
 } // namespace
 
 /// The record of a hall as a page.
@@ -50,6 +87,7 @@ private Q_SLOTS:
     void headingsLeadThroughRoomsAndLayouts();
     void everyColumnAndRowHasItsTitle();
     void aDeviceHasItsFirmwareOrIsNotRecorded();
+    void noTitleOfAColumnNeedsTwoLines();
     void picturesAreSharpAndSaidInWords();
     void presetsUsesAndRemovedDevicesAreNamed();
     void brokenLimitsAreToldFirst();
@@ -164,14 +202,30 @@ void TestRecordHtml::everyColumnAndRowHasItsTitle()
 void TestRecordHtml::aDeviceHasItsFirmwareOrIsNotRecorded()
 {
     QCOMPARE(textsOf(parsed(html()), "td").count(QStringLiteral("not recorded")), 8 * 2 + 1);
-    m_record.found.emplace(
-        m_hall->data(),
-        QList<FoundDevice>{{QStringLiteral("127.0.1.1"), QStringLiteral("02:1A:FF:00:00:01"),
-                            QStringLiteral("2.1.7"), QStringLiteral("Y77")}});
+    m_record.found.emplace(m_hall->data(), QList<FoundDevice>{{QStringLiteral("127.0.1.1"),
+                                                               QStringLiteral("02:1A:FF:00:00:01"),
+                                                               QStringLiteral("2.1.7"),
+                                                               QStringLiteral("Y77"),
+                                                               {}}});
     const QStringList cells = textsOf(parsed(html()), "td");
     QCOMPARE(cells.count(QStringLiteral("not recorded")), 7 * 2 + 1);
     QVERIFY(cells.contains(QStringLiteral("2.1.7")));
     QVERIFY(cells.contains(QStringLiteral("Y77")));
+    QCOMPARE(textsOf(parsed(html()), "li").size(), 6); // whoever did not answer
+}
+
+void TestRecordHtml::noTitleOfAColumnNeedsTwoLines()
+{
+    QBuffer pdf;
+    QVERIFY(pdf.open(QIODevice::WriteOnly));
+    QPdfWriter writer(&pdf);
+    QTextDocument document;
+    layOut(document, html(), writer);
+    for (QTextFrame* frame : document.rootFrame()->childFrames()) {
+        if (const auto* table = qobject_cast<QTextTable*>(frame)) {
+            QCOMPARE(wrappedTitles(*table).join(u'|'), QString());
+        }
+    }
 }
 
 void TestRecordHtml::picturesAreSharpAndSaidInWords()

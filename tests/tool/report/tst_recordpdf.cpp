@@ -20,6 +20,19 @@ QString longTable(int rows)
     return html + QStringLiteral("</table>");
 }
 
+/// The pieces of a text from top to bottom: "+" for one that stays with the next, "-" for others.
+QString keptStrips(const QString& html)
+{
+    QTextDocument document;
+    document.setHtml(html);
+    document.setTextWidth(500);
+    QString kept;
+    for (const Strip& strip : stripsOf(document, 1)) {
+        kept += strip.isKeptWithNext ? u'+' : u'-';
+    }
+    return kept;
+}
+
 /// Every page has one such object.
 qsizetype pageCount(const QByteArray& pdf)
 {
@@ -39,6 +52,8 @@ private Q_SLOTS:
     void thePaperIsTheOneAskedFor();
     void aLongTextTakesManyPages();
     void aHeadingIsKeptWithItsTable();
+    void allThatLeadsUpToATableIsKeptWithIt();
+    void whatLeadsUpToAListIsKeptWithIt();
     void rowsAreStripsAndRepeatTheTitles();
     void anEmptyTextIsAPage();
 };
@@ -90,6 +105,31 @@ void TestRecordPdf::aHeadingIsKeptWithItsTable()
     QVERIFY(strips.at(3).isKeptWithNext);  // the first row
     QVERIFY(strips.at(4).isKeptWithNext);  // the last row but one
     QVERIFY(!strips.at(5).isKeptWithNext);
+}
+
+void TestRecordPdf::allThatLeadsUpToATableIsKeptWithIt()
+{
+    const QString table = longTable(2).section(u'>', 2);
+    QCOMPARE(keptStrips(QStringLiteral("<p>alone</p><h3>Room 1</h3><p>counts</p><p>a breach</p>"
+                                       "<p>another breach</p>") +
+                        table),
+             QStringLiteral("-++++" // the heading, the counts and the breaches
+                            "+-"));
+    QCOMPARE(keptStrips(table + QStringLiteral("<p>one</p><p>two</p>") + table),
+             QStringLiteral("+-"
+                            "++" // between the tables
+                            "+-"));
+}
+
+void TestRecordPdf::whatLeadsUpToAListIsKeptWithIt()
+{
+    QCOMPARE(keptStrips(longTable(2).section(u'>', 2) +
+                        QStringLiteral("<p>Not back:</p><ul><li>one</li><li>two</li></ul>"
+                                       "<p>behind</p>")),
+             QStringLiteral("+-"
+                            "+"  // the paragraph
+                            "--" // the list
+                            "-"));
 }
 
 void TestRecordPdf::rowsAreStripsAndRepeatTheTitles()
