@@ -19,11 +19,11 @@
 #include "outputfile.h"
 #include "passwordfile.h"
 #include "passwordprompt.h"
+#include "shellword.h"
 #include "terminal.h"
 #include "userpasswords.h"
 
 #include <QEventLoop>
-#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -60,16 +60,6 @@ QString absenceWords(const AbsentDevice& absent)
     return QStringLiteral("%1, %2 in room %3: %4")
         .arg(hubName(absent.device), absent.device.modelName,
              QString::number(absent.device.roomNumber), absent.reason);
-}
-
-/// A word of a command line as a shell takes it.
-QString shellWord(const QString& text)
-{
-    static const QRegularExpression plain(QStringLiteral("\\A[A-Za-z0-9_./-]+\\z"));
-    QString quoted = text;
-    return plain.match(text).hasMatch()
-               ? text
-               : u'\'' + quoted.replace(u'\'', QStringLiteral("'\\''")) + u'\'';
 }
 
 QString namesOf(const QList<DeviceData>& hubs)

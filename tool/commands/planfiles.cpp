@@ -1,10 +1,10 @@
 #include "planfiles.h"
 
 #include "installplan.h"
+#include "outputfile.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace {
 
@@ -21,13 +21,8 @@ QString fileName(QString text)
 QString writeFile(const QString& path, const QByteArray& bytes)
 {
     const QString folder = QFileInfo(path).path();
-    if (!QDir().mkpath(folder)) {
-        return folder + QStringLiteral(": this folder cannot be made");
-    }
-    QSaveFile file(path);
-    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
-                           file.flush() && file.commit();
-    return isWritten ? QString() : path + QStringLiteral(": ") + file.errorString();
+    return QDir().mkpath(folder) ? writeWholeFile(path, bytes)
+                                 : folder + QStringLiteral(": this folder cannot be made");
 }
 
 } // namespace

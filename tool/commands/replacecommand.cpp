@@ -11,6 +11,7 @@
 #include "networkoptions.h"
 #include "networksearch.h"
 #include "replacement.h"
+#include "shellword.h"
 #include "terminal.h"
 
 namespace {
@@ -115,7 +116,7 @@ QString nextStep(const QString& path, const QList<DeviceData>& hubs)
         return QStringLiteral("nothing has to be installed for it: no hub is sent anything else "
                               "than before");
     }
-    QString command = QStringLiteral("next: tesselctl install ") + path;
+    QString command = QStringLiteral("next: tesselctl install ") + shellWord(path);
     for (const QString& address : addressesOf(hubs)) {
         command += QStringLiteral(" --hub ") + address;
     }

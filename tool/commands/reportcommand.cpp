@@ -11,7 +11,6 @@
 #include "terminal.h"
 
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace {
 
@@ -141,22 +140,9 @@ QByteArray bytesOf(const HallRecord& record, bool isWantedAsPdf)
                          : html.toUtf8();
 }
 
-/// Writes beside the place and renames; one line of a fault, or nothing.
-QString writeTo(const QString& path, const QByteArray& bytes)
-{
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(bytes);
-        if (file.commit()) {
-            return {};
-        }
-    }
-    return path + QStringLiteral(": ") + file.errorString();
-}
-
 ExitCode writeRecord(const HallRecord& record, const QString& path, Terminal& terminal)
 {
-    const QString unwritten = writeTo(path, bytesOf(record, isPdf(path)));
+    const QString unwritten = writeWholeFile(path, bytesOf(record, isPdf(path)));
     if (!unwritten.isEmpty()) {
         terminal.say(unwritten);
         return ExitCode::CouldNotBeTried;

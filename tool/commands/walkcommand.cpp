@@ -107,12 +107,6 @@ ExitCode report(const WalkResult& result, bool isForPrograms, Terminal& terminal
     return isWalkRight(result) ? ExitCode::AllIsWell : ExitCode::SomethingIsNot;
 }
 
-bool save(QSaveFile& file, const WalkResult& result)
-{
-    file.write(QJsonDocument(walkObject(result)).toJson());
-    return file.commit();
-}
-
 ExitCode walkThrough(const DocumentData& hall, const Arguments& arguments, Pace pace,
                      Terminal& terminal)
 {
@@ -120,7 +114,7 @@ ExitCode walkThrough(const DocumentData& hall, const Arguments& arguments, Pace 
     QSaveFile kept(arguments.value(QStringLiteral("o")));
     const bool isKept = arguments.has(QStringLiteral("o"));
     if (isKept && !kept.open(QIODevice::WriteOnly)) {
-        terminal.say(QStringLiteral("%1: %2").arg(kept.fileName(), kept.errorString()));
+        terminal.say(writeFault(kept));
         return ExitCode::CouldNotBeTried;
     }
     sayWhatWillBeHeard(hall, terminal);
@@ -135,8 +129,10 @@ ExitCode walkThrough(const DocumentData& hall, const Arguments& arguments, Pace 
     WalkProgress progress(&result, &terminal);
     walkToTheEnd(walk, progress);
     const ExitCode code = report(result, arguments.has(QStringLiteral("json")), terminal);
-    if (isKept && !save(kept, result)) {
-        terminal.say(QStringLiteral("%1: %2").arg(kept.fileName(), kept.errorString()));
+    const QString unwritten =
+        isKept ? writeWhole(kept, QJsonDocument(walkObject(result)).toJson()) : QString();
+    if (!unwritten.isEmpty()) {
+        terminal.say(unwritten);
         return ExitCode::CouldNotBeTried;
     }
     return code;

@@ -24,8 +24,8 @@ QStringList addressesOf(const QList<DeviceData>& hubs)
 
 QString hubName(const DeviceData& hub)
 {
-    return hub.label.isEmpty() ? hub.ipAddress
-                               : QStringLiteral("%1 (%2)").arg(hub.label, hub.ipAddress);
+    const bool isNamed = !hub.label.isEmpty() && hub.label != hub.ipAddress;
+    return isNamed ? QStringLiteral("%1 (%2)").arg(hub.label, hub.ipAddress) : hub.ipAddress;
 }
 
 QString readBackWords(std::optional<int> preset, int expected)

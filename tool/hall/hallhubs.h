@@ -11,7 +11,7 @@ QList<DeviceData> placedHubs(const DocumentData& hall);
 /// Their addresses, in the same order.
 QStringList addressesOf(const QList<DeviceData>& hubs);
 
-/// A hub for people: its label and its address.
+/// A hub for people: its label and its address, or its address alone when it has no other name.
 QString hubName(const DeviceData& hub);
 
 /// What was read back from a hub that was to be on a preset: "ok", or which one it is on instead,

@@ -1,3 +1,4 @@
+#include "filesizelimit.h"
 #include "resumefile.h"
 #include "testcase.h"
 
@@ -9,7 +10,6 @@
 #include <QTest>
 
 #ifdef Q_OS_LINUX
-#include <csignal>
 #include <sys/resource.h>
 #endif
 
@@ -78,41 +78,12 @@ long peakMemory()
 #endif
 }
 
-#ifdef Q_OS_LINUX
-/// While it lives no file grows beyond `bytes`: writing fails as on a full disk.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        rlimit limit = m_before;
-        limit.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-    FileSizeLimit(FileSizeLimit&&) = delete;
-    FileSizeLimit& operator=(FileSizeLimit&&) = delete;
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    rlimit m_before = {};
-    void (*m_handler)(int) = nullptr;
-};
-
 /// Judged by the caller once the limit is gone: it holds for the test's own log as well.
-bool writeLimited(const QString& path, const QByteArray& bytes, rlim_t room)
+bool writeLimited(const QString& path, const QByteArray& bytes, qint64 room)
 {
     const FileSizeLimit limit(room);
     return writeResumeFile(path, bytes);
 }
-#endif
 
 } // namespace
 
@@ -392,20 +363,19 @@ void TestResumeFile::fullDiskLeavesTheEarlierFileWhole_data()
 
 void TestResumeFile::fullDiskLeavesTheEarlierFileWhole()
 {
-#ifdef Q_OS_LINUX
+    if (!FileSizeLimit::isPossible()) {
+        QSKIP("Files cannot be limited in size here.");
+    }
     QFETCH(const int, size);
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("resume.dat"));
     QVERIFY(writeResumeFile(path, "earlier"));
     for (const int room : {0, 1, 4096, size - 1}) {
-        QVERIFY(!writeLimited(path, QByteArray(size, 'x'), rlim_t(room)));
+        QVERIFY(!writeLimited(path, QByteArray(size, 'x'), room));
     }
     QCOMPARE(contentOf(path), QByteArray("earlier"));
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
     QVERIFY(writeResumeFile(path, QByteArray(size, 'x')));
-#else
-    QSKIP("Files cannot be limited in size here.");
-#endif
 }
 
 void TestResumeFile::nothingIsLeftBesideTheFile()

@@ -81,6 +81,7 @@ private Q_SLOTS:
     void formerFaultsDoNotStandInTheWay();
     void nothingElseChangesInAnOddHall();
     void onlyHubsThatAreSentSomethingElseAreNamed();
+    void theNextCommandCanBePasted();
     void wrongUsageIsOneLine_data();
     void wrongUsageIsOneLine();
 
@@ -383,6 +384,18 @@ void TestReplaceCommand::onlyHubsThatAreSentSomethingElseAreNamed()
     const NetworkRun unplaced = replace(freshHub, spare + u' ' + fresh + mac, noCable);
     QVERIFY2(unplaced.errors.contains(u"tesselctl: nothing has to be installed for it"),
              qPrintable(unplaced.errors));
+}
+
+void TestReplaceCommand::theNextCommandCanBePasted()
+{
+    const QString output = path("2026-11-22 10.30.00.tessel");
+    const NetworkRun run =
+        runBesideHall(freshHub, QStringLiteral("tesselctl replace --wait 1 '%1' %2 %3 -o '%4'")
+                                    .arg(path("hall.tessel"), hub, fresh, output));
+    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+    QVERIFY2(run.errors.contains(
+                 QStringLiteral("next: tesselctl install '%1' --hub 10.54.1.21\n").arg(output)),
+             qPrintable(run.errors));
 }
 
 void TestReplaceCommand::wrongUsageIsOneLine_data()

@@ -1,4 +1,5 @@
 #include "commandrun.h"
+#include "filesizelimit.h"
 #include "hallfile.h"
 #include "halljson.h"
 #include "testcase.h"
@@ -102,6 +103,8 @@ private Q_SLOTS:
     void noInputIsOverwritten();
     void anOutputThatCannotBeWrittenIsTold();
     void aFormerRecordIsReplacedWhole();
+    void onAFullDiskAFormerRecordStaysWhole_data();
+    void onAFullDiskAFormerRecordStaysWhole();
     void aSystemWithoutFontsIsTold();
     void aHallOfAllThatIsPossibleIsRecorded();
 
@@ -383,6 +386,31 @@ void TestReportCommand::aFormerRecordIsReplacedWhole()
     putFile(path("hall.html"), QByteArray(1000000, 'x'));
     QVERIFY(recorded().endsWith(u"</html>\n"));
     QCOMPARE(QDir(m_folder.path()).entryList({QStringLiteral("hall.html*")}).size(), 1);
+}
+
+void TestReportCommand::onAFullDiskAFormerRecordStaysWhole_data()
+{
+    QTest::addColumn<QString>("record");
+    QTest::newRow("HTML") << path("hall.html");
+    QTest::newRow("PDF") << path("hall.pdf");
+}
+
+void TestReportCommand::onAFullDiskAFormerRecordStaysWhole()
+{
+    if (!FileSizeLimit::isPossible()) {
+        QSKIP("Files cannot be limited in size here.");
+    }
+    QFETCH(const QString, record);
+    putFile(record, "former");
+    ToolRun run;
+    {
+        const FileSizeLimit limit(20000);
+        run = report({QStringLiteral("-o"), record});
+    }
+    QCOMPARE(run.errors,
+             QStringLiteral("tesselctl: %1: it could not be written completely\n").arg(record));
+    QCOMPARE(run.exitCode, 3);
+    QCOMPARE(fileAt(record), QByteArray("former"));
 }
 
 void TestReportCommand::aSystemWithoutFontsIsTold()

@@ -1,3 +1,4 @@
+#include "filesizelimit.h"
 #include "followinghall.h"
 #include "livetoolrun.h"
 #include "testcase.h"
@@ -67,6 +68,7 @@ private Q_SLOTS:
     void resultIsKept();
     void keptResultIsTakenIntoARecord();
     void resultThatCannotBeKeptStopsBeforeAnythingIsHeard();
+    void onAFullDiskAFormerResultStaysWhole();
     void resultDoesNotReplaceTheHall();
     void hubWhosePresetCouldNotBeReadIsNamed();
     void hubThatDoesNotGoBackIsNamed();
@@ -195,6 +197,30 @@ void TestWalkCommand::resultThatCannotBeKeptStopsBeforeAnythingIsHeard()
     QCOMPARE(run.exitCode, 3);
     QVERIFY2(isOneLine(run.errors) && run.errors.contains(u"a/b: "), qPrintable(run.errors));
     QCOMPARE(site.hall.device(stage)->exchangeNames(), QStringList());
+}
+
+void TestWalkCommand::onAFullDiskAFormerResultStaysWhole()
+{
+    if (!FileSizeLimit::isPossible()) {
+        QSKIP("Files cannot be limited in size here.");
+    }
+    const FollowingHall site(stage, gallery);
+    recallOnBoth(site, 1);
+    const QString kept = site.file.beside(QStringLiteral("result.json"));
+    QFile former(kept);
+    QVERIFY(former.open(QIODevice::WriteOnly) && former.write("former") == 6);
+    former.close();
+    ToolRun run;
+    {
+        const FileSizeLimit limit(100);
+        LiveToolRun tool({walk, site.file.path(), yes, atOnce, QStringLiteral("-o"), kept});
+        run = tool.ended();
+    }
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(run.errors.endsWith(
+                 QStringLiteral("tesselctl: %1: it could not be written completely\n").arg(kept)),
+             qPrintable(run.errors));
+    QCOMPARE(bytesOf(kept), QStringLiteral("former"));
 }
 
 void TestWalkCommand::resultDoesNotReplaceTheHall()

@@ -215,7 +215,7 @@ void TestFindings::aHubThatIsNotBackIsNamed()
     QCOMPARE(findings.notBack(),
              QStringList({QStringLiteral("Hub-1 (127.0.1.1): preset 2 was active before and is "
                                          "not again: on 1"),
-                          QStringLiteral("127.0.1.2 (127.0.1.2): which preset was active before "
+                          QStringLiteral("127.0.1.2: which preset was active before "
                                          "could not be read")}));
 }
 
