@@ -21,7 +21,7 @@ public:
     bool isPossible() const;
 
     /// From now on nothing is shown. One line is read, and after it what is typed is shown again;
-    /// typed() or closed() follows.
+    /// typed(), closed() or lost() follows.
     void read();
 
     /// Shows again what is typed. Nothing follows.
@@ -29,8 +29,10 @@ public:
 
 Q_SIGNALS:
     void typed(const QString& line);
-    /// No line came: the user typed the end of input, or the terminal is gone.
+    /// No line came: the user typed the end of input.
     void closed();
+    /// No line came and none ever will: the terminal is gone, or its reader was interrupted.
+    void lost();
 
 private Q_SLOTS:
     void takeLine();

@@ -98,6 +98,8 @@ private Q_SLOTS:
     void wrongPasswordIsAskedForAgain();
     void firstPasswordIsTypedTwice();
     void endOfInputLeavesTheHubOut();
+    void lostTerminalBeginsNoTransfer_data();
+    void lostTerminalBeginsNoTransfer();
     void interruptedPromptShowsAgainWhatIsTyped();
     void barsKeepToEightyColumns();
     void recallOfTheOthersIsOfferedAndDone_data();
@@ -405,6 +407,31 @@ void TestInstallCommand::endOfInputLeavesTheHubOut()
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(text(hubIn(run, 0), "reason"), QStringLiteral("Logging in: you left it out"));
     QCOMPARE(text(hubIn(run, 1), "outcome"), QStringLiteral("done"));
+}
+
+void TestInstallCommand::lostTerminalBeginsNoTransfer_data()
+{
+    QTest::addColumn<bool>("hearsHangUp");
+    QTest::newRow("with the system's signal") << true;
+    QTest::newRow("under nohup") << false;
+}
+
+void TestInstallCommand::lostTerminalBeginsNoTransfer()
+{
+    QFETCH(const bool, hearsHangUp);
+    START_HALL(twoHubs());
+    PtyToolRun tool({install, file.path(), noSearch}, {.hearsHangUp = hearsHangUp});
+    QVERIFY(tool.hasShown(QStringLiteral("password of Stage")));
+    tool.type("secret7\n");
+    QVERIFY(tool.hasShown(QStringLiteral("password of Gallery")));
+    const QString logIn = exchangeName(Exchange::LogIn);
+    QTRY_VERIFY_WITH_TIMEOUT(hall.hub(stage)->exchangeNames().contains(logIn), 30000);
+    tool.closeTerminal();
+    const ToolRun run = tool.ended();
+    // The signal may come so late that it ends the tool at once.
+    QVERIFY(hearsHangUp || run.output.count(QStringLiteral("Error")) == 2);
+    QCOMPARE(hall.hub(stage)->exchangeNames().last(), logIn);
+    QVERIFY(!hall.hub(gallery)->exchangeNames().contains(logIn));
 }
 
 void TestInstallCommand::interruptedPromptShowsAgainWhatIsTyped()
