@@ -71,6 +71,11 @@ bool PtyToolRun::isEchoing() const
     return (mode.c_lflag & tcflag_t(ECHO)) != 0;
 }
 
+void PtyToolRun::signal(int number) const
+{
+    QCOMPARE(::kill(pid_t(m_program.processId()), number), 0);
+}
+
 void PtyToolRun::closeTerminal()
 {
     for (int* end : {&m_terminal, &m_keyboard}) {

@@ -29,6 +29,9 @@ public:
     /// Whether the terminal shows what is typed.
     bool isEchoing() const;
 
+    /// Sends it a signal.
+    void signal(int number) const;
+
     /// Takes the terminal away.
     void closeTerminal();
 

@@ -76,6 +76,13 @@ public:
         termios silent = m_before;
         silent.c_lflag |= tcflag_t(ICANON);
         silent.c_lflag &= ~tcflag_t(ECHO | ECHONL);
+        // While a program is stopped, the shell makes the terminal show again what is typed; one
+        // that quits leaves it silent.
+        silent.c_cc[VSUSP] = _POSIX_VDISABLE;
+        silent.c_cc[VQUIT] = _POSIX_VDISABLE;
+#ifdef VDSUSP
+        silent.c_cc[VDSUSP] = _POSIX_VDISABLE;
+#endif
         // What was typed ahead stays: it may be a pasted password and its repetition.
         ::tcsetattr(m_descriptor, TCSADRAIN, &silent);
         connect(m_notifier, SIGNAL(activated(QSocketDescriptor, QSocketNotifier::Type)), prompt,

@@ -4,8 +4,9 @@
 
 #include <memory>
 
-/// Reads lines from a terminal without showing what is typed. Whatever ends it, also in the middle
-/// of a line, the terminal shows again what is typed.
+/// Reads lines from a terminal without showing what is typed, and without the keys that stop or
+/// quit a program. Once this is destroyed, also in the middle of a line, the terminal is as before;
+/// a program that is killed at once or crashes leaves it as it is.
 class PasswordPrompt : public QObject
 {
     Q_OBJECT
