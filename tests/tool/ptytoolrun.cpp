@@ -3,7 +3,9 @@
 #include <QTest>
 
 #include <array>
+#include <csignal>
 #include <cstdlib>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/ioctl.h>
@@ -17,13 +19,19 @@ constexpr int patience = 60000; // milliseconds
 } // namespace
 
 PtyToolRun::PtyToolRun(const QStringList& arguments)
+    : PtyToolRun(arguments, {})
+{
+}
+
+PtyToolRun::PtyToolRun(const QStringList& arguments, const Setting& setting)
     : m_keyboard(::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))
 {
     ::grantpt(m_keyboard);
     ::unlockpt(m_keyboard);
     m_terminal = ::open(::ptsname(m_keyboard), O_RDWR | O_NOCTTY | O_CLOEXEC);
     const int terminal = m_terminal;
-    m_program.setChildProcessModifier([terminal] {
+    m_program.setChildProcessModifier([terminal, setting] {
+        std::signal(SIGHUP, setting.hearsHangUp ? SIG_DFL : SIG_IGN);
         ::setsid();
         ::ioctl(terminal, TIOCSCTTY, 0);
         ::dup2(terminal, STDIN_FILENO);
@@ -36,8 +44,7 @@ PtyToolRun::~PtyToolRun()
 {
     m_program.kill();
     m_program.waitForFinished();
-    ::close(m_terminal);
-    ::close(m_keyboard);
+    closeTerminal();
 }
 
 bool PtyToolRun::hasShown(const QString& words)
@@ -62,6 +69,20 @@ bool PtyToolRun::isEchoing() const
     termios mode{};
     ::tcgetattr(m_terminal, &mode);
     return (mode.c_lflag & tcflag_t(ECHO)) != 0;
+}
+
+void PtyToolRun::signal(int number) const
+{
+    QCOMPARE(::kill(pid_t(m_program.processId()), number), 0);
+}
+
+void PtyToolRun::closeTerminal()
+{
+    for (int* end : {&m_terminal, &m_keyboard}) {
+        if (const int descriptor = std::exchange(*end, -1); descriptor >= 0) {
+            ::close(descriptor);
+        }
+    }
 }
 
 ToolRun PtyToolRun::ended()

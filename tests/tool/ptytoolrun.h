@@ -9,6 +9,13 @@
 class PtyToolRun
 {
 public:
+    /// How it is started.
+    struct Setting
+    {
+        bool hearsHangUp = true; ///< as without nohup
+    };
+
+    explicit PtyToolRun(const QStringList& arguments, const Setting& setting);
     explicit PtyToolRun(const QStringList& arguments);
     ~PtyToolRun();
     Q_DISABLE_COPY_MOVE(PtyToolRun)
@@ -21,6 +28,12 @@ public:
 
     /// Whether the terminal shows what is typed.
     bool isEchoing() const;
+
+    /// Sends it a signal.
+    void signal(int number) const;
+
+    /// Takes the terminal away.
+    void closeTerminal();
 
     /// Waits for its end; its errors are all that was on the screen.
     ToolRun ended();

@@ -44,6 +44,7 @@ Interruption::Interruption(QObject* parent)
     connect(notifier, SIGNAL(activated(QSocketDescriptor, QSocketNotifier::Type)), this,
             SIGNAL(interrupted()));
     std::signal(SIGINT, noteInterruption);
+    std::signal(SIGQUIT, noteInterruption);
     std::signal(SIGTERM, noteInterruption);
     replaceHangUpHandler(noteInterruption);
 }
@@ -51,6 +52,7 @@ Interruption::Interruption(QObject* parent)
 Interruption::~Interruption()
 {
     std::signal(SIGINT, SIG_DFL);
+    std::signal(SIGQUIT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
     replaceHangUpHandler(SIG_DFL);
     for (int& end : wakeUpPipe) {

@@ -2,9 +2,9 @@
 
 #include <QObject>
 
-/// Turns the first Ctrl+C, the first polite kill or the loss of the terminal into a signal of the
-/// event loop, so that a command can put right what it has begun. The second one ends the program
-/// at once, but for the loss of the terminal.
+/// Turns the first Ctrl+C or Ctrl+\, the first polite kill or the loss of the terminal into a
+/// signal of the event loop, so that a command can put right what it has begun. The second one ends
+/// the program at once, but for the loss of the terminal.
 class Interruption : public QObject
 {
     Q_OBJECT

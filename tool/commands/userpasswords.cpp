@@ -20,9 +20,11 @@ UserPasswords::UserPasswords(const QHash<QString, QString>& names,
     , m_filed(filed)
     , m_path(path)
     , m_terminal(terminal)
+    , m_isAnswerable(m_prompt.isPossible())
 {
     connect(&m_prompt, SIGNAL(typed(QString)), this, SLOT(takeLine(QString)));
     connect(&m_prompt, SIGNAL(closed()), this, SLOT(takeEnd()));
+    connect(&m_prompt, SIGNAL(lost()), this, SIGNAL(lost()));
 }
 
 void UserPasswords::ask(const PasswordWish& wish)
@@ -31,7 +33,7 @@ void UserPasswords::ask(const PasswordWish& wish)
         askFile(wish);
     } else if (!wish.isFirst && m_justSet.contains(wish.address)) {
         Q_EMIT given(wish.address, m_justSet.take(wish.address));
-    } else if (!m_prompt.isPossible()) {
+    } else if (!m_isAnswerable) {
         Q_EMIT withheld(wish.address,
                         m_path.isEmpty()
                             ? QStringLiteral("standard input is no terminal to ask for the "

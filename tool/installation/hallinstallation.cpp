@@ -24,6 +24,7 @@ HallInstallation::HallInstallation(IDocAccessor* doc, const QStringList& hubs,
     }
     connect(passwords, SIGNAL(given(QString, QString)), this, SLOT(submit(QString, QString)));
     connect(passwords, SIGNAL(withheld(QString, QString)), this, SLOT(cancel(QString, QString)));
+    connect(passwords, SIGNAL(lost()), this, SLOT(breakOff()));
 }
 
 void HallInstallation::start()

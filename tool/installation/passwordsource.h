@@ -30,4 +30,6 @@ Q_SIGNALS:
     void given(const QString& address, const QString& password);
     /// There is none, or no other one, for the reason told.
     void withheld(const QString& address, const QString& reason);
+    /// Whoever was asked is gone without an answer, and nothing may begin that nobody watches.
+    void lost();
 };

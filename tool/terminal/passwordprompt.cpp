@@ -1,6 +1,19 @@
 #include "passwordprompt.h"
 
 #include <array>
+#include <optional>
+
+namespace {
+
+QString withoutEnd(QString line)
+{
+    while (line.endsWith(u'\n') || line.endsWith(u'\r')) {
+        line.chop(1);
+    }
+    return line;
+}
+
+} // namespace
 
 #ifdef Q_OS_WIN
 
@@ -22,14 +35,16 @@ public:
     ~Silence() { ::SetConsoleMode(m_console, m_before); }
     Q_DISABLE_COPY_MOVE(Silence)
 
-    /// The next line with its end; empty when there is none.
-    QString line() const
+    /// The next line with its end; none when reading failed, also by Ctrl+C.
+    std::optional<QString> line() const
     {
         std::array<wchar_t, 1024> letters{};
         DWORD count = 0;
         const BOOL isRead =
             ::ReadConsoleW(m_console, letters.data(), DWORD(letters.size()), &count, nullptr);
-        return isRead ? QString::fromWCharArray(letters.data(), int(count)) : QString();
+        return isRead && count > 0
+                   ? std::optional(QString::fromWCharArray(letters.data(), int(count)))
+                   : std::nullopt;
     }
 
 private:
@@ -61,6 +76,13 @@ public:
         termios silent = m_before;
         silent.c_lflag |= tcflag_t(ICANON);
         silent.c_lflag &= ~tcflag_t(ECHO | ECHONL);
+        // While a program is stopped, the shell makes the terminal show again what is typed; one
+        // that quits leaves it silent.
+        silent.c_cc[VSUSP] = _POSIX_VDISABLE;
+        silent.c_cc[VQUIT] = _POSIX_VDISABLE;
+#ifdef VDSUSP
+        silent.c_cc[VDSUSP] = _POSIX_VDISABLE;
+#endif
         // What was typed ahead stays: it may be a pasted password and its repetition.
         ::tcsetattr(m_descriptor, TCSADRAIN, &silent);
         connect(m_notifier, SIGNAL(activated(QSocketDescriptor, QSocketNotifier::Type)), prompt,
@@ -75,12 +97,13 @@ public:
     }
     Q_DISABLE_COPY_MOVE(Silence)
 
-    /// The next line with its end; empty when there is none.
-    QString line() const
+    /// The next line with its end, empty for the end of input; none when reading failed.
+    std::optional<QString> line() const
     {
         std::array<char, 4096> letters{};
         const ssize_t count = ::read(m_descriptor, letters.data(), letters.size());
-        return count > 0 ? QString::fromLocal8Bit(letters.data(), count) : QString();
+        return count >= 0 ? std::optional(QString::fromLocal8Bit(letters.data(), count))
+                          : std::nullopt;
     }
 
 private:
@@ -119,15 +142,14 @@ void PasswordPrompt::takeLine()
     if (m_silence == nullptr) {
         return;
     }
-    QString line = m_silence->line();
+    const std::optional<QString> line = m_silence->line();
     stop();
-    const bool isClosed = line.isEmpty();
-    while (line.endsWith(u'\n') || line.endsWith(u'\r')) {
-        line.chop(1);
-    }
-    if (isClosed) {
+    // A terminal that is gone has an end of input too, which nobody typed.
+    if (!line || (line->isEmpty() && !isPossible())) {
+        Q_EMIT lost();
+    } else if (line->isEmpty()) {
         Q_EMIT closed();
     } else {
-        Q_EMIT typed(line);
+        Q_EMIT typed(withoutEnd(*line));
     }
 }

@@ -4,8 +4,9 @@
 
 #include <memory>
 
-/// Reads lines from a terminal without showing what is typed. Whatever ends it, also in the middle
-/// of a line, the terminal shows again what is typed.
+/// Reads lines from a terminal without showing what is typed, and without the keys that stop or
+/// quit a program. Once this is destroyed, also in the middle of a line, the terminal is as before;
+/// a program that is killed at once or crashes leaves it as it is.
 class PasswordPrompt : public QObject
 {
     Q_OBJECT
@@ -21,7 +22,7 @@ public:
     bool isPossible() const;
 
     /// From now on nothing is shown. One line is read, and after it what is typed is shown again;
-    /// typed() or closed() follows.
+    /// typed(), closed() or lost() follows.
     void read();
 
     /// Shows again what is typed. Nothing follows.
@@ -29,8 +30,10 @@ public:
 
 Q_SIGNALS:
     void typed(const QString& line);
-    /// No line came: the user typed the end of input, or the terminal is gone.
+    /// No line came: the user typed the end of input.
     void closed();
+    /// No line came and none ever will: the terminal is gone, or its reader was interrupted.
+    void lost();
 
 private Q_SLOTS:
     void takeLine();

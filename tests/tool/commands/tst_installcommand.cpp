@@ -12,6 +12,8 @@
 #include <QJsonObject>
 #include <QTest>
 
+#include <csignal>
+
 namespace {
 
 const QString stage = QStringLiteral("127.34.1.1");
@@ -99,6 +101,11 @@ private Q_SLOTS:
     void wrongPasswordIsAskedForAgain();
     void firstPasswordIsTypedTwice();
     void endOfInputLeavesTheHubOut();
+    void lostTerminalBeginsNoTransfer_data();
+    void lostTerminalBeginsNoTransfer();
+    void keysThatStopOrQuitDoNotAtThePrompt_data();
+    void keysThatStopOrQuitDoNotAtThePrompt();
+    void interruptedPromptShowsAgainWhatIsTyped_data();
     void interruptedPromptShowsAgainWhatIsTyped();
     void barsKeepToEightyColumns();
     void recallOfTheOthersIsOfferedAndDone_data();
@@ -423,13 +430,71 @@ void TestInstallCommand::endOfInputLeavesTheHubOut()
     QCOMPARE(text(hubIn(run, 1), "outcome"), QStringLiteral("done"));
 }
 
+void TestInstallCommand::lostTerminalBeginsNoTransfer_data()
+{
+    QTest::addColumn<bool>("hearsHangUp");
+    QTest::newRow("with the system's signal") << true;
+    QTest::newRow("under nohup") << false;
+}
+
+void TestInstallCommand::lostTerminalBeginsNoTransfer()
+{
+    QFETCH(const bool, hearsHangUp);
+    START_HALL(twoHubs());
+    PtyToolRun tool({install, file.path(), noSearch}, {.hearsHangUp = hearsHangUp});
+    QVERIFY(tool.hasShown(QStringLiteral("password of Stage")));
+    tool.type("secret7\n");
+    QVERIFY(tool.hasShown(QStringLiteral("password of Gallery")));
+    const QString logIn = exchangeName(Exchange::LogIn);
+    QTRY_VERIFY_WITH_TIMEOUT(hall.hub(stage)->exchangeNames().contains(logIn), 30000);
+    tool.closeTerminal();
+    const ToolRun run = tool.ended();
+    // The signal may come so late that it ends the tool at once.
+    QVERIFY(hearsHangUp || run.output.count(QStringLiteral("Error")) == 2);
+    QCOMPARE(hall.hub(stage)->exchangeNames().last(), logIn);
+    QVERIFY(!hall.hub(gallery)->exchangeNames().contains(logIn));
+}
+
+void TestInstallCommand::keysThatStopOrQuitDoNotAtThePrompt_data()
+{
+    QTest::addColumn<QByteArray>("key");
+    QTest::newRow("Ctrl+Z") << QByteArray("\x1a");
+    QTest::newRow("Ctrl+\\") << QByteArray("\x1c");
+}
+
+/// Such a key would forget what was typed before it; switched off it is a letter, which is erased.
+void TestInstallCommand::keysThatStopOrQuitDoNotAtThePrompt()
+{
+    QFETCH(const QByteArray, key);
+    START_HALL(twoHubs());
+    const QString passwords = file.privateFile("passwords", line(gallery));
+    PtyToolRun tool({install, file.path(), noSearch, passwordsOption, passwords});
+    QVERIFY(tool.hasShown(QStringLiteral("password of Stage")));
+    tool.type("secret" + key + "\x7f" + "7\n\x04");
+    const ToolRun run = tool.ended();
+    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+    QVERIFY(tool.isEchoing());
+}
+
+void TestInstallCommand::interruptedPromptShowsAgainWhatIsTyped_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::newRow("Ctrl+C") << SIGINT;
+    QTest::newRow("a wish to quit") << SIGQUIT;
+}
+
 void TestInstallCommand::interruptedPromptShowsAgainWhatIsTyped()
 {
+    QFETCH(const int, number);
     START_HALL(twoHubs());
     PtyToolRun tool({install, file.path(), noSearch});
     QVERIFY(tool.hasShown(QStringLiteral("password of Stage (127.34.1.1): ")));
     QVERIFY(!tool.isEchoing());
-    tool.type("\x03");
+    if (number == SIGINT) {
+        tool.type("\x03");
+    } else {
+        tool.signal(number);
+    }
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 1);
     QVERIFY(tool.isEchoing());

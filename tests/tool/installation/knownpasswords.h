@@ -44,6 +44,9 @@ public:
         Q_EMIT given(hub, m_password);
     }
 
+    /// Is gone, with all questions that are open.
+    void leave() { Q_EMIT lost(); }
+
     const QList<PasswordWish>& wishes() const { return m_wishes; }
 
     int promptCount(const QString& hub) const

@@ -69,6 +69,7 @@ private Q_SLOTS:
     void noHubIsChangedBeforeEveryLogInIsAnswered();
     void aWithheldPasswordIsTheReasonAndHoldsNobodyBack();
     void aBrokenOffInstallationNamesWhatIsNotFinished();
+    void whatWasBrokenOffBeginsNoTransfer_data();
     void whatWasBrokenOffBeginsNoTransfer();
 };
 
@@ -156,15 +157,27 @@ void TestHallInstallation::aBrokenOffInstallationNamesWhatIsNotFinished()
                             "finished"));
 }
 
+void TestHallInstallation::whatWasBrokenOffBeginsNoTransfer_data()
+{
+    QTest::addColumn<bool>("isUserGone");
+    QTest::newRow("by the command") << false;
+    QTest::newRow("by the loss of the user") << true;
+}
+
 void TestHallInstallation::whatWasBrokenOffBeginsNoTransfer()
 {
+    QFETCH(const bool, isUserGone);
     InstallDesk desk(quickHall(QStringLiteral("127.72.6.1"), 2, 0));
     desk.passwords.hold(desk.hubs.first());
     HallInstallation installation(&desk.doc, desk.hubs, &desk.passwords);
     const QSignalSpy progressed(&installation, SIGNAL(progressed()));
     installation.start();
     desk.rest();
-    installation.breakOff();
+    if (isUserGone) {
+        desk.passwords.leave();
+    } else {
+        installation.breakOff();
+    }
     desk.rest();
     QCOMPARE(progressed.size(), 0);
     for (const QString& hub : std::as_const(desk.hubs)) {
