@@ -28,8 +28,7 @@ QStringList recordFaults(const HallRecord& record)
     }
     if (record.walk && !record.walk->isOfThisHall()) {
         faults.append(QStringLiteral("the walk was one through another hall"));
-    }
-    if (record.walk) {
+    } else if (record.walk) {
         faults += record.walk->contradictions();
     }
     return faults;

@@ -39,6 +39,7 @@ public:
 private:
     const WalkedLayout* walked(const SceneInfo& layout) const;
     const WalkedHub* walked(const DeviceData& hub) const;
+    bool isAnyWalked(const QList<DeviceData>& hubs) const;
     void compareLayouts(const QList<SceneInfo>& layouts);
     void compareHubs(const DocumentData& hall);
     void count(const DocumentData& hall);
