@@ -34,6 +34,21 @@ QStringList recordFaults(const HallRecord& record)
     return faults;
 }
 
+QStringList walkFailures(const HallRecord& record)
+{
+    QStringList failures;
+    if (!record.walk || !record.walk->isOfThisHall()) {
+        return failures;
+    }
+    if (!record.walk->isEverywhereOk()) {
+        failures.append(QStringLiteral("the walk: not every layout was read back from every hub"));
+    }
+    if (!record.walk->notBack().isEmpty()) {
+        failures.append(QStringLiteral("the walk: not every hub was put back afterwards"));
+    }
+    return failures;
+}
+
 QStringList leftOut(const HallRecord& record)
 {
     QStringList lines;

@@ -89,7 +89,7 @@ QString list(const QStringList& lines)
 
 QString faultList(const HallRecord& record)
 {
-    const QStringList faults = recordFaults(record);
+    const QStringList faults = recordFaults(record) + walkFailures(record);
     return faults.isEmpty() ? QString()
                             : element("h2", QStringLiteral("Not as it should be")) + list(faults);
 }

@@ -24,6 +24,9 @@ public:
     /// Whether every layout was read back from every hub and all were put back afterwards.
     bool isRight() const;
 
+    /// Whether every layout was read back from every hub.
+    bool isEverywhereOk() const { return m_isEverywhereOk; }
+
     /// Whether anything of the hall was walked; if not it was the walk of another hall.
     bool isOfThisHall() const { return m_isOfThisHall; }
 

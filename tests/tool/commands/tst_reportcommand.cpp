@@ -239,7 +239,14 @@ void TestReportCommand::aBrokenHallIsRecordedAsSuch()
 void TestReportCommand::aWalkThatWentWrongIsARecordAllTheSame()
 {
     putFile(path("walk.json"), sampleWalk().replace("\"preset\": 2}", "\"preset\": 1}"));
-    const QString page = recorded({QStringLiteral("--walk"), path("walk.json")});
+    const ToolRun run = report(
+        {QStringLiteral("-o"), path("hall.html"), QStringLiteral("--walk"), path("walk.json")});
+    const QString line = QStringLiteral("the walk: not every layout was read back from every hub");
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.errors, QStringLiteral("tesselctl: %1\n").arg(line));
+    const QString page = QString::fromUtf8(fileAt(path("hall.html")));
+    QVERIFY(page.contains(u"Not as it should be"));
+    QVERIFY(page.contains(line));
     QVERIFY(page.contains(u"not everything was as it should be"));
     QCOMPARE(page.count(QStringLiteral("<strong>on 1</strong>")), 4);
 }
