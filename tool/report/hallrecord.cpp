@@ -28,11 +28,25 @@ QStringList recordFaults(const HallRecord& record)
     }
     if (record.walk && !record.walk->isOfThisHall()) {
         faults.append(QStringLiteral("the walk was one through another hall"));
-    }
-    if (record.walk) {
+    } else if (record.walk) {
         faults += record.walk->contradictions();
     }
     return faults;
+}
+
+QStringList walkFailures(const HallRecord& record)
+{
+    QStringList failures;
+    if (!record.walk || !record.walk->isOfThisHall()) {
+        return failures;
+    }
+    if (!record.walk->isEverywhereOk()) {
+        failures.append(QStringLiteral("the walk: not every layout was read back from every hub"));
+    }
+    if (!record.walk->notBack().isEmpty()) {
+        failures.append(QStringLiteral("the walk: not every hub was put back afterwards"));
+    }
+    return failures;
 }
 
 QStringList leftOut(const HallRecord& record)

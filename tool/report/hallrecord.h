@@ -25,5 +25,8 @@ struct HallRecord
 /// walk contradicts.
 QStringList recordFaults(const HallRecord& record);
 
+/// What went wrong in a walk through the hall, a line each. The record is right all the same.
+QStringList walkFailures(const HallRecord& record);
+
 /// What the search or the walk tell of devices that the hall has not, a line each.
 QStringList leftOut(const HallRecord& record);

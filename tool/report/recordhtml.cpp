@@ -89,7 +89,7 @@ QString list(const QStringList& lines)
 
 QString faultList(const HallRecord& record)
 {
-    const QStringList faults = recordFaults(record);
+    const QStringList faults = recordFaults(record) + walkFailures(record);
     return faults.isEmpty() ? QString()
                             : element("h2", QStringLiteral("Not as it should be")) + list(faults);
 }
@@ -319,7 +319,8 @@ QString walk(const HallRecord& record)
                                .arg(record.walk->begun().date().toString(Qt::ISODate),
                                     record.walk->begun().time().toString(QStringLiteral("HH:mm"))),
                            "counts");
-    const QList<DeviceData> hubs = placedHubs(record.hall->data());
+    const DocumentData& hall = record.hall->data();
+    const QList<DeviceData> hubs = hall.scenes.isEmpty() ? QList<DeviceData>() : placedHubs(hall);
     for (qsizetype first = 0; first < hubs.size(); first += maxHubsBeside) {
         text += walkTable(record, hubs.mid(first, maxHubsBeside));
     }

@@ -90,6 +90,12 @@ const WalkedHub* WalkFindings::walked(const DeviceData& hub) const
     return there != nullptr && isSameDevice(*there, hub) ? there : nullptr;
 }
 
+bool WalkFindings::isAnyWalked(const QList<DeviceData>& hubs) const
+{
+    return std::any_of(hubs.begin(), hubs.end(),
+                       [this](const DeviceData& hub) { return walked(hub) != nullptr; });
+}
+
 void WalkFindings::compareLayouts(const QList<SceneInfo>& layouts)
 {
     for (const SceneInfo& layout : layouts) {
@@ -148,6 +154,7 @@ void WalkFindings::count(const DocumentData& hall)
             okCount += outcome == readBackWords(layout.number, layout.number) ? 1 : 0;
         }
     }
-    m_isOfThisHall = walkedCount > 0;
+    // Where there are no layouts, or none any more, its hubs tell.
+    m_isOfThisHall = walkedCount > 0 || (hall.scenes.isEmpty() && isAnyWalked(hubs));
     m_isEverywhereOk = m_isOfThisHall && okCount == hall.scenes.size() * hubs.size();
 }

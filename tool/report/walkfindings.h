@@ -24,6 +24,9 @@ public:
     /// Whether every layout was read back from every hub and all were put back afterwards.
     bool isRight() const;
 
+    /// Whether every layout was read back from every hub.
+    bool isEverywhereOk() const { return m_isEverywhereOk; }
+
     /// Whether anything of the hall was walked; if not it was the walk of another hall.
     bool isOfThisHall() const { return m_isOfThisHall; }
 
@@ -39,6 +42,7 @@ public:
 private:
     const WalkedLayout* walked(const SceneInfo& layout) const;
     const WalkedHub* walked(const DeviceData& hub) const;
+    bool isAnyWalked(const QList<DeviceData>& hubs) const;
     void compareLayouts(const QList<SceneInfo>& layouts);
     void compareHubs(const DocumentData& hall);
     void count(const DocumentData& hall);

@@ -80,6 +80,7 @@ private Q_SLOTS:
     void aHubThatWasExchangedCountsAsNotWalked();
     void aHubThatWasAddedIsNamed();
     void theWalkOfAnotherHallIsKnownAsSuch();
+    void aHallWithoutLayoutsIsKnownByItsHubs();
 
 private:
     const DocumentData& hall() const { return m_hall->data(); }
@@ -266,6 +267,25 @@ void TestFindings::theWalkOfAnotherHallIsKnownAsSuch()
     const WalkFindings findings(hall(), walk);
     QVERIFY(!findings.isOfThisHall());
     QVERIFY(!findings.isRight());
+}
+
+void TestFindings::aHallWithoutLayoutsIsKnownByItsHubs()
+{
+    DocumentData emptied = hall();
+    emptied.scenes.clear();
+    const WalkFindings own(emptied, rightWalk(hall()));
+    QVERIFY(own.isOfThisHall());
+    QVERIFY(!own.isRight());
+    QCOMPARE(own.contradictions(),
+             QStringList({QStringLiteral("layout 1 (1+2/3/4) was walked, and the hall has none of "
+                                         "this number"),
+                          QStringLiteral("layout 2 (1/2/3/4) was walked, and the hall has none of "
+                                         "this number")}));
+    WalkReading other = rightWalk(hall());
+    for (WalkedHub& hub : other.hubs) {
+        hub.address.replace(QStringLiteral("127.0.1."), QStringLiteral("127.0.9."));
+    }
+    QVERIFY(!WalkFindings(emptied, other).isOfThisHall());
 }
 
 TESSEL_TEST_MAIN(TestFindings)

@@ -274,7 +274,12 @@ void TestRecordHtml::aWalkIsShownWithItsFailures()
     QCOMPARE(cells.count(QStringLiteral("on 1")), 4);
     QVERIFY(cells.contains(QStringLiteral("not everything was as it should be; see \"The walk\"")));
     QVERIFY(html().contains(u"Begun 2026-11-20 at 09:05."));
-    QCOMPARE(textsOf(page, "li").size(), 1); // the hub that is not back
+    const QStringList items = textsOf(page, "li");
+    QCOMPARE(items.mid(0, 2),
+             QStringList({QStringLiteral("the walk: not every layout was read back from every hub"),
+                          QStringLiteral("the walk: not every hub was put back afterwards")}));
+    QCOMPARE(items.size(), 2 + 1); // the hub that is not back
+    QCOMPARE(textsOf(page, "h2").first(), QStringLiteral("Not as it should be"));
 }
 
 void TestRecordHtml::theWalkOfAnotherHallIsNotShown()
