@@ -100,6 +100,7 @@ private Q_SLOTS:
     void wrongPasswordIsAskedForAgain();
     void firstPasswordIsTypedTwice();
     void endOfInputLeavesTheHubOut();
+    void nobodyIsAskedWhereNobodyReadsTheQuestion();
     void lostTerminalBeginsNoTransfer_data();
     void lostTerminalBeginsNoTransfer();
     void keysThatStopOrQuitDoNotAtThePrompt_data();
@@ -412,6 +413,18 @@ void TestInstallCommand::endOfInputLeavesTheHubOut()
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(text(hubIn(run, 0), "reason"), QStringLiteral("Logging in: you left it out"));
     QCOMPARE(text(hubIn(run, 1), "outcome"), QStringLiteral("done"));
+}
+
+void TestInstallCommand::nobodyIsAskedWhereNobodyReadsTheQuestion()
+{
+    START_HALL(twoHubs());
+    PtyToolRun tool({install, file.path(), noSearch, QStringLiteral("--json")},
+                    {.errorsOnScreen = false});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(text(hubIn(run, 0), "reason"),
+             QStringLiteral("Logging in: standard error is no terminal to ask for the password, "
+                            "and there is no --passwords"));
 }
 
 void TestInstallCommand::lostTerminalBeginsNoTransfer_data()
