@@ -124,6 +124,9 @@ void UserPasswords::takeLine(const QString& line)
     m_terminal->letGo();
     if (m_wishes.first().isFirst) {
         takeFirst(line);
+    } else if (line.isEmpty()) {
+        m_terminal->say(QStringLiteral("nothing was typed; Ctrl+D leaves it out"));
+        prompt();
     } else {
         finish(line);
     }

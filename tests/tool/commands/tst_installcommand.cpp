@@ -98,6 +98,7 @@ private Q_SLOTS:
     void interruptionNamesWhatIsNotFinished();
     void passwordsAreTypedUnseen();
     void wrongPasswordIsAskedForAgain();
+    void emptyPasswordIsNotSent();
     void firstPasswordIsTypedTwice();
     void endOfInputLeavesTheHubOut();
     void nobodyIsAskedWhereNobodyReadsTheQuestion();
@@ -371,6 +372,21 @@ void TestInstallCommand::wrongPasswordIsAskedForAgain()
     tool.type("\n");
     QCOMPARE(tool.ended().exitCode, 0);
     QCOMPARE(hall.hub(stage)->recalledPreset(), 1);
+}
+
+void TestInstallCommand::emptyPasswordIsNotSent()
+{
+    START_HALL(twoHubs());
+    const QString passwords = file.privateFile("passwords", line(gallery));
+    PtyToolRun tool({install, file.path(), noSearch, passwordsOption, passwords});
+    QVERIFY(tool.hasShown(QStringLiteral("password of Stage")));
+    tool.type("\n");
+    QVERIFY(tool.hasShown(QStringLiteral("nothing was typed; Ctrl+D leaves it out")));
+    QVERIFY(tool.hasShown(QStringLiteral("password of Stage")));
+    QVERIFY(!tool.isEchoing());
+    tool.type("secret7\n");
+    QCOMPARE(tool.ended().exitCode, 0);
+    QCOMPARE(hall.hub(stage)->exchangeNames().count(exchangeName(Exchange::LogIn)), 1);
 }
 
 void TestInstallCommand::firstPasswordIsTypedTwice()
