@@ -3,6 +3,8 @@
 #include "firstpassword.h"
 #include "terminal.h"
 
+#include <utility>
+
 namespace {
 
 QString firstPasswordRule()
