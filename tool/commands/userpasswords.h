@@ -24,6 +24,8 @@ public:
                   const QString& path, Terminal* terminal);
 
     void ask(const PasswordWish& wish) override;
+
+public Q_SLOTS:
     void stop() override;
 
 private Q_SLOTS:

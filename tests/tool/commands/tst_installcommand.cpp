@@ -512,6 +512,7 @@ void TestInstallCommand::interruptedPromptShowsAgainWhatIsTyped()
     QCOMPARE(run.exitCode, 1);
     QVERIFY(tool.isEchoing());
     QVERIFY2(run.errors.contains(u"interrupted"), qPrintable(run.errors));
+    QCOMPARE(run.errors.count(QStringLiteral("password of Stage")), 1);
     QCOMPARE(run.output.count(QStringLiteral("Error")), 2);
     QVERIFY(!hall.hub(stage)->exchangeNames().contains(exchangeName(Exchange::LogIn)));
 }
