@@ -35,7 +35,9 @@ PtyToolRun::PtyToolRun(const QStringList& arguments, const Setting& setting)
         ::setsid();
         ::ioctl(terminal, TIOCSCTTY, 0);
         ::dup2(terminal, STDIN_FILENO);
-        ::dup2(terminal, STDERR_FILENO);
+        if (setting.errorsOnScreen) {
+            ::dup2(terminal, STDERR_FILENO);
+        }
     });
     m_program.start(QStringLiteral(TESSEL_TOOL), arguments);
 }
@@ -92,7 +94,8 @@ ToolRun PtyToolRun::ended()
     look();
     const bool isByItself = isOver && m_program.exitStatus() == QProcess::NormalExit;
     return {isByItself ? m_program.exitCode() : -1,
-            QString::fromUtf8(m_program.readAllStandardOutput()), m_shown};
+            QString::fromUtf8(m_program.readAllStandardOutput()),
+            m_shown + QString::fromUtf8(m_program.readAllStandardError())};
 }
 
 void PtyToolRun::look()

@@ -12,7 +12,8 @@ public:
     /// How it is started.
     struct Setting
     {
-        bool hearsHangUp = true; ///< as without nohup
+        bool hearsHangUp = true;    ///< as without nohup
+        bool errorsOnScreen = true; ///< otherwise they go elsewhere
     };
 
     explicit PtyToolRun(const QStringList& arguments, const Setting& setting);
@@ -35,7 +36,7 @@ public:
     /// Takes the terminal away.
     void closeTerminal();
 
-    /// Waits for its end; its errors are all that was on the screen.
+    /// Waits for its end; its errors are all that was on the screen, or went elsewhere.
     ToolRun ended();
 
     /// Everything that was shown up to now.

@@ -207,6 +207,8 @@ void InstallJob::install()
     InstallTalk talk(m_names, &installation, m_terminal);
     const Interruption interruption;
     QEventLoop untilFinished;
+    // First of all, so that the question does not move below what is said.
+    QObject::connect(&interruption, SIGNAL(interrupted()), &passwords, SLOT(stop()));
     QObject::connect(&interruption, SIGNAL(interrupted()), &talk, SLOT(sayInterruption()));
     QObject::connect(&interruption, SIGNAL(interrupted()), &installation, SLOT(breakOff()));
     QObject::connect(&installation, SIGNAL(finished()), &untilFinished, SLOT(quit()));

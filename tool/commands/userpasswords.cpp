@@ -3,12 +3,24 @@
 #include "firstpassword.h"
 #include "terminal.h"
 
+#include <utility>
+
 namespace {
 
 QString firstPasswordRule()
 {
     return QStringLiteral("%1 to %2 letters and digits are needed")
         .arg(QString::number(FirstPassword::minLength), QString::number(FirstPassword::maxLength));
+}
+
+/// Why nobody can be asked; empty when somebody can.
+QString obstacle(const PasswordPrompt& prompt, const Terminal& terminal)
+{
+    const QString reason = QStringLiteral("%1 is no terminal to ask for the password");
+    if (!prompt.isPossible()) {
+        return reason.arg(QStringLiteral("standard input"));
+    }
+    return terminal.isWatched() ? QString() : reason.arg(QStringLiteral("standard error"));
 }
 
 } // namespace
@@ -20,7 +32,7 @@ UserPasswords::UserPasswords(const QHash<QString, QString>& names,
     , m_filed(filed)
     , m_path(path)
     , m_terminal(terminal)
-    , m_isAnswerable(m_prompt.isPossible())
+    , m_obstacle(obstacle(m_prompt, *terminal))
 {
     connect(&m_prompt, SIGNAL(typed(QString)), this, SLOT(takeLine(QString)));
     connect(&m_prompt, SIGNAL(closed()), this, SLOT(takeEnd()));
@@ -33,14 +45,12 @@ void UserPasswords::ask(const PasswordWish& wish)
         askFile(wish);
     } else if (!wish.isFirst && m_justSet.contains(wish.address)) {
         Q_EMIT given(wish.address, m_justSet.take(wish.address));
-    } else if (!m_isAnswerable) {
-        Q_EMIT withheld(wish.address,
-                        m_path.isEmpty()
-                            ? QStringLiteral("standard input is no terminal to ask for the "
-                                             "password, and there is no --passwords")
-                            : QStringLiteral("%1 has no line for it, and standard input is no "
-                                             "terminal to ask for the password")
-                                  .arg(m_path));
+    } else if (!m_obstacle.isEmpty()) {
+        Q_EMIT withheld(
+            wish.address,
+            m_path.isEmpty()
+                ? m_obstacle + QStringLiteral(", and there is no --passwords")
+                : QStringLiteral("%1 has no line for it, and %2").arg(m_path, m_obstacle));
     } else {
         m_wishes.append(wish);
         if (m_wishes.size() == 1) {
@@ -116,6 +126,9 @@ void UserPasswords::takeLine(const QString& line)
     m_terminal->letGo();
     if (m_wishes.first().isFirst) {
         takeFirst(line);
+    } else if (line.isEmpty()) {
+        m_terminal->say(QStringLiteral("nothing was typed; Ctrl+D leaves it out"));
+        prompt();
     } else {
         finish(line);
     }

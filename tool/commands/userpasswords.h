@@ -24,6 +24,8 @@ public:
                   const QString& path, Terminal* terminal);
 
     void ask(const PasswordWish& wish) override;
+
+public Q_SLOTS:
     void stop() override;
 
 private Q_SLOTS:
@@ -43,9 +45,10 @@ private:
     QString m_path;
     Terminal* m_terminal;
     PasswordPrompt m_prompt;
-    bool m_isAnswerable;           ///< a terminal was there at first; one that goes away is lost
-    QList<PasswordWish> m_wishes;  ///< for the terminal; the first one is being asked
-    std::optional<QString> m_once; ///< a first password that was typed once
+    /// Why nobody could be asked at first; a terminal that goes away later is lost instead.
+    QString m_obstacle;
+    QList<PasswordWish> m_wishes;      ///< for the terminal; the first one is being asked
+    std::optional<QString> m_once;     ///< a first password that was typed once
     QHash<QString, QString> m_justSet; ///< first passwords that are still needed for the log-in
     bool m_isExplained = false;
 };

@@ -44,7 +44,7 @@ QString taken(const QString& line, QHash<QString, QString>& passwords)
     if (!isIpv4Address(address)) {
         return QStringLiteral("it does not begin with an IPv4 address");
     }
-    if (blank == line.size()) {
+    if (blank + 1 >= line.size()) {
         return QStringLiteral("there is no password behind the address");
     }
     if (passwords.contains(address)) {

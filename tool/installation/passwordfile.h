@@ -4,7 +4,7 @@
 #include <QString>
 
 /// A file of passwords: in each line the address of a hub, a blank, and its password, which is all
-/// the rest of the line. Empty lines and those that begin with "#" are passed over.
+/// the rest of the line and not empty. Empty lines and those that begin with "#" are passed over.
 
 /// What came of reading one. A fault is one line that names the file, the place and the reason, and
 /// nothing of what the file holds.

@@ -23,6 +23,7 @@ public:
     /// them once.
     virtual void ask(const PasswordWish& wish) = 0;
 
+public Q_SLOTS:
     /// Nobody waits for an answer any more.
     virtual void stop() {}
 

@@ -99,8 +99,10 @@ private Q_SLOTS:
     void interruptionNamesWhatIsNotFinished();
     void passwordsAreTypedUnseen();
     void wrongPasswordIsAskedForAgain();
+    void emptyPasswordIsNotSent();
     void firstPasswordIsTypedTwice();
     void endOfInputLeavesTheHubOut();
+    void nobodyIsAskedWhereNobodyReadsTheQuestion();
     void lostTerminalBeginsNoTransfer_data();
     void lostTerminalBeginsNoTransfer();
     void keysThatStopOrQuitDoNotAtThePrompt_data();
@@ -388,6 +390,21 @@ void TestInstallCommand::wrongPasswordIsAskedForAgain()
     QCOMPARE(hall.hub(stage)->recalledPreset(), 1);
 }
 
+void TestInstallCommand::emptyPasswordIsNotSent()
+{
+    START_HALL(twoHubs());
+    const QString passwords = file.privateFile("passwords", line(gallery));
+    PtyToolRun tool({install, file.path(), noSearch, passwordsOption, passwords});
+    QVERIFY(tool.hasShown(QStringLiteral("password of Stage")));
+    tool.type("\n");
+    QVERIFY(tool.hasShown(QStringLiteral("nothing was typed; Ctrl+D leaves it out")));
+    QVERIFY(tool.hasShown(QStringLiteral("password of Stage")));
+    QVERIFY(!tool.isEchoing());
+    tool.type("secret7\n");
+    QCOMPARE(tool.ended().exitCode, 0);
+    QCOMPARE(hall.hub(stage)->exchangeNames().count(exchangeName(Exchange::LogIn)), 1);
+}
+
 void TestInstallCommand::firstPasswordIsTypedTwice()
 {
     HallDescription fresh = twoHubs();
@@ -428,6 +445,18 @@ void TestInstallCommand::endOfInputLeavesTheHubOut()
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(text(hubIn(run, 0), "reason"), QStringLiteral("Logging in: you left it out"));
     QCOMPARE(text(hubIn(run, 1), "outcome"), QStringLiteral("done"));
+}
+
+void TestInstallCommand::nobodyIsAskedWhereNobodyReadsTheQuestion()
+{
+    START_HALL(twoHubs());
+    PtyToolRun tool({install, file.path(), noSearch, QStringLiteral("--json")},
+                    {.errorsOnScreen = false});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(text(hubIn(run, 0), "reason"),
+             QStringLiteral("Logging in: standard error is no terminal to ask for the password, "
+                            "and there is no --passwords"));
 }
 
 void TestInstallCommand::lostTerminalBeginsNoTransfer_data()
@@ -499,6 +528,7 @@ void TestInstallCommand::interruptedPromptShowsAgainWhatIsTyped()
     QCOMPARE(run.exitCode, 1);
     QVERIFY(tool.isEchoing());
     QVERIFY2(run.errors.contains(u"interrupted"), qPrintable(run.errors));
+    QCOMPARE(run.errors.count(QStringLiteral("password of Stage")), 1);
     QCOMPARE(run.output.count(QStringLiteral("Error")), 2);
     QVERIFY(!hall.hub(stage)->exchangeNames().contains(exchangeName(Exchange::LogIn)));
 }

@@ -50,14 +50,13 @@ void TestPasswordFile::passwordsAreTheRestOfTheirLines()
                                          "10.0.0.1 secret7\n"
                                          "10.0.0.2  two  blanks \n"
                                          "10.0.0.3\tGr\xC3\xBCn#\n"
-                                         "10.0.0.4 ");
+                                         "10.0.0.4  ");
     QCOMPARE(reading.fault, QString());
     QCOMPARE(reading.passwords.size(), 4);
     QCOMPARE(reading.passwords.value(QStringLiteral("10.0.0.1")), QStringLiteral("secret7"));
     QCOMPARE(reading.passwords.value(QStringLiteral("10.0.0.2")), QStringLiteral(" two  blanks "));
     QCOMPARE(reading.passwords.value(QStringLiteral("10.0.0.3")), QStringLiteral("Gr\u00FCn#"));
-    QCOMPARE(reading.passwords.value(QStringLiteral("10.0.0.4"), QStringLiteral("none")),
-             QString());
+    QCOMPARE(reading.passwords.value(QStringLiteral("10.0.0.4")), QStringLiteral(" "));
 }
 
 void TestPasswordFile::linesOfAWindowsEditorAreTaken()
@@ -86,6 +85,9 @@ void TestPasswordFile::whatIsNoSuchFileIsNamedWithItsLineAndWithoutWhatItHolds_d
     QTest::newRow("an address alone")
         << QByteArray("#\n10.0.0.1\n")
         << QStringLiteral("line 2: there is no password behind the address");
+    QTest::newRow("an address and a blank")
+        << QByteArray("10.0.0.1 \r\n10.0.0.2 secret7\n")
+        << QStringLiteral("line 1: there is no password behind the address");
     QTest::newRow("an address twice") << QByteArray("10.0.0.1 a\n10.0.0.1 secret7\n")
                                       << QStringLiteral("line 2: an earlier line has this address");
     QTest::newRow("no UTF-8") << QByteArray("10.0.0.1 secret7\xFF\n")
