@@ -5,9 +5,9 @@
 #include <QByteArray>
 
 /// The pictures of a hall's record, as PNG: what the wizard's grids show, sharp enough for print.
-/// Rooms have their colours, their numbers and a hatching, since a copy in black and white loses the
-/// colours; where rooms are combined, all of them have the hatching of the lowest. The same rooms
-/// give the same bytes as long as the fonts are the same.
+/// Rooms have their colours, their numbers and a hatching, since a copy in black and white loses
+/// the colours; where rooms are combined, all of them have the hatching of the lowest. The same
+/// rooms give the same bytes as long as the fonts are the same.
 
 /// The rooms as they were drawn.
 QByteArray drawnRoomsPng(const QList<RoomInfo>& rooms);
