@@ -1,4 +1,5 @@
 #include "terminal.h"
+#include "texttable.h"
 #include "toolprogram.h"
 
 #include <QFile>
@@ -10,6 +11,7 @@
 #include <io.h>
 #include <windows.h>
 #else
+#include <sys/ioctl.h>
 #include <unistd.h>
 #endif
 
@@ -24,12 +26,32 @@ bool isPersonWatching(FILE* stream)
     return ::GetConsoleMode(console, &mode) != 0 &&
            ::SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
 }
+
+int toldWidth(FILE* stream)
+{
+    const auto console = reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(stream)));
+    CONSOLE_SCREEN_BUFFER_INFO info{};
+    return ::GetConsoleScreenBufferInfo(console, &info) != 0 ? info.dwSize.X : 0;
+}
 #else
 bool isPersonWatching(FILE* stream)
 {
     return ::isatty(::fileno(stream)) != 0;
 }
+
+int toldWidth(FILE* stream)
+{
+    winsize size{};
+    return ::ioctl(::fileno(stream), TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
+}
 #endif
+
+/// In columns.
+int terminalWidth(FILE* stream)
+{
+    const int width = toldWidth(stream);
+    return width > 0 ? width : TextTable::usualWidth;
+}
 
 /// What the wizard's classes note for those who work on them is no talk for users, nor is what Qt
 /// says of folders that a session without a desktop has not.
@@ -59,6 +81,6 @@ int main(int argc, char** argv)
     if (!output.open(stdout, QIODevice::WriteOnly) || !errors.open(stderr, QIODevice::WriteOnly)) {
         return int(ExitCode::CouldNotBeTried);
     }
-    Terminal terminal(&output, &errors, isPersonWatching(stderr));
+    Terminal terminal(&output, &errors, isPersonWatching(stderr), terminalWidth(stderr));
     return int(runTool(allCommands(), arguments, terminal));
 }

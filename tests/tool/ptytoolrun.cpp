@@ -29,6 +29,9 @@ PtyToolRun::PtyToolRun(const QStringList& arguments, const Setting& setting)
     ::grantpt(m_keyboard);
     ::unlockpt(m_keyboard);
     m_terminal = ::open(::ptsname(m_keyboard), O_RDWR | O_NOCTTY | O_CLOEXEC);
+    const winsize size{
+        .ws_row = 0, .ws_col = ushort(setting.columns), .ws_xpixel = 0, .ws_ypixel = 0};
+    ::ioctl(m_terminal, TIOCSWINSZ, &size);
     const int terminal = m_terminal;
     m_program.setChildProcessModifier([terminal, setting] {
         std::signal(SIGHUP, setting.hearsHangUp ? SIG_DFL : SIG_IGN);

@@ -14,6 +14,7 @@ public:
     {
         bool hearsHangUp = true;    ///< as without nohup
         bool errorsOnScreen = true; ///< otherwise they go elsewhere
+        int columns = 0;            ///< of the screen; 0 when the terminal does not tell
     };
 
     explicit PtyToolRun(const QStringList& arguments, const Setting& setting);

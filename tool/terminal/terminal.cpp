@@ -1,10 +1,11 @@
 #include "terminal.h"
 
 #include "displaywidth.h"
-#include "texttable.h"
 
 #include <QFileDevice>
 #include <QJsonDocument>
+
+#include <algorithm>
 
 namespace {
 
@@ -18,10 +19,11 @@ bool isFlushed(QIODevice* device)
 
 } // namespace
 
-Terminal::Terminal(QIODevice* data, QIODevice* talk, bool isWatched)
+Terminal::Terminal(QIODevice* data, QIODevice* talk, bool isWatched, int width)
     : m_data(data)
     , m_talk(talk)
     , m_isWatched(isWatched)
+    , m_width(width)
 {
 }
 
@@ -89,6 +91,16 @@ void Terminal::talk(const QString& text)
     isFlushed(m_talk);
 }
 
+/// In rows of the terminal, of which a long line takes several and an empty one takes one.
+int Terminal::bottomHeight() const
+{
+    int height = 0;
+    for (const QString& line : m_bottom) {
+        height += (std::max(displayWidth(line), 1) - 1) / m_width + 1;
+    }
+    return height;
+}
+
 /// What makes a terminal forget the lines at the bottom: up to the first of them, and away with all
 /// that stands behind.
 QString Terminal::erasure() const
@@ -96,7 +108,7 @@ QString Terminal::erasure() const
     if (m_bottom.isEmpty()) {
         return {};
     }
-    const qsizetype above = m_bottom.size() - 1;
+    const int above = bottomHeight() - 1;
     const QString up = above > 0 ? QStringLiteral("\x1b[%1A").arg(above) : QString();
     return u'\r' + up + QStringLiteral("\x1b[J");
 }

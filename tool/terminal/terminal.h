@@ -1,5 +1,7 @@
 #pragma once
 
+#include "texttable.h"
+
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
@@ -12,8 +14,10 @@ class Terminal
 {
 public:
     /// Neither device is owned, and both are open. `isWatched` says that a person sees the talk
-    /// while it is written, so that progress may be drawn and drawn over.
-    Terminal(QIODevice* data, QIODevice* talk, bool isWatched = false);
+    /// while it is written, so that progress may be drawn and drawn over. It breaks lines that are
+    /// longer than `width` columns, which is more than 0 and 80 where nobody tells.
+    Terminal(QIODevice* data, QIODevice* talk, bool isWatched = false,
+             int width = TextTable::usualWidth);
 
     bool isWatched() const { return m_isWatched; }
 
@@ -44,11 +48,13 @@ public:
 private:
     void put(const QByteArray& bytes);
     void talk(const QString& text);
+    int bottomHeight() const;
     QString erasure() const;
 
     QIODevice* m_data;
     QIODevice* m_talk;
     bool m_isWatched;
+    int m_width;
     QStringList m_bottom; ///< drawn or asked; the last line has no line feed yet
     bool m_isWritten = true;
 };

@@ -110,6 +110,7 @@ private Q_SLOTS:
     void interruptedPromptShowsAgainWhatIsTyped_data();
     void interruptedPromptShowsAgainWhatIsTyped();
     void barsKeepToEightyColumns();
+    void barsOnANarrowTerminalAreDrawnOver();
     void recallOfTheOthersIsOfferedAndDone_data();
     void recallOfTheOthersIsOfferedAndDone();
 };
@@ -547,6 +548,18 @@ void TestInstallCommand::barsKeepToEightyColumns()
     plain.replace(u'\r', u'\n').remove(QStringLiteral("\x1b[J")).remove(QStringLiteral("\x1b[1A"));
     QCOMPARE(lineThatIsTooWide(plain), QString());
     QCOMPARE(lineThatIsTooWide(run.output), QString());
+}
+
+void TestInstallCommand::barsOnANarrowTerminalAreDrawnOver()
+{
+    START_HALL(twoHubs());
+    const QString passwords = file.privateFile("passwords", line(stage) + line(gallery));
+    PtyToolRun tool({install, file.path(), noSearch, passwordsOption, passwords}, {.columns = 40});
+    const ToolRun run = tool.ended();
+    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+    // Each of the two bars takes two rows.
+    QVERIFY2(run.errors.contains(QStringLiteral("\r\x1b[3A\x1b[J")), qPrintable(run.errors));
+    QVERIFY(!run.errors.contains(QStringLiteral("\x1b[1A")));
 }
 
 void TestInstallCommand::recallOfTheOthersIsOfferedAndDone_data()

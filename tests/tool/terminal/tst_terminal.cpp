@@ -11,11 +11,11 @@ namespace {
 /// A terminal whose two streams are kept.
 struct KeptTerminal
 {
-    explicit KeptTerminal(bool isWatched)
+    explicit KeptTerminal(bool isWatched, int width = 80)
     {
         data.open(QIODevice::WriteOnly);
         talk.open(QIODevice::WriteOnly);
-        terminal = std::make_unique<Terminal>(&data, &talk, isWatched);
+        terminal = std::make_unique<Terminal>(&data, &talk, isWatched, width);
     }
 
     QBuffer data;
@@ -50,6 +50,8 @@ private Q_SLOTS:
     void whatATerminalWouldActUponIsShownAsAMark();
     void whatIsSaidStandsAboveTheQuestion();
     void whatIsDrawnIsDrawnOver();
+    void allRowsOfALongLineAreDrawnOver_data();
+    void allRowsOfALongLineAreDrawnOver();
     void whatWasLetGoStays();
     void nothingIsDrawnWhereNobodyWatches();
     void charactersThatActOnTerminalsAreNotDrawn();
@@ -96,6 +98,27 @@ void TestTerminal::whatIsDrawnIsDrawnOver()
     kept.terminal->draw({QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")});
     kept.terminal->draw({QStringLiteral("four")});
     QCOMPARE(kept.talk.data(), QByteArray("one\ntwo\nthree\r\x1b[2A\x1b[Jfour"));
+}
+
+void TestTerminal::allRowsOfALongLineAreDrawnOver_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QByteArray>("up");
+    QTest::newRow("nothing") << QString() << QByteArray("\x1b[1A");
+    QTest::newRow("the whole width") << QString(10, u'x') << QByteArray("\x1b[1A");
+    QTest::newRow("a letter more") << QString(11, u'x') << QByteArray("\x1b[2A");
+    QTest::newRow("three rows") << QString(30, u'x') << QByteArray("\x1b[3A");
+    QTest::newRow("letters of two columns") << QString(6, u'\u6f22') << QByteArray("\x1b[2A");
+}
+
+void TestTerminal::allRowsOfALongLineAreDrawnOver()
+{
+    QFETCH(const QString, line);
+    QFETCH(const QByteArray, up);
+    KeptTerminal kept(true, 10);
+    kept.terminal->draw({line, QStringLiteral("end")});
+    kept.terminal->draw({QStringLiteral("new")});
+    QCOMPARE(kept.talk.data(), line.toUtf8() + "\nend\r" + up + "\x1b[Jnew");
 }
 
 void TestTerminal::whatWasLetGoStays()
