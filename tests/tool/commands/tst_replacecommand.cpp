@@ -68,6 +68,7 @@ private Q_SLOTS:
     void aRemovedMicrophoneStaysRemoved();
     void theSameAddressMayHaveAnotherDevice();
     void whatIsThereAsBeforeIsNotReplaced();
+    void whatIsSilentIsNotReplacedByItself();
     void aNameThatWasGivenIsGivenAgain();
     void aLabelThatIsAskedForIsGiven();
     void aSilentDeviceNeedsItsMacAddress();
@@ -201,6 +202,17 @@ void TestReplaceCommand::whatIsThereAsBeforeIsNotReplaced()
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.errors.contains(u"tesselctl: 10.54.1.1: the device with the MAC address "
                                  "02:00:00:00:00:01 is there as before\n"),
+             qPrintable(run.errors));
+    QVERIFY(!isWritten());
+}
+
+void TestReplaceCommand::whatIsSilentIsNotReplacedByItself()
+{
+    const NetworkRun run = replace(
+        freshHub, otherHub + u' ' + otherHub + QStringLiteral(" --mac 02:00:00:00:00:02"), noCable);
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains(u"tesselctl: 10.54.1.2: the MAC address 02:00:00:00:00:02 is that "
+                                 "of the device that is to be replaced\n"),
              qPrintable(run.errors));
     QVERIFY(!isWritten());
 }
