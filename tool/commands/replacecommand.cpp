@@ -10,6 +10,7 @@
 #include "halloutput.h"
 #include "networkoptions.h"
 #include "networksearch.h"
+#include "probeaddress.h"
 #include "replacement.h"
 #include "shellword.h"
 #include "terminal.h"
@@ -40,8 +41,9 @@ QString output()
 QString faultOf(const Arguments& arguments)
 {
     const QString address = arguments.operand(2);
-    if (!isDeviceAddress(address)) {
-        return QStringLiteral("replace: NEW is no address of one device: ") + address;
+    const QString unfit = probeFault(address, systemInterfaces());
+    if (!unfit.isEmpty()) {
+        return QStringLiteral("replace: NEW %1: %2").arg(unfit, address);
     }
     const QString mac = arguments.value(macOption());
     if (!mac.isEmpty() && !isMacAddress(mac)) {
@@ -74,7 +76,8 @@ QString faultOf(const Arguments& arguments, const DocumentData& hall)
 struct Answer
 {
     std::optional<JudgedDevice> device = {};
-    QString words = {}; ///< how its address behaved, unless as it should
+    QString words = {};               ///< how its address behaved, unless as it should
+    std::optional<ExitCode> end = {}; ///< set when a MAC address does not help either
 };
 
 Answer asked(const Arguments& arguments, int waitMs, Terminal& terminal)
@@ -83,12 +86,17 @@ Answer asked(const Arguments& arguments, int waitMs, Terminal& terminal)
     const SearchResult search =
         searchNetwork(arguments.value(interfaceName()), waitMs, {address}, terminal);
     if (!search.fault.isEmpty()) {
-        return {{}, QStringLiteral("it could not be asked: ") + search.fault};
+        return {{},
+                QStringLiteral("it could not be asked: ") + search.fault,
+                arguments.has(interfaceName()) ? std::optional(ExitCode::CouldNotBeTried)
+                                               : std::nullopt};
     }
     const Probe probe = search.probes.first();
     const JudgedDevice* device = answerFrom(address, search.devices);
     return {device != nullptr ? std::optional(*device) : std::nullopt,
-            probe.result == ProbeResult::Answers ? QString() : probeWords(probe)};
+            probe.result == ProbeResult::Answers ? QString() : probeWords(probe),
+            probe.result == ProbeResult::RefusesText ? std::optional(ExitCode::SomethingIsNot)
+                                                     : std::nullopt};
 }
 
 /// The faults of the hall with the new device in it that it did not have with the old one.
@@ -154,6 +162,10 @@ ExitCode judged(HallDocument& hall, const Arguments& arguments, int waitMs, Term
     const ReplacementWish wish{arguments.operand(2), arguments.value(macOption()).toUpper(),
                                arguments.value(labelOption())};
     const Answer answer = asked(arguments, waitMs, terminal);
+    if (answer.end) {
+        say(wish.address, {answer.words}, terminal);
+        return *answer.end;
+    }
     if (!answer.device && wish.mac.isEmpty()) {
         terminal.say(QStringLiteral("%1: %2; its MAC address has to be given with --mac")
                          .arg(wish.address, answer.words));

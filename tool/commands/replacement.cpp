@@ -32,7 +32,7 @@ bool isSameMac(const QString& one, const QString& other)
 }
 
 /// Why what answers at the new address cannot take the old device's place, behind that address.
-QString faultOf(const DeviceData& old, const ReplacementWish& wish, const JudgedDevice& told)
+QString faultOfAnswer(const DeviceData& old, const ReplacementWish& wish, const JudgedDevice& told)
 {
     const DetectedDevice& device = told.record;
     if (told.verdict != Verdict::Taken) {
@@ -50,6 +50,15 @@ QString faultOf(const DeviceData& old, const ReplacementWish& wish, const Judged
             .arg(kindOf(device.modelName), kindOf(old.modelName));
     }
     return {};
+}
+
+/// Why a device that did not answer cannot take that place, behind its address.
+QString faultOfSilence(const DeviceData& old, const ReplacementWish& wish)
+{
+    return wish.address == old.ipAddress && isSameMac(wish.mac, old.macAddress)
+               ? QStringLiteral("the MAC address %1 is that of the device that is to be replaced")
+                     .arg(wish.mac)
+               : QString();
 }
 
 QString noteOf(const DeviceData& old, const JudgedDevice* told)
@@ -82,8 +91,9 @@ void label(DeviceData& device, const DeviceData& old, const ReplacementWish& wis
 Replacement replacementFor(const DeviceData& old, const ReplacementWish& wish,
                            const JudgedDevice* told)
 {
-    Replacement replacement{told != nullptr ? faultOf(old, wish, *told) : QString(), old,
-                            noteOf(old, told)};
+    Replacement replacement{told != nullptr ? faultOfAnswer(old, wish, *told)
+                                            : faultOfSilence(old, wish),
+                            old, noteOf(old, told)};
     DeviceData& device = replacement.device;
     device.ipAddress = wish.address;
     device.macAddress = told != nullptr ? told->record.macAddress : wish.mac;

@@ -68,11 +68,14 @@ private Q_SLOTS:
     void aRemovedMicrophoneStaysRemoved();
     void theSameAddressMayHaveAnotherDevice();
     void whatIsThereAsBeforeIsNotReplaced();
+    void whatIsSilentIsNotReplacedByItself();
     void aNameThatWasGivenIsGivenAgain();
     void aLabelThatIsAskedForIsGiven();
     void aSilentDeviceNeedsItsMacAddress();
     void whereNothingCanBeAskedTheMacAddressIsNeeded();
     void withItsMacAddressADeviceNeedNotAnswer();
+    void whereItsMacAddressDoesNotHelpNothingIsWritten_data();
+    void whereItsMacAddressDoesNotHelpNothingIsWritten();
     void whatSpeaksAgainstItIsNamedAndNothingIsWritten_data();
     void whatSpeaksAgainstItIsNamedAndNothingIsWritten();
     void anotherModelOfTheSameClassIsSaid();
@@ -205,6 +208,17 @@ void TestReplaceCommand::whatIsThereAsBeforeIsNotReplaced()
     QVERIFY(!isWritten());
 }
 
+void TestReplaceCommand::whatIsSilentIsNotReplacedByItself()
+{
+    const NetworkRun run = replace(
+        freshHub, otherHub + u' ' + otherHub + QStringLiteral(" --mac 02:00:00:00:00:02"), noCable);
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains(u"tesselctl: 10.54.1.2: the MAC address 02:00:00:00:00:02 is that "
+                                 "of the device that is to be replaced\n"),
+             qPrintable(run.errors));
+    QVERIFY(!isWritten());
+}
+
 void TestReplaceCommand::aNameThatWasGivenIsGivenAgain()
 {
     const NetworkRun run = replace(freshHub, otherHub + u' ' + fresh);
@@ -261,6 +275,38 @@ void TestReplaceCommand::withItsMacAddressADeviceNeedNotAnswer()
     QCOMPARE(device.modelName, QStringLiteral("PX-HB"));
     QCOMPARE(device.label, QStringLiteral("Old"));
     QVERIFY(!device.labelModified);
+}
+
+void TestReplaceCommand::whereItsMacAddressDoesNotHelpNothingIsWritten_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("something else is there")
+        << QStringLiteral("10.54.1.30") << 1
+        << QStringLiteral("10.54.1.30: refuses: something is there, but no device of a conference "
+                          "system\n");
+    QTest::newRow("no such interface")
+        << fresh + QStringLiteral(" --interface wizrad") << 3
+        << QStringLiteral("10.54.1.21: it could not be asked: there is no wired interface "
+                          "\"wizrad\"; there are: wizard\n");
+    QTest::newRow("this computer")
+        << QStringLiteral("10.54.0.1") << 2
+        << QStringLiteral("replace: NEW is an address of this computer: 10.54.0.1\n");
+    QTest::newRow("everyone") << QStringLiteral("10.54.255.255") << 2
+                              << QStringLiteral(
+                                     "replace: NEW is no address of one device: 10.54.255.255\n");
+}
+
+void TestReplaceCommand::whereItsMacAddressDoesNotHelpNothingIsWritten()
+{
+    QFETCH(const QString, address);
+    QFETCH(const QString, line);
+    const NetworkRun run =
+        replace(freshHub, hub + u' ' + address + QStringLiteral(" --mac 02:00:00:00:00:21"));
+    QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: ") + line), qPrintable(run.errors));
+    QTEST(run.exitCode, "code");
+    QVERIFY(!isWritten());
 }
 
 void TestReplaceCommand::whatSpeaksAgainstItIsNamedAndNothingIsWritten_data()
@@ -414,7 +460,7 @@ void TestReplaceCommand::wrongUsageIsOneLine_data()
     row("another device of the hall", {hub, otherHub, o, output},
         file + QStringLiteral(": 10.54.1.2 is another device of this hall"));
     row("no address", {hub, QStringLiteral("hub"), o, output},
-        QStringLiteral("replace: NEW is no address of one device: hub"));
+        QStringLiteral("replace: NEW is no IPv4 address: hub"));
     row("an address of all", {hub, QStringLiteral("255.255.255.255"), o, output},
         QStringLiteral("replace: NEW is no address of one device: 255.255.255.255"));
     row("no MAC address",
