@@ -287,7 +287,7 @@ void TestScripts::demoBuildsWhatItPlays()
     QVERIFY(run.output.section(u'\n', 0, 0).contains(u"minutes"));
     QCOMPARE(copy.log(), QStringLiteral("cmake --preset release -DTESSEL_WERROR=OFF\n"
                                         "cmake --build --preset release "
-                                        "--target tessel tessel-demo tessel-hall\n"));
+                                        "--target tessel tesselctl tessel-demo tessel-hall\n"));
 }
 
 void TestScripts::demoKeepsWhatAPersonSaved()

@@ -329,14 +329,16 @@ void TestInstallCommand::hubAloneLeavesTheOthersAndSaysSo()
 void TestInstallCommand::hubThatRefusesTheRecallIsNotCalledOnTheLayout()
 {
     START_HALL(twoHubs());
-    hall.hub(stage)->setFault(
-        {.exchange = Exchange::Recall, .kind = FaultKind::Status, .number = 503});
+    hall.hub(stage)->setFault({.exchange = Exchange::Recall,
+                               .kind = FaultKind::Body,
+                               .bytes = R"({"request":"refused"})"});
     const QString passwords = file.privateFile("passwords", line(stage));
     LiveToolRun tool({install, file.path(), noSearch, passwordsOption, passwords,
                       QStringLiteral("--hub"), stage});
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 1);
-    QVERIFY2(run.output.contains(u"Done") && run.output.contains(u"503"), qPrintable(run.output));
+    QVERIFY2(run.output.contains(u"Done") && run.output.contains(u"did not do it"),
+             qPrintable(run.output));
     QVERIFY2(run.errors.contains(u"was told to recall layout 1, and may not fit to: Gallery"),
              qPrintable(run.errors));
 }
