@@ -197,7 +197,8 @@ InstallJob::Stop InstallJob::findDevices()
     return absent.isEmpty()
                ? Stop()
                : stop(ExitCode::SomethingIsNot,
-                      QStringLiteral("nothing was installed; --no-search leaves this search out"));
+                      QStringLiteral("nothing was installed; \"replace\" is for a device that was "
+                                     "exchanged, \"find --probe\" tells why one does not answer"));
 }
 
 void InstallJob::install()
@@ -227,7 +228,7 @@ void InstallJob::report(const HallInstallation& installation)
         m_terminal->write(installTable(m_hubs, installation));
     }
     for (const DeviceData& hub : m_hubs) {
-        const InstallOutcome outcome = installation.outcome(hub.ipAddress);
+        const InstallOutcome& outcome = installation.outcome(hub.ipAddress);
         const bool isRecalled = outcome.trouble == InstallTrouble::None;
         if (!outcome.isInstalled || !isRecalled) {
             m_code = ExitCode::SomethingIsNot;

@@ -1,6 +1,7 @@
 #include "plancommand.h"
 
 #include "arguments.h"
+#include "hallfaults.h"
 #include "hallfile.h"
 #include "installablehubs.h"
 #include "installplan.h"
@@ -138,13 +139,13 @@ void writePlans(const QList<HubPlan>& plans, bool isJson, Terminal& terminal)
     }
 }
 
-/// What the hall lacks for an installation.
-QStringList missingRecords(const QList<HubPlan>& plans)
+/// What keeps the hall from being installed.
+QStringList obstacles(HallDocument& hall, const QList<HubPlan>& plans)
 {
+    QStringList lines = hallFaults(hall);
     if (plans.isEmpty()) {
-        return {QStringLiteral("there is no hub in any room")};
+        lines.append(QStringLiteral("there is no hub in any room"));
     }
-    QStringList lines;
     for (const HubPlan& planned : plans) {
         if (!planned.plan.outcome.isInstalled) {
             lines.append(planned.hub.ipAddress + QStringLiteral(": ") +
@@ -172,7 +173,8 @@ QString PlanCommand::details() const
         "Walks the installation without a hub and lists its requests in their order: "
         "preset entries, storage files with their sizes, the recall. Logging in and "
         "the names under which hubs keep their own files depend on the hubs and are "
-        "left out. When the hall lacks what a request needs, the exit code is 1.");
+        "left out. When the hall lacks what a request needs or makes no sense, the exit "
+        "code is 1 and no bodies are written.");
 }
 
 CommandSyntax PlanCommand::syntax() const
@@ -210,15 +212,16 @@ ExitCode PlanCommand::run(const Arguments& arguments, Terminal& terminal) const
             QStringLiteral("%1: %2 is no hub in a room of this hall").arg(path, unknown.first()));
         return ExitCode::WrongUsage;
     }
-    const QString unwritten = writtenFiles(plans, folder);
+    const QStringList inTheWay = obstacles(*reading.hall, plans);
+    // Bodies of a hall that makes no sense would not be those of any installation.
+    const QString unwritten = inTheWay.isEmpty() ? writtenFiles(plans, folder) : QString();
     if (!unwritten.isEmpty()) {
         terminal.say(unwritten);
         return ExitCode::CouldNotBeTried;
     }
     writePlans(plans, arguments.has(jsonOption()), terminal);
-    const QStringList missing = missingRecords(plans);
-    for (const QString& line : missing) {
+    for (const QString& line : inTheWay) {
         terminal.say(path + QStringLiteral(": ") + line);
     }
-    return missing.isEmpty() ? ExitCode::AllIsWell : ExitCode::SomethingIsNot;
+    return inTheWay.isEmpty() ? ExitCode::AllIsWell : ExitCode::SomethingIsNot;
 }

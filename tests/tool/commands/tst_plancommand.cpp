@@ -5,8 +5,10 @@
 #include "hallstore.h"
 #include "httpreply.h"
 #include "installdriver.h"
+#include "installplan.h"
 #include "installrun.h"
 #include "plancommand.h"
+#include "planfiles.h"
 #include "testcase.h"
 
 #include <QDir>
@@ -94,6 +96,7 @@ private Q_SLOTS:
     void aFolderThatCannotBeMadeIsTold();
     void aFolderThatIsNotEmptyIsRefused();
     void addressesOfAFileLeaveTheFolderNot();
+    void aHallThatMakesNoSenseIsToldAndNothingIsWritten();
     void aHallThatIsNotReadyIsToldAndAFailure();
     void aHallWithoutHubsIsToldAndAFailure();
     void anUnreadableFileIsToldAndNothingElse();
@@ -245,18 +248,26 @@ void TestPlanCommand::aFolderThatIsNotEmptyIsRefused()
 
 void TestPlanCommand::addressesOfAFileLeaveTheFolderNot()
 {
-    QByteArray text =
-        changed(sampleHallText(), "\"address\": \"127.0.1.1\"", "\"address\": \"../../../up\"");
-    text = changed(text, "02:1A:FF:00:00:05", "../../mac/../..");
-    plan(text, {QStringLiteral("--files"), path("inside/bodies")});
-    QDirIterator files(m_folder.path(), QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString file = files.next();
-        QVERIFY2(!file.contains(u"up") || file.startsWith(path("inside/bodies/")),
-                 qPrintable(file));
-        QVERIFY2(!file.contains(u"mac") || file.contains(u"/bodies/"), qPrintable(file));
-    }
-    QVERIFY(!QFile::exists(path("up")) && !QFile::exists(path("inside/up")));
+    const QTemporaryDir folder;
+    InstallPlan planned;
+    planned.requests = {{{InstallStep::PeripheralFile, 1, QStringLiteral("../../../up")},
+                         QStringLiteral("../../mac/../.."),
+                         "body"}};
+    QCOMPARE(writeBodies(folder.filePath(QStringLiteral("inside/bodies")),
+                         QStringLiteral("../../../up"), planned),
+             QString());
+    const QStringList written = filesBelow(folder.path()).keys();
+    QCOMPARE(written.size(), 1);
+    QVERIFY2(written.first().startsWith(u"/inside/bodies/"), qPrintable(written.first()));
+}
+
+void TestPlanCommand::aHallThatMakesNoSenseIsToldAndNothingIsWritten()
+{
+    const CommandRun run = plan(changed(sampleHallText(), "02:1A:FF:00:00:05", ""),
+                                {QStringLiteral("--files"), path("nonsense")});
+    QCOMPARE(run.code, ExitCode::SomethingIsNot);
+    QVERIFY2(run.errors.contains(u"its MAC address is missing"), qPrintable(run.errors));
+    QVERIFY(!QFile::exists(path("nonsense")));
 }
 
 void TestPlanCommand::aHallThatIsNotReadyIsToldAndAFailure()
