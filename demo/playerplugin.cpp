@@ -25,7 +25,7 @@ class PlayerPlugin : public QGenericPlugin
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "playerplugin.json")
 
 public:
-    QObject* create(const QString& /*name*/, const QString& /*spec*/) override
+    QObject* create(const QString& /*name*/, const QString& /*arguments*/) override
     {
         watchWarnings();
         startPlaying();
