@@ -1,3 +1,5 @@
+include(precompiled)
+
 # One static library per folder. Its headers are found by the targets that name it under USES and
 # by nobody else (USES is private and not handed on), so an include that runs upwards, or past what
 # a folder is allowed to know, does not compile.
@@ -9,6 +11,7 @@ function(tessel_layer name)
     add_library(${name} STATIC ${arg_SOURCES})
     target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PUBLIC ${arg_QT} PRIVATE tessel_options ${arg_USES})
+    tessel_precompile(${name} ${arg_QT})
 endfunction()
 
 # A program in the root of the build folder.
@@ -20,6 +23,7 @@ function(tessel_program name)
     add_executable(${name} ${arg_SOURCES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}")
     target_link_libraries(${name} PRIVATE tessel_options ${arg_USES} ${arg_QT})
+    tessel_precompile(${name} ${arg_QT})
 endfunction()
 
 # A Qt Test program, run by CTest on the offscreen platform with a home folder of its own.
@@ -39,6 +43,7 @@ function(tessel_test name)
     endif()
     add_executable(${name} ${name}.cpp ${arg_EXTRA})
     target_link_libraries(${name} PRIVATE tessel_options tessel_testsupport ${arg_USES} ${arg_QT} Qt6::Test)
+    tessel_precompile(${name} ${arg_QT})
     set(tests ${name})
     if(arg_SHARES)
         list(TRANSFORM arg_SHARES PREPEND "${name}." OUTPUT_VARIABLE tests)
