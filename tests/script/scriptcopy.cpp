@@ -26,8 +26,7 @@ ScriptCopy::ScriptCopy()
     }
     for (const char* tool : {"bash", "cat", "chmod", "env", "grep", "id", "ln", "mkdir", "readlink",
                              "rm", "sed", "sleep", "true", "uname"}) {
-        const QString name = QString::fromLatin1(tool);
-        QFile::link(QStandardPaths::findExecutable(name), pathOf(name));
+        giveOwn(QString::fromLatin1(tool));
     }
 }
 
@@ -44,6 +43,11 @@ void ScriptCopy::give(const QString& program, const QString& body)
         file.write("#!/bin/sh\n" + body.toUtf8() + '\n');
         file.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
     }
+}
+
+void ScriptCopy::giveOwn(const QString& program)
+{
+    QFile::link(QStandardPaths::findExecutable(program), pathOf(program));
 }
 
 void ScriptCopy::giveUser(bool maySudo)
@@ -73,6 +77,12 @@ void ScriptCopy::leave(const QString& path, const QByteArray& content) const
     if (file.open(QIODevice::WriteOnly)) {
         file.write(content);
     }
+}
+
+QByteArray ScriptCopy::read(const QString& path) const
+{
+    QFile file(m_checkout.filePath(path));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 ScriptRun ScriptCopy::run(const QString& script, const QStringList& arguments,

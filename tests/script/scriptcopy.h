@@ -25,6 +25,8 @@ public:
     /// Gives the scripts a program, as a script of the system's shell. What it appends to "$LOG" is
     /// read by log().
     void give(const QString& program, const QString& body);
+    /// Gives them a program of this system.
+    void giveOwn(const QString& program);
     /// Gives them `sudo`, which works or refuses, and `id`, which tells an ordinary user.
     void giveUser(bool maySudo);
     /// Gives them `dpkg-query`, which has either every package or none, and `apt-get`, which logs
@@ -33,6 +35,9 @@ public:
 
     /// Leaves a file in the checkout, as an earlier call may have done.
     void leave(const QString& path, const QByteArray& content) const;
+
+    /// What stands in a file of the checkout; nothing, where it cannot be read.
+    QByteArray read(const QString& path) const;
 
     /// Runs a script to its end, without a terminal; its environment is `environment` and what it
     /// takes to find the programs.

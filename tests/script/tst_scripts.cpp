@@ -41,6 +41,14 @@ QString cmakeCallsOfBuild(const QString& preset, const QString& asked, const QSt
     return run.exitCode == 0 ? copy.log() : run.errors;
 }
 
+/// A clone at version 2.0.0, in which nothing but what is committed lies.
+void leaveClone(ScriptCopy& copy, const QByteArray& changes)
+{
+    copy.givePackages(true);
+    copy.leave(QStringLiteral("CMakeLists.txt"), "project(tessel VERSION 2.0.0 LANGUAGES CXX\n");
+    copy.leave(QStringLiteral("CHANGELOG.md"), changes);
+}
+
 } // namespace
 
 /// The scripts, with programs that only say that they were called.
@@ -72,6 +80,9 @@ private Q_SLOTS:
     void packagesAreMadeOnDebianAlone();
     void packageIsTriedByRootAlone();
     void packageIsMadeOfWhatIsDelivered();
+    void whatIsNotReadyIsNotReleased_data();
+    void whatIsNotReadyIsNotReleased();
+    void releaseIsMadeOfACleanClone();
 };
 
 void TestScripts::everyScriptSaysWhatItIsForAndStartsNothing_data()
@@ -118,6 +129,8 @@ void TestScripts::wrongUsageIsRefused_data()
     row("package --bogus");
     row("package --test more");
     row("pictures more");
+    row("release more");
+    row("release --qt");
     row("valgrind --bogus");
     row("with-network");
     row("with-network --ready");
@@ -389,6 +402,66 @@ void TestScripts::packageIsMadeOfWhatIsDelivered()
     copy.run(QStringLiteral("package"), {});
     QCOMPARE(copy.log(), QStringLiteral("cmake --preset release -DTESSEL_WERROR=OFF\n"
                                         "cmake --build --preset release --target delivered\n"));
+}
+
+void TestScripts::whatIsNotReadyIsNotReleased_data()
+{
+    QTest::addColumn<QString>("git");
+    QTest::addColumn<QByteArray>("changes");
+    QTest::addColumn<QString>("message");
+    const QByteArray told("## 2.0.0 - 2030-01-31\n");
+    const QString noSection = QStringLiteral("CHANGELOG.md has no section \"## 2.0.0 - <date>\"");
+    QTest::newRow("no clone") << "exit 128" << told
+                              << "this is no clone: what is in a version stands in git";
+    QTest::newRow("a changed file") << "[ \"$1\" != status ] || echo ' M a'" << told
+                                    << "not everything is committed (git status)";
+    QTest::newRow("another version's changes")
+        << "true" << QByteArray("## 2.0.01 - 2030-01-31\n") << noSection;
+    QTest::newRow("changes without a date") << "true" << QByteArray("## 2.0.0\n") << noSection;
+}
+
+void TestScripts::whatIsNotReadyIsNotReleased()
+{
+    QFETCH(const QString, git);
+    QFETCH(const QByteArray, changes);
+    QFETCH(const QString, message);
+    ScriptCopy copy;
+    leaveClone(copy, changes);
+    copy.give(QStringLiteral("git"), git);
+    const QStringList before = copy.leftBehind();
+    const ScriptRun run = copy.run(QStringLiteral("release"), {});
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.output, QString());
+    QCOMPARE(run.errors, QStringLiteral("release: %1\n").arg(message));
+    QCOMPARE(copy.leftBehind(), before);
+}
+
+void TestScripts::releaseIsMadeOfACleanClone()
+{
+    ScriptCopy copy;
+    leaveClone(copy, "## 2.0.0 - 2030-01-31\n");
+    for (const char* tool : {"cp", "sha256sum", "stat", "xz"}) {
+        copy.giveOwn(QString::fromLatin1(tool));
+    }
+    // What it clones is a project whose package holds the clone's place.
+    copy.give(QStringLiteral("git"), QStringLiteral(R"(
+case $1 in
+    archive) echo sources ;;
+    clone)
+        for target; do :; done
+        mkdir -p "$target/script"
+        printf '#!/bin/sh\nmkdir -p build/package\n' >"$target/script/package"
+        echo 'echo $TESSEL_WERROR, ${PWD##*/} >build/package/tessel_2.0.0.deb' >>"$target/script/package"
+        chmod +x "$target/script/package" ;;
+esac)"));
+    copy.leave(QStringLiteral("build/artefacts/tessel_1.0.0.deb"), "of an earlier version");
+    const ScriptRun run = copy.run(QStringLiteral("release"), {});
+    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+    QCOMPARE(copy.read(QStringLiteral("build/artefacts/tessel_2.0.0.deb")), "ON, clean-clone\n");
+    const QByteArray sums = copy.read(QStringLiteral("build/artefacts/SHA256SUMS"));
+    QCOMPARE(sums.count('\n'), 2);
+    QVERIFY(sums.contains("  tessel-2.0.0.tar.xz\n") && sums.contains("  tessel_2.0.0.deb\n"));
+    QVERIFY2(run.output.contains(u"Nothing for Windows"), qPrintable(run.output));
 }
 
 TESSEL_TEST_MAIN(TestScripts)
