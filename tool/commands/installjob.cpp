@@ -190,7 +190,8 @@ InstallJob::Stop InstallJob::findDevices()
     if (!result.fault.isEmpty()) {
         return stop(ExitCode::CouldNotBeTried, result.fault);
     }
-    const QList<AbsentDevice> absent = absentDevices(m_hall->data(), result.devices);
+    const QList<AbsentDevice> absent =
+        absentDevices(m_hall->data(), result.devices, {*result.side.row});
     for (const AbsentDevice& device : absent) {
         m_terminal->say(m_path + QStringLiteral(": ") + absenceWords(device));
     }
@@ -275,9 +276,7 @@ void InstallJob::recallFirst()
     const std::optional<LayoutRecall> recall =
         recallLayout(firstLayout, placedHubs(m_hall->data()), recallWaitMs);
     const QStringList faults = recall ? recallFaults(*recall) : QStringList{silenceWords()};
-    for (const QString& fault : faults) {
-        m_terminal->say(fault);
-    }
+    m_terminal->say(faults);
     if (faults.isEmpty()) {
         m_terminal->say(QStringLiteral("layout %1 is active on all hubs").arg(firstLayout));
     } else {

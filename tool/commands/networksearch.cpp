@@ -1,5 +1,6 @@
 #include "networksearch.h"
 
+#include "foreignaddress.h"
 #include "terminal.h"
 
 #include <QEventLoop>
@@ -14,6 +15,24 @@ QString toldByText(const Probe& probe)
     return QStringLiteral("answers text commands only, not judged: label %1, firmware %2, serial "
                           "number %3")
         .arg(probe.label, probe.version, probe.serialNumber);
+}
+
+/// How the address behaved, wherever it lies.
+QString resultWords(const Probe& probe)
+{
+    switch (probe.result) {
+    case ProbeResult::Answers:
+        return QStringLiteral("answers the search");
+    case ProbeResult::DirectOnly:
+        return QStringLiteral("answers only when asked directly: broadcasts are lost on the way");
+    case ProbeResult::TextOnly:
+        return toldByText(probe);
+    case ProbeResult::RefusesText:
+        return QStringLiteral("refuses: something is there, but no device of a conference system");
+    case ProbeResult::Silent:
+        break;
+    }
+    return QStringLiteral("silent: nobody is there, or nothing gets through");
 }
 
 } // namespace
@@ -52,19 +71,11 @@ const JudgedDevice* answerFrom(const QString& address, const QList<JudgedDevice>
     return found != devices.end() ? &*found : nullptr;
 }
 
-QString probeWords(const Probe& probe)
+QString probeWords(const Probe& probe, const InterfaceChoice& side)
 {
-    switch (probe.result) {
-    case ProbeResult::Answers:
-        return QStringLiteral("answers the search");
-    case ProbeResult::DirectOnly:
-        return QStringLiteral("answers only when asked directly: broadcasts are lost on the way");
-    case ProbeResult::TextOnly:
-        return toldByText(probe);
-    case ProbeResult::RefusesText:
-        return QStringLiteral("refuses: something is there, but no device of a conference system");
-    case ProbeResult::Silent:
-        break;
-    }
-    return QStringLiteral("silent: nobody is there, or nothing gets through");
+    const QString foreign = probe.result != ProbeResult::Answers && side.row
+                                ? foreignWords(probe.address, {*side.row})
+                                : QString();
+    const QString result = resultWords(probe);
+    return foreign.isEmpty() ? result : result + QStringLiteral("; ") + foreign;
 }

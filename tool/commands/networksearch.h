@@ -25,5 +25,5 @@ SearchResult searchNetwork(const QString& interfaceName, int waitMs, const QStri
 /// The device at this address among those that answered; null when it did not.
 const JudgedDevice* answerFrom(const QString& address, const QList<JudgedDevice>& devices);
 
-/// How an address behaved that was asked by name, for people.
-QString probeWords(const Probe& probe);
+/// How an address behaved that was asked by name from this side, for people.
+QString probeWords(const Probe& probe, const InterfaceChoice& side);

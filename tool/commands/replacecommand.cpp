@@ -94,7 +94,7 @@ Answer asked(const Arguments& arguments, int waitMs, Terminal& terminal)
     const Probe probe = search.probes.first();
     const JudgedDevice* device = answerFrom(address, search.devices);
     return {device != nullptr ? std::optional(*device) : std::nullopt,
-            probe.result == ProbeResult::Answers ? QString() : probeWords(probe),
+            probe.result == ProbeResult::Answers ? QString() : probeWords(probe, search.side),
             probe.result == ProbeResult::RefusesText ? std::optional(ExitCode::SomethingIsNot)
                                                      : std::nullopt};
 }

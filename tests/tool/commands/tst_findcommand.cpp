@@ -1,6 +1,5 @@
+#include "cabletest.h"
 #include "commandrun.h"
-#include "networkrun.h"
-#include "testcase.h"
 #include "toolrun.h"
 
 #include <QJsonArray>
@@ -44,12 +43,11 @@ QString text(const QJsonObject& object, const char* key)
 } // namespace
 
 /// The tool's search across a cable, with a simulated hall at its other end.
-class TestFindCommand : public TestCase
+class TestFindCommand : public CableTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void whatADeviceTellsIsListedAndAllIsWell();
     void whatWasFoundIsTakenIntoARecord();
     void tablesKeepToEightyColumns();
@@ -60,6 +58,7 @@ private Q_SLOTS:
     void nobodyAnswering();
     void probeTellsTheCasesApart_data();
     void probeTellsTheCasesApart();
+    void addressInAnotherNetworkIsNamed();
     void whatAnswersTextCommandsOnlyIsNotJudged();
     void sideThatCannotSearch_data();
     void sideThatCannotSearch();
@@ -69,15 +68,6 @@ private Q_SLOTS:
     void wrongValuesAreOneLine_data();
     void wrongValuesAreOneLine();
 };
-
-void TestFindCommand::initTestCase()
-{
-    TestCase::initTestCase();
-    QString reason;
-    if (!hasNetwork(&reason)) {
-        QSKIP(qPrintable(reason));
-    }
-}
 
 void TestFindCommand::whatADeviceTellsIsListedAndAllIsWell()
 {
@@ -231,6 +221,19 @@ void TestFindCommand::probeTellsTheCasesApart()
     QCOMPARE(text(device(run, address), "verdict"), isListed ? QStringLiteral("taken") : QString());
     QFETCH(const QString, result);
     QCOMPARE(run.exitCode, result == u"answers" ? 0 : 1);
+}
+
+void TestFindCommand::addressInAnotherNetworkIsNamed()
+{
+    const NetworkRun run = runBesideHall(oneHub, find + QStringLiteral("--probe 10.55.0.7"));
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains(u"tesselctl: 10.55.0.7: silent: nobody is there, or nothing gets "
+                                 "through; 10.55.0.7 is not in the network of wizard "
+                                 "(10.54.0.1/16)\n"),
+             qPrintable(run.errors));
+    const QJsonObject probe =
+        run.object().value(QLatin1String("probes")).toArray().first().toObject();
+    QVERIFY(text(probe, "reason").endsWith(u"the network of wizard (10.54.0.1/16)"));
 }
 
 void TestFindCommand::whatAnswersTextCommandsOnlyIsNotJudged()
