@@ -262,13 +262,33 @@ void InstallJob::tendOthers()
     m_terminal->say((state + QStringLiteral(", and may not fit to: %2"))
                         .arg(QString::number(firstLayout), namesOf(m_others)));
     if (m_isBrokenOff || !m_terminal->isWatched() || !PasswordPrompt().isPossible()) {
-        m_terminal->say(QStringLiteral("all hubs on one layout: tesselctl recall %1 %2")
-                            .arg(QString::number(firstLayout), shellWord(m_path)));
-    } else if (isAgreedTo(
-                   QStringLiteral("Recall layout %1 on all hubs now? (y/N)").arg(firstLayout),
-                   *m_terminal)) {
-        recallFirst();
+        sayHowToRecall();
+    } else {
+        offerRecall();
     }
+}
+
+void InstallJob::offerRecall()
+{
+    const QString question =
+        QStringLiteral("Recall layout %1 on all hubs now? (y/N)").arg(firstLayout);
+    switch (askForConsent(question, *m_terminal)) {
+    case Consent::Given:
+        recallFirst();
+        break;
+    case Consent::Interrupted:
+        sayHowToRecall();
+        m_code = m_code == ExitCode::AllIsWell ? ExitCode::CouldNotBeTried : m_code;
+        break;
+    case Consent::Refused:
+        break;
+    }
+}
+
+void InstallJob::sayHowToRecall()
+{
+    m_terminal->say(QStringLiteral("all hubs on one layout: tesselctl recall %1 %2")
+                        .arg(QString::number(firstLayout), shellWord(m_path)));
 }
 
 void InstallJob::recallFirst()

@@ -1,6 +1,7 @@
 #include "networksearch.h"
 
 #include "foreignaddress.h"
+#include "interruption.h"
 #include "terminal.h"
 
 #include <QEventLoop>
@@ -47,6 +48,8 @@ SearchResult searchNetwork(const QString& interfaceName, int waitMs, const QStri
     HallSearch search(side.row->index, waitMs, probes);
     QEventLoop untilFinished;
     QObject::connect(&search, SIGNAL(finished()), &untilFinished, SLOT(quit()));
+    const Interruption interruption;
+    QObject::connect(&interruption, SIGNAL(interrupted()), &untilFinished, SLOT(quit()));
     if (!search.start()) {
         return {QStringLiteral("UDP port %1 of %2 is in use: is the wizard or another search open "
                                "on this computer?")
@@ -59,6 +62,11 @@ SearchResult searchNetwork(const QString& interfaceName, int waitMs, const QStri
     }
     const QDateTime begun = QDateTime::currentDateTime();
     untilFinished.exec();
+    if (interruption.hasCome()) {
+        return {.fault = QStringLiteral("the search was interrupted"),
+                .side = side,
+                .isInterrupted = true};
+    }
     return {{}, begun, side, search.devices(), search.probes()};
 }
 

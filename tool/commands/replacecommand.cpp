@@ -88,8 +88,9 @@ Answer asked(const Arguments& arguments, int waitMs, Terminal& terminal)
     if (!search.fault.isEmpty()) {
         return {{},
                 QStringLiteral("it could not be asked: ") + search.fault,
-                arguments.has(interfaceName()) ? std::optional(ExitCode::CouldNotBeTried)
-                                               : std::nullopt};
+                search.isInterrupted || arguments.has(interfaceName())
+                    ? std::optional(ExitCode::CouldNotBeTried)
+                    : std::nullopt};
     }
     const Probe probe = search.probes.first();
     const JudgedDevice* device = answerFrom(address, search.devices);

@@ -119,7 +119,7 @@ ExitCode walkThrough(const DocumentData& hall, const Arguments& arguments, Pace 
     }
     sayWhatWillBeHeard(hall, terminal);
     if (!arguments.has(QStringLiteral("yes")) &&
-        !isAgreedTo(QStringLiteral("Begin? (y/N)"), terminal)) {
+        askForConsent(QStringLiteral("Begin? (y/N)"), terminal) != Consent::Given) {
         terminal.say(QStringLiteral("nothing was recalled"));
         return ExitCode::CouldNotBeTried;
     }

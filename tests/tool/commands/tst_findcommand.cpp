@@ -2,6 +2,7 @@
 #include "commandrun.h"
 #include "toolrun.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QTemporaryDir>
 #include <QTest>
@@ -62,6 +63,8 @@ private Q_SLOTS:
     void whatAnswersTextCommandsOnlyIsNotJudged();
     void sideThatCannotSearch_data();
     void sideThatCannotSearch();
+    void interruptedSearchEndsOrderly_data();
+    void interruptedSearchEndsOrderly();
     void secondInterfaceInTheNetworkIsTold();
     void addressesOfTheCableItselfAreNotProbed_data();
     void addressesOfTheCableItselfAreNotProbed();
@@ -280,6 +283,34 @@ void TestFindCommand::sideThatCannotSearch()
     QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: ") + reason), qPrintable(run.errors));
     QCOMPARE(run.exitCode, 3);
     QCOMPARE(run.output, QString());
+}
+
+void TestFindCommand::interruptedSearchEndsOrderly_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::newRow("find") << QStringLiteral("find");
+    QTest::newRow("replace") << QStringLiteral(
+        "replace hall.tessel 10.54.1.1 10.54.1.9 --mac 02:00:00:00:00:09 -o "
+        "new.tessel");
+}
+
+void TestFindCommand::interruptedSearchEndsOrderly()
+{
+    QFETCH(const QString, command);
+    put("hall.json", R"({"rooms": ["1.......", "........", "........", "........", "........",
+        "........", "........", "........"], "devices": [{"address": "10.54.1.1",
+        "model": "PX-HB", "room": 1, "mac": "02:00:00:00:00:01"}]})");
+    const NetworkRun run = runBesideHall(
+        oneHub, QStringLiteral(
+                    "cd '%1'; tesselctl make hall.json -o hall.tessel; "
+                    "tesselctl %2 --wait 60 & until ss -lun | grep -q :54330; do :; "
+                    "done; kill -INT $(ss -lunp | sed -n 's/.*:54330 .*pid=\\([0-9]*\\).*/\\1/p'); "
+                    "wait $!")
+                    .arg(path("."), command));
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(run.errors.contains(u"the search was interrupted"), qPrintable(run.errors));
+    QCOMPARE(run.output, QString());
+    QVERIFY(!QFile::exists(path("new.tessel")));
 }
 
 void TestFindCommand::secondInterfaceInTheNetworkIsTold()
