@@ -143,9 +143,11 @@ void InstallDriver::carryOut(InstallMove move, const QString& reply)
         break;
     case InstallMove::AskInitialPassword:
     case InstallMove::AskPassword:
+        m_refusal = HttpReply::statusText(reply);
         ask(false);
         break;
     case InstallMove::AskPasswordAgain:
+        m_refusal = HttpReply::statusText(reply);
         ask(true);
         break;
     case InstallMove::EndLogIn:

@@ -50,6 +50,9 @@ public:
     /// Which password the run needs: the hub's first one, or that which it has.
     bool wantsFirstPassword() const { return m_run.step() == InstallStep::Validate; }
 
+    /// What the hub answered to the password that it did not take, such as "401 Unauthorized".
+    const QString& refusal() const { return m_refusal; }
+
     bool isAskingUser() const { return m_state == State::AskingUser; }
 
     /// True from a successful log-in to the next start().
@@ -69,7 +72,8 @@ Q_SIGNALS:
     /// The hub has no password yet, or did not take the one that was submitted.
     void firstPasswordWanted();
 
-    /// The hub wants its password. `wasRefused` says that the one submitted was wrong.
+    /// The hub wants its password. `wasRefused` says that the one submitted was not taken; see
+    /// refusal().
     void passwordWanted(bool wasRefused);
 
     /// The hub has accepted the password.
@@ -119,6 +123,7 @@ private:
     HttpConnection* m_connection;
     State m_state = State::Idle;
     bool m_isLoggedIn = false;
+    QString m_refusal;
     InstallOutcome m_outcome;
     QBasicTimer m_ticks;
     int m_secondsLeft = 0;

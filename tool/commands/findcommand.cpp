@@ -88,8 +88,6 @@ ExitCode FindCommand::run(const Arguments& arguments, Terminal& terminal) const
     }
     write(result, arguments.has(QStringLiteral("json")), terminal);
     const QStringList faults = findFaults(result);
-    for (const QString& fault : faults) {
-        terminal.say(fault);
-    }
+    terminal.say(faults);
     return faults.isEmpty() ? ExitCode::AllIsWell : ExitCode::SomethingIsNot;
 }

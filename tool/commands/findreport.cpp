@@ -59,11 +59,11 @@ QString deviceTables(const QList<JudgedDevice>& devices)
     return verdicts.text() + u'\n' + details.text();
 }
 
-QString probeTable(const QList<Probe>& probes)
+QString probeTable(const QList<Probe>& probes, const InterfaceChoice& side)
 {
     TextTable table({QStringLiteral("Asked"), QStringLiteral("Result")});
     for (const Probe& probe : probes) {
-        table.addRow({probe.address, probeWords(probe)});
+        table.addRow({probe.address, probeWords(probe, side)});
     }
     return table.text();
 }
@@ -85,12 +85,16 @@ QJsonObject deviceObject(const JudgedDevice& device)
             {Key::other(), device.otherAddress}};
 }
 
-QJsonObject probeObject(const Probe& probe)
+QJsonObject probeObject(const Probe& probe, const InterfaceChoice& side)
 {
-    return {{Key::address(), probe.address},    {Key::result(), resultName(probe.result)},
-            {Key::reason(), probeWords(probe)}, {Key::label(), probe.label},
-            {Key::firmware(), probe.version},   {Key::serial(), probe.serialNumber},
-            {Key::id(), probe.deviceId},        {Key::preset(), presetValue(probe.currentPreset)}};
+    return {{Key::address(), probe.address},
+            {Key::result(), resultName(probe.result)},
+            {Key::reason(), probeWords(probe, side)},
+            {Key::label(), probe.label},
+            {Key::firmware(), probe.version},
+            {Key::serial(), probe.serialNumber},
+            {Key::id(), probe.deviceId},
+            {Key::preset(), presetValue(probe.currentPreset)}};
 }
 
 QJsonObject sideObject(const InterfaceChoice& side)
@@ -110,7 +114,7 @@ QString findTables(const SearchResult& result)
         tables.append(deviceTables(result.devices));
     }
     if (!result.probes.isEmpty()) {
-        tables.append(probeTable(result.probes));
+        tables.append(probeTable(result.probes, result.side));
     }
     return tables.join(u'\n');
 }
@@ -123,7 +127,7 @@ QJsonObject findObject(const SearchResult& result)
     }
     QJsonArray probes;
     for (const Probe& probe : result.probes) {
-        probes.append(probeObject(probe));
+        probes.append(probeObject(probe, result.side));
     }
     return {{Key::begun(), result.begun.toString(Qt::ISODate)},
             {Key::interface(), sideObject(result.side)},
@@ -133,12 +137,7 @@ QJsonObject findObject(const SearchResult& result)
 
 QStringList findFaults(const SearchResult& result)
 {
-    QStringList faults;
-    for (const QString& rival : result.side.rivals) {
-        faults.append(QStringLiteral("%1 and %2 have addresses in one network: what is meant for "
-                                     "the devices may leave by either")
-                          .arg(result.side.row->name, rival));
-    }
+    QStringList faults = rivalWords(result.side);
     if (result.devices.isEmpty()) {
         faults.append(QStringLiteral("no device answered on %1 (%2)")
                           .arg(result.side.row->name, result.side.row->address));
@@ -150,7 +149,7 @@ QStringList findFaults(const SearchResult& result)
     }
     for (const Probe& probe : result.probes) {
         if (probe.result != ProbeResult::Answers) {
-            faults.append(probe.address + QStringLiteral(": ") + probeWords(probe));
+            faults.append(probe.address + QStringLiteral(": ") + probeWords(probe, result.side));
         }
     }
     return faults;

@@ -190,7 +190,8 @@ InstallJob::Stop InstallJob::findDevices()
     if (!result.fault.isEmpty()) {
         return stop(ExitCode::CouldNotBeTried, result.fault);
     }
-    const QList<AbsentDevice> absent = absentDevices(m_hall->data(), result.devices);
+    const QList<AbsentDevice> absent =
+        absentDevices(m_hall->data(), result.devices, {*result.side.row});
     for (const AbsentDevice& device : absent) {
         m_terminal->say(m_path + QStringLiteral(": ") + absenceWords(device));
     }
@@ -261,13 +262,33 @@ void InstallJob::tendOthers()
     m_terminal->say((state + QStringLiteral(", and may not fit to: %2"))
                         .arg(QString::number(firstLayout), namesOf(m_others)));
     if (m_isBrokenOff || !m_terminal->isWatched() || !PasswordPrompt().isPossible()) {
-        m_terminal->say(QStringLiteral("all hubs on one layout: tesselctl recall %1 %2")
-                            .arg(QString::number(firstLayout), shellWord(m_path)));
-    } else if (isAgreedTo(
-                   QStringLiteral("Recall layout %1 on all hubs now? (y/N)").arg(firstLayout),
-                   *m_terminal)) {
-        recallFirst();
+        sayHowToRecall();
+    } else {
+        offerRecall();
     }
+}
+
+void InstallJob::offerRecall()
+{
+    const QString question =
+        QStringLiteral("Recall layout %1 on all hubs now? (y/N)").arg(firstLayout);
+    switch (askForConsent(question, *m_terminal)) {
+    case Consent::Given:
+        recallFirst();
+        break;
+    case Consent::Interrupted:
+        sayHowToRecall();
+        m_code = m_code == ExitCode::AllIsWell ? ExitCode::CouldNotBeTried : m_code;
+        break;
+    case Consent::Refused:
+        break;
+    }
+}
+
+void InstallJob::sayHowToRecall()
+{
+    m_terminal->say(QStringLiteral("all hubs on one layout: tesselctl recall %1 %2")
+                        .arg(QString::number(firstLayout), shellWord(m_path)));
 }
 
 void InstallJob::recallFirst()
@@ -275,9 +296,7 @@ void InstallJob::recallFirst()
     const std::optional<LayoutRecall> recall =
         recallLayout(firstLayout, placedHubs(m_hall->data()), recallWaitMs);
     const QStringList faults = recall ? recallFaults(*recall) : QStringList{silenceWords()};
-    for (const QString& fault : faults) {
-        m_terminal->say(fault);
-    }
+    m_terminal->say(faults);
     if (faults.isEmpty()) {
         m_terminal->say(QStringLiteral("layout %1 is active on all hubs").arg(firstLayout));
     } else {

@@ -40,6 +40,8 @@ private:
 
     void report(const HallInstallation& installation);
     void tellOfLog();
+    void offerRecall();
+    void sayHowToRecall();
     void recallFirst();
     QString given(const char* option) const;
     Stop stop(ExitCode code, const QString& reason) const;

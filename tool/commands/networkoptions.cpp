@@ -1,6 +1,7 @@
 #include "networkoptions.h"
 
 #include "arguments.h"
+#include "foreignaddress.h"
 #include "interfacechoice.h"
 #include "terminal.h"
 
@@ -39,6 +40,30 @@ std::optional<int> millisecondsOf(const Arguments& arguments, const QString& nam
                      .arg(command.name(), writtenOption(name), QString::number(maxSeconds),
                           arguments.value(name)));
     return std::nullopt;
+}
+
+CommandOption hubInterfaceOption()
+{
+    return {
+        {interfaceOption().names},
+        QStringLiteral("the network interface towards the hubs; it is looked at before they are "
+                       "asked, and a silent hub that is not in its network is named"),
+        QStringLiteral("NAME")};
+}
+
+std::optional<QList<NicRow>> hubSides(const Arguments& arguments, Terminal& terminal)
+{
+    const QString name = arguments.value(QStringLiteral("interface"));
+    if (name.isEmpty()) {
+        return sidesOf(systemInterfaces());
+    }
+    const InterfaceChoice side = chooseInterface(systemInterfaces(), name);
+    if (!side.row) {
+        terminal.say(side.fault);
+        return std::nullopt;
+    }
+    terminal.say(rivalWords(side));
+    return QList{*side.row};
 }
 
 QString silenceWords()

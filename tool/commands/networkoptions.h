@@ -1,6 +1,7 @@
 #pragma once
 
 #include "command.h"
+#include "nicrows.h"
 
 #include <optional>
 
@@ -9,7 +10,7 @@
 /// How long a search waits for answers unless it is told otherwise.
 inline constexpr int usualSearchMs = 5000;
 
-/// --interface NAME.
+/// --interface NAME, for a search.
 CommandOption interfaceOption();
 
 /// An option whose value is a number of seconds, such as --wait SECONDS.
@@ -19,6 +20,14 @@ CommandOption secondsOption(const QString& name, const QString& description);
 /// no number from 0 to an hour, which is said.
 std::optional<int> millisecondsOf(const Arguments& arguments, const QString& name, int usualMs,
                                   const Command& command, Terminal& terminal);
+
+/// --interface NAME, for who asks hubs whose addresses are known.
+CommandOption hubInterfaceOption();
+
+/// From where this computer asks hubs: the interface that was named, or all that it has. Nothing
+/// when the one that was named cannot be used, which is said; so is that another one is in its
+/// network.
+std::optional<QList<NicRow>> hubSides(const Arguments& arguments, Terminal& terminal);
 
 /// That no hub of a hall answered, and what this computer lacks for it, if anything.
 QString silenceWords();

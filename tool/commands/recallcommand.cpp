@@ -1,6 +1,7 @@
 #include "recallcommand.h"
 
 #include "arguments.h"
+#include "foreignaddress.h"
 #include "hallfile.h"
 #include "hallhubs.h"
 #include "layoutrecall.h"
@@ -55,23 +56,43 @@ std::optional<int> layoutIn(const DocumentData& hall, const QString& number)
     return std::nullopt;
 }
 
+void write(const LayoutRecall& recall, bool isForPrograms, Terminal& terminal)
+{
+    if (isForPrograms) {
+        terminal.write(objectOf(recall));
+    } else {
+        terminal.write(tableOf(recall));
+    }
+}
+
+/// The addresses of those that never told which preset is active.
+QStringList silentHubs(const QList<DeviceData>& hubs, const std::optional<LayoutRecall>& recall)
+{
+    QStringList silent = addressesOf(hubs);
+    for (qsizetype index = 0; recall && index < hubs.size(); ++index) {
+        if (recall->presets.at(index)) {
+            silent.removeOne(hubs.at(index).ipAddress);
+        }
+    }
+    return silent;
+}
+
 /// Recalls, writes what was read back, and says which hub is not there.
-ExitCode recallOn(const QList<DeviceData>& hubs, int layout, int waitMs, bool isForPrograms,
+ExitCode recallOn(const QList<DeviceData>& hubs, int layout, int waitMs, const Arguments& arguments,
                   Terminal& terminal)
 {
-    const std::optional<LayoutRecall> recall = recallLayout(layout, hubs, waitMs);
-    if (!recall) {
-        terminal.say(silenceWords());
+    const std::optional<QList<NicRow>> sides = hubSides(arguments, terminal);
+    if (!sides) {
         return ExitCode::CouldNotBeTried;
     }
-    if (isForPrograms) {
-        terminal.write(objectOf(*recall));
-    } else {
-        terminal.write(tableOf(*recall));
+    const std::optional<LayoutRecall> recall = recallLayout(layout, hubs, waitMs);
+    if (recall) {
+        write(*recall, arguments.has(QStringLiteral("json")), terminal);
     }
-    const QStringList faults = recallFaults(*recall);
-    for (const QString& fault : faults) {
-        terminal.say(fault);
+    const QStringList faults = recall ? recallFaults(*recall) : QStringList(silenceWords());
+    terminal.say(faults + foreignWords(silentHubs(hubs, recall), *sides));
+    if (!recall) {
+        return ExitCode::CouldNotBeTried;
     }
     return faults.isEmpty() ? ExitCode::AllIsWell : ExitCode::SomethingIsNot;
 }
@@ -101,7 +122,8 @@ CommandSyntax RecallCommand::syntax() const
     return {
         {{QStringLiteral("NUMBER"), QStringLiteral("the layout")},
          {QStringLiteral("FILE"), QStringLiteral("the configuration file")}},
-        {secondsOption(QStringLiteral("wait"), QStringLiteral("how long each hub has for it (10)")),
+        {hubInterfaceOption(),
+         secondsOption(QStringLiteral("wait"), QStringLiteral("how long each hub has for it (10)")),
          {{QStringLiteral("json")}, QStringLiteral("writes JSON instead of a table")}}};
 }
 
@@ -128,5 +150,5 @@ ExitCode RecallCommand::run(const Arguments& arguments, Terminal& terminal) cons
         terminal.say(QStringLiteral("%1: no hub stands in a room").arg(file));
         return ExitCode::CouldNotBeTried;
     }
-    return recallOn(hubs, *layout, *waitMs, arguments.has(QStringLiteral("json")), terminal);
+    return recallOn(hubs, *layout, *waitMs, arguments, terminal);
 }

@@ -88,13 +88,14 @@ Answer asked(const Arguments& arguments, int waitMs, Terminal& terminal)
     if (!search.fault.isEmpty()) {
         return {{},
                 QStringLiteral("it could not be asked: ") + search.fault,
-                arguments.has(interfaceName()) ? std::optional(ExitCode::CouldNotBeTried)
-                                               : std::nullopt};
+                search.isInterrupted || arguments.has(interfaceName())
+                    ? std::optional(ExitCode::CouldNotBeTried)
+                    : std::nullopt};
     }
     const Probe probe = search.probes.first();
     const JudgedDevice* device = answerFrom(address, search.devices);
     return {device != nullptr ? std::optional(*device) : std::nullopt,
-            probe.result == ProbeResult::Answers ? QString() : probeWords(probe),
+            probe.result == ProbeResult::Answers ? QString() : probeWords(probe, search.side),
             probe.result == ProbeResult::RefusesText ? std::optional(ExitCode::SomethingIsNot)
                                                      : std::nullopt};
 }

@@ -148,9 +148,7 @@ ExitCode writeRecord(const HallRecord& record, const QString& path, Terminal& te
         return ExitCode::CouldNotBeTried;
     }
     const QStringList faults = recordFaults(record);
-    for (const QString& line : leftOut(record) + faults + walkFailures(record)) {
-        terminal.say(line);
-    }
+    terminal.say(leftOut(record) + faults + walkFailures(record));
     return faults.isEmpty() ? ExitCode::AllIsWell : ExitCode::SomethingIsNot;
 }
 

@@ -1,6 +1,7 @@
 #include "userpasswords.h"
 
 #include "firstpassword.h"
+#include "installwords.h"
 #include "terminal.h"
 
 #include <utility>
@@ -11,6 +12,48 @@ QString firstPasswordRule()
 {
     return QStringLiteral("%1 to %2 letters and digits are needed")
         .arg(QString::number(FirstPassword::minLength), QString::number(FirstPassword::maxLength));
+}
+
+/// Why this cannot be a hub's first password; empty when it can.
+QString faultOfFirst(const QString& password)
+{
+    if (FirstPassword::isPossible(password)) {
+        return {};
+    }
+    const QString fault =
+        password.size() < FirstPassword::minLength   ? QStringLiteral("it is too short: %1")
+        : password.size() > FirstPassword::maxLength ? QStringLiteral("it is too long: %1")
+                                                     : QStringLiteral("it has a character that is "
+                                                                      "neither A to Z nor a to z "
+                                                                      "nor a digit: %1");
+    return fault.arg(firstPasswordRule());
+}
+
+/// Only this answer to a log-in says something about the password.
+bool isWrong(const QString& refusal)
+{
+    return refusal == u"401" || refusal.startsWith(u"401 ");
+}
+
+/// What the hub answered to a password that it did not take.
+QString answerWords(const QString& refusal)
+{
+    const bool isOk = refusal == u"200" || refusal.startsWith(u"200 ");
+    return troubleWords(
+        {.trouble = isOk ? InstallTrouble::NotConfirmed : InstallTrouble::OtherStatus,
+         .status = refusal});
+}
+
+/// Behind the hub's name.
+QString refusalWords(const PasswordWish& wish)
+{
+    if (wish.isFirst) {
+        return QStringLiteral("it did not take the password: ") + answerWords(wish.refusal);
+    }
+    return isWrong(wish.refusal)
+               ? QStringLiteral("the password is wrong")
+               : QStringLiteral("the log-in failed, and the password may be right: ") +
+                     answerWords(wish.refusal);
 }
 
 /// Why nobody can be asked; empty when somebody can.
@@ -73,13 +116,17 @@ void UserPasswords::stop()
 void UserPasswords::askFile(const PasswordWish& wish)
 {
     const QString password = m_filed.value(wish.address);
+    const QString unfit = wish.isFirst ? faultOfFirst(password) : QString();
     if (wish.wasRefused) {
         Q_EMIT withheld(wish.address,
-                        QStringLiteral("the hub refused the password of %1").arg(m_path));
-    } else if (wish.isFirst && !FirstPassword::isPossible(password)) {
+                        !wish.isFirst && isWrong(wish.refusal)
+                            ? QStringLiteral("the hub refused the password of %1").arg(m_path)
+                            : QStringLiteral("%1 to the password of %2")
+                                  .arg(answerWords(wish.refusal), m_path));
+    } else if (!unfit.isEmpty()) {
         Q_EMIT withheld(wish.address,
                         QStringLiteral("the password of %1 cannot be a hub's first one: %2")
-                            .arg(m_path, firstPasswordRule()));
+                            .arg(m_path, unfit));
     } else {
         Q_EMIT given(wish.address, password);
     }
@@ -101,8 +148,7 @@ void UserPasswords::introduce(const PasswordWish& wish)
             QStringLiteral("passwords are not shown while you type; Ctrl+D leaves a hub out"));
     }
     if (wish.wasRefused) {
-        m_terminal->say(name + (wish.isFirst ? QStringLiteral(": the hub did not take it")
-                                             : QStringLiteral(": the password is wrong")));
+        m_terminal->say(name + QStringLiteral(": ") + refusalWords(wish));
     }
     if (wish.isFirst) {
         m_terminal->say(name + QStringLiteral(": it has no password yet and gets its first one"));
@@ -136,11 +182,11 @@ void UserPasswords::takeLine(const QString& line)
 
 void UserPasswords::takeFirst(const QString& line)
 {
-    if (!m_once && FirstPassword::isPossible(line)) {
+    if (!m_once && faultOfFirst(line).isEmpty()) {
         m_once = line;
         prompt();
     } else if (!m_once) {
-        m_terminal->say(firstPasswordRule());
+        m_terminal->say(faultOfFirst(line));
         prompt();
     } else if (*m_once != line) {
         m_once.reset();

@@ -2,6 +2,7 @@
 
 #include "arguments.h"
 #include "consent.h"
+#include "foreignaddress.h"
 #include "hallfile.h"
 #include "hallhubs.h"
 #include "interruption.h"
@@ -98,18 +99,17 @@ ExitCode report(const WalkResult& result, bool isForPrograms, Terminal& terminal
     } else {
         terminal.write(walkTable(result));
     }
-    for (const QString& note : restoreNotes(result)) {
-        terminal.say(note);
-    }
-    for (const QString& fault : restoreFaults(result)) {
-        terminal.say(fault);
-    }
+    terminal.say(restoreNotes(result) + restoreFaults(result));
     return isWalkRight(result) ? ExitCode::AllIsWell : ExitCode::SomethingIsNot;
 }
 
 ExitCode walkThrough(const DocumentData& hall, const Arguments& arguments, Pace pace,
                      Terminal& terminal)
 {
+    const std::optional<QList<NicRow>> sides = hubSides(arguments, terminal);
+    if (!sides) {
+        return ExitCode::CouldNotBeTried;
+    }
     // Opened first: nobody should hear a walk whose result cannot be kept.
     QSaveFile kept(arguments.value(QStringLiteral("o")));
     const bool isKept = arguments.has(QStringLiteral("o"));
@@ -119,7 +119,7 @@ ExitCode walkThrough(const DocumentData& hall, const Arguments& arguments, Pace 
     }
     sayWhatWillBeHeard(hall, terminal);
     if (!arguments.has(QStringLiteral("yes")) &&
-        !isAgreedTo(QStringLiteral("Begin? (y/N)"), terminal)) {
+        askForConsent(QStringLiteral("Begin? (y/N)"), terminal) != Consent::Given) {
         terminal.say(QStringLiteral("nothing was recalled"));
         return ExitCode::CouldNotBeTried;
     }
@@ -129,6 +129,7 @@ ExitCode walkThrough(const DocumentData& hall, const Arguments& arguments, Pace 
     WalkProgress progress(&result, &terminal);
     walkToTheEnd(walk, progress);
     const ExitCode code = report(result, arguments.has(QStringLiteral("json")), terminal);
+    terminal.say(foreignWords(silentHubs(result), *sides));
     const QString unwritten =
         isKept ? writeWhole(kept, QJsonDocument(walkObject(result)).toJson()) : QString();
     if (!unwritten.isEmpty()) {
@@ -164,6 +165,7 @@ CommandSyntax WalkCommand::syntax() const
 {
     return {{{QStringLiteral("FILE"), QStringLiteral("the configuration file")}},
             {{{QStringLiteral("yes")}, QStringLiteral("begins without asking")},
+             hubInterfaceOption(),
              secondsOption(QStringLiteral("settle"),
                            QStringLiteral("how long a layout is left alone before it is read back "
                                           "(2)")),

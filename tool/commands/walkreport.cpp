@@ -155,3 +155,21 @@ QStringList restoreNotes(const WalkResult& result)
     }
     return notes;
 }
+
+QStringList silentHubs(const WalkResult& result)
+{
+    QStringList silent;
+    if (result.walk.isStopped() && !result.walk.hasRecalled()) {
+        return silent;
+    }
+    for (const DeviceData& hub : result.hubs) {
+        const bool hasToldLater =
+            std::any_of(result.layouts.begin(), result.layouts.end(), [&](const SceneInfo& layout) {
+                return readOf(result, layout, hub).has_value();
+            });
+        if (!presetOf(result.walk.before(), hub) && !hasToldLater) {
+            silent.append(hub.ipAddress);
+        }
+    }
+    return silent;
+}

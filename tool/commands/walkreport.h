@@ -36,3 +36,6 @@ QStringList restoreFaults(const WalkResult& result);
 
 /// The hubs on which no preset was active before, a line each.
 QStringList restoreNotes(const WalkResult& result);
+
+/// The addresses of the hubs that never told which preset is active, though there was the time.
+QStringList silentHubs(const WalkResult& result);

@@ -1,5 +1,7 @@
 #include "absentdevices.h"
 
+#include "foreignaddress.h"
+
 namespace {
 
 DeviceRecords takenAmong(const QList<JudgedDevice>& found)
@@ -28,9 +30,17 @@ QString reasonAtAddress(const DeviceData& device, const JudgedDevice& there)
                      .arg(there.record.macAddress);
 }
 
-QString reasonOf(const DeviceData& device, const QList<JudgedDevice>& found)
+QString silenceOf(const QString& address, const QList<NicRow>& sides)
 {
-    QString reason = QStringLiteral("no answer");
+    const QString foreign = foreignWords(address, sides);
+    const QString silence = QStringLiteral("no answer");
+    return foreign.isEmpty() ? silence : silence + QStringLiteral("; ") + foreign;
+}
+
+QString reasonOf(const DeviceData& device, const QList<JudgedDevice>& found,
+                 const QList<NicRow>& sides)
+{
+    QString reason = silenceOf(device.ipAddress, sides);
     for (const JudgedDevice& other : found) {
         if (other.record.ipAddress == device.ipAddress) {
             return reasonAtAddress(device, other);
@@ -45,7 +55,8 @@ QString reasonOf(const DeviceData& device, const QList<JudgedDevice>& found)
 
 } // namespace
 
-QList<AbsentDevice> absentDevices(const DocumentData& hall, const QList<JudgedDevice>& found)
+QList<AbsentDevice> absentDevices(const DocumentData& hall, const QList<JudgedDevice>& found,
+                                  const QList<NicRow>& sides)
 {
     DeviceRecords taken = takenAmong(found);
     QList<AbsentDevice> absent;
@@ -53,7 +64,7 @@ QList<AbsentDevice> absentDevices(const DocumentData& hall, const QList<JudgedDe
         const bool isThere =
             taken.find(device.ipAddress, device.macAddress, device.modelName) != nullptr;
         if (device.roomNumber != 0 && !isThere) {
-            absent.append({device, reasonOf(device, found)});
+            absent.append({device, reasonOf(device, found, sides)});
         }
     }
     return absent;

@@ -73,12 +73,17 @@ void HallInstallation::breakOff()
 void HallInstallation::askFirstPassword()
 {
     const QString hub = hubOfSender();
-    m_passwords->ask({.address = hub, .isFirst = true, .wasRefused = m_gotFirst.contains(hub)});
+    m_passwords->ask({.address = hub,
+                      .isFirst = true,
+                      .wasRefused = m_gotFirst.contains(hub),
+                      .refusal = m_drivers.value(hub)->refusal()});
 }
 
 void HallInstallation::askPassword(bool wasRefused)
 {
-    m_passwords->ask({.address = hubOfSender(), .wasRefused = wasRefused});
+    const QString hub = hubOfSender();
+    m_passwords->ask(
+        {.address = hub, .wasRefused = wasRefused, .refusal = m_drivers.value(hub)->refusal()});
 }
 
 void HallInstallation::submit(const QString& hub, const QString& password)

@@ -9,6 +9,7 @@ struct PasswordWish
     QString address;         ///< the hub's
     bool isFirst = false;    ///< it has no password yet and is to get this one
     bool wasRefused = false; ///< the one before was told, and the hub did not take it
+    QString refusal = {};    ///< what it answered to that, such as "401 Unauthorized"
 };
 
 /// Whoever knows the passwords of the hubs, or knows whom to ask.

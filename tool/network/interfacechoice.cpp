@@ -112,3 +112,14 @@ InterfaceChoice chooseInterface(const QList<NicInfo>& interfaces, const QString&
     }
     return choice;
 }
+
+QStringList rivalWords(const InterfaceChoice& choice)
+{
+    QStringList lines;
+    for (const QString& rival : choice.rivals) {
+        lines.append(QStringLiteral("%1 and %2 have addresses in one network: what is meant for "
+                                    "the devices may leave by either")
+                         .arg(choice.row->name, rival));
+    }
+    return lines;
+}

@@ -21,3 +21,6 @@ QString addressFault(const QList<NicInfo>& interfaces);
 /// Chooses among the wired interfaces the one of that name; with an empty name the only one that
 /// has an address.
 InterfaceChoice chooseInterface(const QList<NicInfo>& interfaces, const QString& name);
+
+/// What is to be said of the rivals, a line each.
+QStringList rivalWords(const InterfaceChoice& choice);

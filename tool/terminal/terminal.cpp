@@ -50,6 +50,13 @@ void Terminal::say(const QString& line)
     talk(erasure() + lines + m_bottom.join(u'\n'));
 }
 
+void Terminal::say(const QStringList& lines)
+{
+    for (const QString& line : lines) {
+        say(line);
+    }
+}
+
 void Terminal::draw(const QStringList& lines)
 {
     if (m_isWatched) {

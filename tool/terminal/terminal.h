@@ -32,6 +32,9 @@ public:
     /// shown as marks.
     void say(const QString& line);
 
+    /// The same with several lines.
+    void say(const QStringList& lines);
+
     /// Shows lines that stay at the bottom, below what is said meanwhile, until they are replaced
     /// or let go; the first word is not the program's name. Does nothing when nobody watches.
     void draw(const QStringList& lines);

@@ -1,8 +1,8 @@
+#include "cabletest.h"
 #include "commandrun.h"
-#include "networkrun.h"
-#include "testcase.h"
 #include "toolrun.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QTemporaryDir>
 #include <QTest>
@@ -44,12 +44,11 @@ QString text(const QJsonObject& object, const char* key)
 } // namespace
 
 /// The tool's search across a cable, with a simulated hall at its other end.
-class TestFindCommand : public TestCase
+class TestFindCommand : public CableTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void whatADeviceTellsIsListedAndAllIsWell();
     void whatWasFoundIsTakenIntoARecord();
     void tablesKeepToEightyColumns();
@@ -60,24 +59,18 @@ private Q_SLOTS:
     void nobodyAnswering();
     void probeTellsTheCasesApart_data();
     void probeTellsTheCasesApart();
+    void addressInAnotherNetworkIsNamed();
     void whatAnswersTextCommandsOnlyIsNotJudged();
     void sideThatCannotSearch_data();
     void sideThatCannotSearch();
+    void interruptedSearchEndsOrderly_data();
+    void interruptedSearchEndsOrderly();
     void secondInterfaceInTheNetworkIsTold();
     void addressesOfTheCableItselfAreNotProbed_data();
     void addressesOfTheCableItselfAreNotProbed();
     void wrongValuesAreOneLine_data();
     void wrongValuesAreOneLine();
 };
-
-void TestFindCommand::initTestCase()
-{
-    TestCase::initTestCase();
-    QString reason;
-    if (!hasNetwork(&reason)) {
-        QSKIP(qPrintable(reason));
-    }
-}
 
 void TestFindCommand::whatADeviceTellsIsListedAndAllIsWell()
 {
@@ -233,6 +226,19 @@ void TestFindCommand::probeTellsTheCasesApart()
     QCOMPARE(run.exitCode, result == u"answers" ? 0 : 1);
 }
 
+void TestFindCommand::addressInAnotherNetworkIsNamed()
+{
+    const NetworkRun run = runBesideHall(oneHub, find + QStringLiteral("--probe 10.55.0.7"));
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains(u"tesselctl: 10.55.0.7: silent: nobody is there, or nothing gets "
+                                 "through; 10.55.0.7 is not in the network of wizard "
+                                 "(10.54.0.1/16)\n"),
+             qPrintable(run.errors));
+    const QJsonObject probe =
+        run.object().value(QLatin1String("probes")).toArray().first().toObject();
+    QVERIFY(text(probe, "reason").endsWith(u"the network of wizard (10.54.0.1/16)"));
+}
+
 void TestFindCommand::whatAnswersTextCommandsOnlyIsNotJudged()
 {
     const NetworkRun run =
@@ -277,6 +283,34 @@ void TestFindCommand::sideThatCannotSearch()
     QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: ") + reason), qPrintable(run.errors));
     QCOMPARE(run.exitCode, 3);
     QCOMPARE(run.output, QString());
+}
+
+void TestFindCommand::interruptedSearchEndsOrderly_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::newRow("find") << QStringLiteral("find");
+    QTest::newRow("replace") << QStringLiteral(
+        "replace hall.tessel 10.54.1.1 10.54.1.9 --mac 02:00:00:00:00:09 -o "
+        "new.tessel");
+}
+
+void TestFindCommand::interruptedSearchEndsOrderly()
+{
+    QFETCH(const QString, command);
+    put("hall.json", R"({"rooms": ["1.......", "........", "........", "........", "........",
+        "........", "........", "........"], "devices": [{"address": "10.54.1.1",
+        "model": "PX-HB", "room": 1, "mac": "02:00:00:00:00:01"}]})");
+    const NetworkRun run = runBesideHall(
+        oneHub, QStringLiteral(
+                    "cd '%1'; tesselctl make hall.json -o hall.tessel; "
+                    "tesselctl %2 --wait 60 & until ss -lun | grep -q :54330; do :; "
+                    "done; kill -INT $(ss -lunp | sed -n 's/.*:54330 .*pid=\\([0-9]*\\).*/\\1/p'); "
+                    "wait $!")
+                    .arg(path("."), command));
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(run.errors.contains(u"the search was interrupted"), qPrintable(run.errors));
+    QCOMPARE(run.output, QString());
+    QVERIFY(!QFile::exists(path("new.tessel")));
 }
 
 void TestFindCommand::secondInterfaceInTheNetworkIsTold()

@@ -99,8 +99,13 @@ private Q_SLOTS:
     void interruptionNamesWhatIsNotFinished();
     void passwordsAreTypedUnseen();
     void wrongPasswordIsAskedForAgain();
+    void answerThatSaysNothingOfThePasswordIsTold();
+    void answerThatSaysNothingOfThePasswordOfTheFileIsTold();
     void emptyPasswordIsNotSent();
     void firstPasswordIsTypedTwice();
+    void firstPasswordThatIsRefusedIsToldWhy_data();
+    void firstPasswordThatIsRefusedIsToldWhy();
+    void hubThatDoesNotTakeItsFirstPasswordIsToldWhy();
     void endOfInputLeavesTheHubOut();
     void nobodyIsAskedWhereNobodyReadsTheQuestion();
     void lostTerminalBeginsNoTransfer_data();
@@ -113,6 +118,7 @@ private Q_SLOTS:
     void barsOnANarrowTerminalAreDrawnOver();
     void recallOfTheOthersIsOfferedAndDone_data();
     void recallOfTheOthersIsOfferedAndDone();
+    void interruptionOfTheOfferEndsOrderly();
 };
 
 #define START_HALL(DESCRIPTION)                                                                    \
@@ -393,6 +399,38 @@ void TestInstallCommand::wrongPasswordIsAskedForAgain()
     QCOMPARE(hall.hub(stage)->recalledPreset(), 1);
 }
 
+void TestInstallCommand::answerThatSaysNothingOfThePasswordIsTold()
+{
+    START_HALL(twoHubs());
+    hall.hub(stage)->setFault(
+        {.exchange = Exchange::LogIn, .kind = FaultKind::Status, .number = 503, .times = 1});
+    const QString passwords = file.privateFile("passwords", line(gallery));
+    PtyToolRun tool({install, file.path(), noSearch, passwordsOption, passwords});
+    QVERIFY(tool.hasShown(QStringLiteral("password of Stage")));
+    tool.type("secret7\n");
+    QVERIFY(tool.hasShown(QStringLiteral("the password may be right")));
+    QVERIFY(tool.hasShown(QStringLiteral("password of Stage")));
+    tool.type("secret7\n");
+    const ToolRun run = tool.ended();
+    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+    QVERIFY2(run.errors.contains(u"503 Service"), qPrintable(run.errors));
+    QVERIFY2(!run.errors.contains(u"the password is wrong"), qPrintable(run.errors));
+}
+
+void TestInstallCommand::answerThatSaysNothingOfThePasswordOfTheFileIsTold()
+{
+    START_HALL(twoHubs());
+    hall.hub(gallery)->setFault(
+        {.exchange = Exchange::LogIn, .kind = FaultKind::Status, .number = 503});
+    const QString passwords = file.privateFile("passwords", line(stage) + line(gallery));
+    LiveToolRun tool(
+        {install, file.path(), noSearch, passwordsOption, passwords, QStringLiteral("--json")});
+    const QString reason = text(hubIn(tool.ended(), 1), "reason");
+    QVERIFY2(reason.startsWith(u"Logging in: the hub answered 503 ") &&
+                 reason.endsWith(QStringLiteral(" to the password of ") + passwords),
+             qPrintable(reason));
+}
+
 void TestInstallCommand::emptyPasswordIsNotSent()
 {
     START_HALL(twoHubs());
@@ -434,6 +472,55 @@ void TestInstallCommand::firstPasswordIsTypedTwice()
     QVERIFY(!run.errors.contains(u"Opensesame"));
     QCOMPARE(hall.hub(stage)->exchangeNames().count(exchangeName(Exchange::SetPassword)), 1);
     QCOMPARE(hall.hub(stage)->recalledPreset(), 1);
+}
+
+void TestInstallCommand::firstPasswordThatIsRefusedIsToldWhy_data()
+{
+    QTest::addColumn<QByteArray>("typed");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("too short") << QByteArray("abc\n") << QStringLiteral("it is too short: 4 to 16");
+    QTest::newRow("nothing") << QByteArray("\n") << QStringLiteral("it is too short: 4 to 16");
+    QTest::newRow("too long") << QByteArray("a2345678901234567\n")
+                              << QStringLiteral("it is too long: 4 to 16");
+    QTest::newRow("a blank") << QByteArray("open sesame\n")
+                             << QStringLiteral("it has a character that is neither A to Z nor");
+}
+
+void TestInstallCommand::firstPasswordThatIsRefusedIsToldWhy()
+{
+    QFETCH(const QByteArray, typed);
+    QFETCH(const QString, reason);
+    HallDescription fresh = twoHubs();
+    fresh.hubs[0].password.reset();
+    START_HALL(fresh);
+    PtyToolRun tool({install, file.path(), noSearch, QStringLiteral("--hub"), stage});
+    QVERIFY(tool.hasShown(QStringLiteral("new password of Stage")));
+    tool.type(typed);
+    QVERIFY2(tool.hasShown(reason), qPrintable(tool.screen()));
+    QVERIFY(tool.hasShown(QStringLiteral("new password of Stage")));
+    tool.type("\x04");
+    QCOMPARE(tool.ended().exitCode, 1);
+    QVERIFY(!hall.hub(stage)->exchangeNames().contains(exchangeName(Exchange::SetPassword)));
+}
+
+void TestInstallCommand::hubThatDoesNotTakeItsFirstPasswordIsToldWhy()
+{
+    HallDescription fresh = twoHubs();
+    fresh.hubs[0].password.reset();
+    START_HALL(fresh);
+    hall.hub(stage)->setFault(
+        {.exchange = Exchange::SetPassword, .kind = FaultKind::Status, .number = 503});
+    PtyToolRun tool({install, file.path(), noSearch, QStringLiteral("--hub"), stage});
+    for (const char* question : {"new password of Stage", "once more"}) {
+        QVERIFY(tool.hasShown(QLatin1String(question)));
+        tool.type("Opensesame1\n");
+    }
+    QVERIFY2(tool.hasShown(QStringLiteral("it did not take the password: the hub answered")),
+             qPrintable(tool.screen()));
+    QVERIFY2(tool.hasShown(QStringLiteral("503 Service")), qPrintable(tool.screen()));
+    QVERIFY(tool.hasShown(QStringLiteral("new password of Stage")));
+    tool.type("\x04");
+    QCOMPARE(tool.ended().exitCode, 1);
 }
 
 void TestInstallCommand::endOfInputLeavesTheHubOut()
@@ -590,6 +677,22 @@ void TestInstallCommand::recallOfTheOthersIsOfferedAndDone()
     QCOMPARE(run.errors.contains(QStringLiteral("layout 1 is active on all hubs")), isRecalled);
     QCOMPARE(hall.hub(gallery)->exchangeNames().contains(exchangeName(Exchange::RecallCommand)),
              isRecalled);
+}
+
+void TestInstallCommand::interruptionOfTheOfferEndsOrderly()
+{
+    START_HALL(twoHubs());
+    const QString passwords = file.privateFile("passwords", line(stage));
+    PtyToolRun tool({install, file.path(), noSearch, passwordsOption, passwords,
+                     QStringLiteral("--hub"), stage});
+    QVERIFY(tool.hasShown(QStringLiteral("Recall layout 1 on all hubs now? (y/N)")));
+    tool.type("\x03");
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(run.errors.contains(u"all hubs on one layout: tesselctl recall 1"),
+             qPrintable(run.errors));
+    QVERIFY(tool.isEchoing());
+    QCOMPARE(hall.hub(gallery)->exchangeNames(), QStringList());
 }
 
 TESSEL_TEST_MAIN(TestInstallCommand)

@@ -1,5 +1,4 @@
-#include "networkrun.h"
-#include "testcase.h"
+#include "cabletest.h"
 
 #include <QTest>
 
@@ -41,27 +40,18 @@ const QString galleryMac = QStringLiteral("02:00:00:00:00:02");
 } // namespace
 
 /// The search of `install` across a cable, with a simulated hall at its other end.
-class TestInstallSearch : public TestCase
+class TestInstallSearch : public CableTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void hallThatIsThereIsInstalled();
     void deviceThatIsNotTheSameStopsEverything();
     void deviceThatTheWizardDoesNotTakeIsMissingWithItsReason();
+    void deviceInAnotherNetworkIsMissingWithThatReason();
     void withoutTheSearchNothingIsMissed();
     void interfaceThatIsNotThereStopsEverything();
 };
-
-void TestInstallSearch::initTestCase()
-{
-    TestCase::initTestCase();
-    QString reason;
-    if (!hasNetwork(&reason)) {
-        QSKIP(qPrintable(reason));
-    }
-}
 
 void TestInstallSearch::hallThatIsThereIsInstalled()
 {
@@ -91,6 +81,17 @@ void TestInstallSearch::deviceThatTheWizardDoesNotTakeIsMissingWithItsReason()
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.errors.contains(u"firmware too old: has 1.0.0, needs 2"), qPrintable(run.errors));
     QCOMPARE(run.output, QString());
+}
+
+void TestInstallSearch::deviceInAnotherNetworkIsMissingWithThatReason()
+{
+    QString elsewhere = installing(QStringLiteral("02:00:00:00:00:03"));
+    elsewhere.replace(QStringLiteral("10.54.1.2"), QStringLiteral("10.55.1.2"));
+    const NetworkRun run = runBesideHall(hallOf(), elsewhere);
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains(u"Gallery (10.55.1.2), PX-HB in room 2: no answer; 10.55.1.2 is "
+                                 "not in the network of wizard (10.54.0.1/16)\n"),
+             qPrintable(run.errors));
 }
 
 void TestInstallSearch::withoutTheSearchNothingIsMissed()

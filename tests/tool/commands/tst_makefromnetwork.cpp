@@ -1,9 +1,7 @@
+#include "cabletest.h"
 #include "hallfile.h"
-#include "networkrun.h"
-#include "testcase.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -37,12 +35,11 @@ QByteArray builtHall(const QByteArray& faults = {}, const QByteArray& hubVersion
 } // namespace
 
 /// `make --interface`, across a cable with the devices at its other end.
-class TestMakeFromNetwork : public TestCase
+class TestMakeFromNetwork : public CableTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void whatTheListLacksComesFromTheNetwork();
     void whatOnlyAnswersAloneIsAskedAlone();
@@ -54,23 +51,11 @@ private Q_SLOTS:
     void whatSpeaksAgainstItIsWrittenWhenForced();
 
 private:
-    QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
     NetworkRun make(const QByteArray& hall,
                     const QString& options = QStringLiteral("--interface wizard")) const;
-    void plan(const QByteArray& text) const;
+    void plan(const QByteArray& text) const { put("hall.json", text); }
     bool isWritten() const { return QFile::exists(path("hall.tessel")); }
-
-    QTemporaryDir m_folder;
 };
-
-void TestMakeFromNetwork::initTestCase()
-{
-    TestCase::initTestCase();
-    QString reason;
-    if (!hasNetwork(&reason)) {
-        QSKIP(qPrintable(reason));
-    }
-}
 
 void TestMakeFromNetwork::init()
 {
@@ -79,16 +64,9 @@ void TestMakeFromNetwork::init()
     plan(plannedHall);
 }
 
-void TestMakeFromNetwork::plan(const QByteArray& text) const
-{
-    QFile file(path("hall.json"));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
-}
-
 NetworkRun TestMakeFromNetwork::make(const QByteArray& hall, const QString& options) const
 {
-    return runBesideHall(hall, QStringLiteral("tesselctl make '%1' -o '%2' --wait 1 %3")
-                                   .arg(path("hall.json"), path("hall.tessel"), options));
+    return runTool(hall, QStringLiteral("make hall.json -o hall.tessel ") + options);
 }
 
 void TestMakeFromNetwork::whatTheListLacksComesFromTheNetwork()
@@ -117,8 +95,7 @@ void TestMakeFromNetwork::whatDoesNotAnswerStillLacksIt()
         make(builtHall(R"({"device": "10.54.1.2", "at": "discovery", "kind": "no-reply"})"));
     QCOMPARE(run.exitCode, 3);
     QVERIFY2(run.errors.contains(
-                 QStringLiteral("tesselctl: %1: device 10.54.1.2: its MAC address is missing\n")
-                     .arg(path("hall.json"))),
+                 u"tesselctl: hall.json: device 10.54.1.2: its MAC address is missing\n"),
              qPrintable(run.errors));
     QVERIFY(!run.errors.contains(u"device 10.54.1.1"));
     QVERIFY(!isWritten());
@@ -154,9 +131,8 @@ void TestMakeFromNetwork::whatTheListSaysIsHeldAgainstTheNetwork()
     plan(text.replace(before, after));
     const NetworkRun run = make(builtHall({}, hubVersion));
     QCOMPARE(run.exitCode, 3);
-    QVERIFY2(
-        run.errors.contains(QStringLiteral("tesselctl: %1: %2\n").arg(path("hall.json"), fault)),
-        qPrintable(run.errors));
+    QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: hall.json: %1\n").arg(fault)),
+             qPrintable(run.errors));
     QVERIFY(!isWritten());
 }
 

@@ -1,12 +1,10 @@
+#include "cabletest.h"
 #include "hallfile.h"
 #include "halljson.h"
-#include "networkrun.h"
-#include "testcase.h"
 #include "toolrun.h"
 
 #include <QFile>
 #include <QJsonDocument>
-#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -56,12 +54,11 @@ const QByteArray freshHub = oneDevice("hubs", freshTexts());
 } // namespace
 
 /// `replace`, across a cable with the new device at its other end.
-class TestReplaceCommand : public TestCase
+class TestReplaceCommand : public CableTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void aHubTakesOverItsRoomAndSetsAndKeepsItsName();
     void aSpeakerTakesOverItsSide();
@@ -89,24 +86,12 @@ private Q_SLOTS:
     void wrongUsageIsOneLine();
 
 private:
-    QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
     void writeHall(const QByteArray& text) const;
     NetworkRun replace(const QByteArray& hall, const QString& arguments,
                        const QString& before = {}) const;
     HallReading written() const { return readHallFile(path("new.tessel")); }
     bool isWritten() const { return QFile::exists(path("new.tessel")); }
-
-    QTemporaryDir m_folder;
 };
-
-void TestReplaceCommand::initTestCase()
-{
-    TestCase::initTestCase();
-    QString reason;
-    if (!hasNetwork(&reason)) {
-        QSKIP(qPrintable(reason));
-    }
-}
 
 void TestReplaceCommand::init()
 {
@@ -126,9 +111,8 @@ void TestReplaceCommand::writeHall(const QByteArray& text) const
 NetworkRun TestReplaceCommand::replace(const QByteArray& hall, const QString& arguments,
                                        const QString& before) const
 {
-    return runBesideHall(hall,
-                         QStringLiteral("%1tesselctl replace --wait 1 '%2' %3 -o '%4'")
-                             .arg(before, path("hall.tessel"), arguments, path("new.tessel")));
+    return runTool(hall, QStringLiteral("replace hall.tessel %1 -o new.tessel").arg(arguments),
+                   before);
 }
 
 void TestReplaceCommand::aHubTakesOverItsRoomAndSetsAndKeepsItsName()
@@ -149,10 +133,8 @@ void TestReplaceCommand::aHubTakesOverItsRoomAndSetsAndKeepsItsName()
     QVERIFY(data.deviceSets.find(1, 1, fresh) != nullptr);
     QVERIFY(data.deviceSets.find(3, 2, fresh) != nullptr);
     QVERIFY(data.deviceSets.firstInLayout(1, hub) == nullptr);
-    QVERIFY2(
-        run.errors.contains(QStringLiteral("tesselctl: next: tesselctl install %1 --hub 10.54.1.21")
-                                .arg(path("new.tessel"))),
-        qPrintable(run.errors));
+    QVERIFY2(run.errors.contains(u"tesselctl: next: tesselctl install new.tessel --hub 10.54.1.21"),
+             qPrintable(run.errors));
 }
 
 void TestReplaceCommand::aSpeakerTakesOverItsSide()
@@ -380,9 +362,9 @@ void TestReplaceCommand::theMacAddressOfAnotherDeviceIsRefused()
     const NetworkRun run = replace(
         freshHub, otherHub + u' ' + fresh + QStringLiteral(" --mac 02:00:00:00:00:01"), noCable);
     QCOMPARE(run.exitCode, 1);
-    QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: %1: device 10.54.1.21: an earlier "
-                                                "device has the MAC address 02:00:00:00:00:01\n")
-                                     .arg(path("hall.tessel"))),
+    QVERIFY2(run.errors.contains(
+                 u"tesselctl: hall.tessel: device 10.54.1.21: an earlier device has the MAC "
+                 "address 02:00:00:00:00:01\n"),
              qPrintable(run.errors));
     QVERIFY(!isWritten());
 }
@@ -434,13 +416,12 @@ void TestReplaceCommand::onlyHubsThatAreSentSomethingElseAreNamed()
 
 void TestReplaceCommand::theNextCommandCanBePasted()
 {
-    const QString output = path("2026-11-22 10.30.00.tessel");
-    const NetworkRun run =
-        runBesideHall(freshHub, QStringLiteral("tesselctl replace --wait 1 '%1' %2 %3 -o '%4'")
-                                    .arg(path("hall.tessel"), hub, fresh, output));
+    const QString output = QStringLiteral("'2026-11-22 10.30.00.tessel'");
+    const NetworkRun run = runTool(
+        freshHub, QStringLiteral("replace hall.tessel %1 %2 -o %3").arg(hub, fresh, output));
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
     QVERIFY2(run.errors.contains(
-                 QStringLiteral("next: tesselctl install '%1' --hub 10.54.1.21\n").arg(output)),
+                 QStringLiteral("next: tesselctl install %1 --hub 10.54.1.21\n").arg(output)),
              qPrintable(run.errors));
 }
 

@@ -1,6 +1,7 @@
 #include "filesizelimit.h"
 #include "followinghall.h"
 #include "livetoolrun.h"
+#include "ptytoolrun.h"
 #include "testcase.h"
 
 #include <QDateTime>
@@ -64,6 +65,7 @@ private Q_SLOTS:
     void everyLayoutIsReadBackAndTheOldPresetIsActiveAgain();
     void whatWillBeHeardIsSaidAndNothingIsDoneWithoutAYes_data();
     void whatWillBeHeardIsSaidAndNothingIsDoneWithoutAYes();
+    void interruptionOfTheQuestionRecallsNothing();
     void tableShowsLayoutsByHubsInEightyColumns();
     void resultIsKept();
     void keptResultIsTakenIntoARecord();
@@ -125,6 +127,19 @@ void TestWalkCommand::whatWillBeHeardIsSaidAndNothingIsDoneWithoutAYes()
     QVERIFY2(run.errors.contains(u"hears it"), qPrintable(run.errors));
     QCOMPARE(recalls(site.hall.device(stage)).isEmpty(), run.exitCode != 0);
     QCOMPARE(run.errors.contains(u"nothing was recalled"), run.exitCode != 0);
+}
+
+void TestWalkCommand::interruptionOfTheQuestionRecallsNothing()
+{
+    const FollowingHall site(stage, gallery);
+    PtyToolRun tool({walk, site.file.path(), atOnce});
+    QVERIFY(tool.hasShown(QStringLiteral("Begin? (y/N)")));
+    tool.type("\x03");
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(run.errors.contains(u"nothing was recalled"), qPrintable(run.errors));
+    QVERIFY(tool.isEchoing());
+    QCOMPARE(site.hall.device(stage)->exchangeNames(), QStringList());
 }
 
 void TestWalkCommand::tableShowsLayoutsByHubsInEightyColumns()

@@ -42,7 +42,7 @@ Interruption::Interruption(QObject* parent)
     connect(notifier, SIGNAL(activated(QSocketDescriptor, QSocketNotifier::Type)), notifier,
             SLOT(deleteLater()));
     connect(notifier, SIGNAL(activated(QSocketDescriptor, QSocketNotifier::Type)), this,
-            SIGNAL(interrupted()));
+            SLOT(note()));
     std::signal(SIGINT, noteInterruption);
     std::signal(SIGQUIT, noteInterruption);
     std::signal(SIGTERM, noteInterruption);
@@ -77,7 +77,7 @@ BOOL WINAPI noteInterruption(DWORD event)
     const bool isMeant = isClosing || event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT;
     Interruption* const first = isMeant ? listener.exchange(nullptr) : nullptr;
     const bool isTaken =
-        first != nullptr && QMetaObject::invokeMethod(first, "interrupted", Qt::QueuedConnection);
+        first != nullptr && QMetaObject::invokeMethod(first, "note", Qt::QueuedConnection);
     if (isClosing) {
         // The program ends when this returns. So it ends by itself, or when the system has waited
         // long enough.
@@ -102,3 +102,9 @@ Interruption::~Interruption()
 }
 
 #endif
+
+void Interruption::note()
+{
+    m_hasCome = true;
+    Q_EMIT interrupted();
+}

@@ -15,6 +15,15 @@ public:
     /// From then on the first one ends the program at once.
     ~Interruption() override;
 
+    /// Whether it has come.
+    bool hasCome() const { return m_hasCome; }
+
 Q_SIGNALS:
     void interrupted();
+
+private Q_SLOTS:
+    void note();
+
+private:
+    bool m_hasCome = false;
 };
