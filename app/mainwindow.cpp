@@ -5,6 +5,8 @@
 #include "configurationfile.h"
 #include "devicedetector.h"
 #include "devicequeries.h"
+#include "guide.h"
+#include "guidekey.h"
 #include "idocaccessor.h"
 #include "networkdialog.h"
 #include "newfile.h"
@@ -67,6 +69,7 @@ MainWindow::MainWindow(QWidget* parent, IDocAccessor* doc, ConfigurationFile* fi
     // Of all windows: some boxes belong to none.
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/tessel.svg")));
     buildLayout();
+    connect(new GuideKey(this), SIGNAL(pressed()), this, SLOT(openGuide()));
     appendPage(0);
     showCurrentPage();
     if (nicIndex(*m_doc) == 0) {
@@ -82,6 +85,7 @@ void MainWindow::buildLayout()
     QFont titleFont = font();
     titleFont.setPointSizeF(titlePointSize);
     m_titleLabel->setFont(titleFont);
+    m_titleLabel->setToolTip(tr("F1 opens the guide"));
     m_pageStack->setObjectName(QStringLiteral("pageStack"));
     m_pageStack->setFrameStyle(0);
     auto* layout = new QVBoxLayout(this);
@@ -134,6 +138,15 @@ void MainWindow::notifyDetectDevice(const QString& ipAddress)
                        .macAddress = found.macAddress,
                        .searchType = found.searchType,
                        .password = found.password});
+}
+
+void MainWindow::openGuide()
+{
+    BasePage* page = pageAt(m_currentIndex);
+    const QString trouble = Guide(QCoreApplication::applicationDirPath()).open(page->pageNumber());
+    if (!trouble.isEmpty()) {
+        page->tell(trouble);
+    }
 }
 
 void MainWindow::customEvent(QEvent* event)

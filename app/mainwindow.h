@@ -45,6 +45,9 @@ protected:
     void timerEvent(QTimerEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
+private Q_SLOTS:
+    void openGuide();
+
 private:
     void buildLayout();
     BasePage* appendPage(int index);

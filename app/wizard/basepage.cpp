@@ -1,8 +1,10 @@
 #include "basepage.h"
 
 #include "accessiblerole.h"
+#include "quietline.h"
 
 #include <QKeyEvent>
+#include <QLayout>
 #include <QPushButton>
 
 BasePage::BasePage(const QString& title, int pageNumber, IPageController* controller,
@@ -32,6 +34,16 @@ void BasePage::enterFrom(int /*previousPageNumber*/) {}
 void BasePage::restoreFromDocument() {}
 
 void BasePage::storeToDocument() {}
+
+void BasePage::tell(const QString& sentence)
+{
+    auto* line = findChild<QuietLine*>(QString(), Qt::FindDirectChildrenOnly);
+    if (!line) {
+        line = new QuietLine(this);
+        layout()->addWidget(line);
+    }
+    line->say({sentence});
+}
 
 void BasePage::keyPressEvent(QKeyEvent* event)
 {

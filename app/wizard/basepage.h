@@ -25,6 +25,10 @@ public:
     void restoreFromDocument() override;
     void storeToDocument() override;
 
+    /// Says a sentence that is not the page's own in its quiet line, until the page has something
+    /// else to say there. A page without such a line gets one.
+    void tell(const QString& sentence);
+
 protected:
     /// Lets Return press the push button that has the focus, as it does in dialogs.
     void keyPressEvent(QKeyEvent* event) override;

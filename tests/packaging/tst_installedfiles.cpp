@@ -1,8 +1,10 @@
 #include "arguments.h"
 #include "commandtable.h"
+#include "guide.h"
 #include "installedtree.h"
 #include "testcase.h"
 
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QMimeDatabase>
@@ -26,6 +28,22 @@ QString manualOf(const QString& program)
     return QStringLiteral("share/man/man1/%1.1").arg(program);
 }
 
+/// The guide, with all that is there of it.
+QStringList guideFiles()
+{
+    const QString place = QStringLiteral("share/tessel/guide/");
+    QStringList files{place + QStringLiteral("guide.css")};
+    const QDir pages(QStringLiteral(TESSEL_SOURCE_FOLDER "/docs/guide"));
+    for (const QString& page : pages.entryList({QStringLiteral("*.html")})) {
+        files.append(place + page);
+    }
+    for (const QString& picture :
+         QDir(pages.filePath(QStringLiteral("pictures"))).entryList(QDir::Files)) {
+        files.append(place + QStringLiteral("pictures/") + picture);
+    }
+    return files;
+}
+
 QStringList expectedFiles()
 {
     QStringList files{QStringLiteral("share/applications/tessel.desktop"),
@@ -42,6 +60,7 @@ QStringList expectedFiles()
     for (const int size : iconSizes) {
         files.append(iconOf(size));
     }
+    files += guideFiles();
     files.sort();
     return files;
 }
@@ -58,6 +77,8 @@ private Q_SLOTS:
     void cleanupTestCase();
     void everythingIsInstalledAndNothingElse();
     void everyProgramTellsTheProjectsVersion();
+    void theProgramFindsTheGuide();
+    void theGuideIsFoundAmongTheDocuments();
     void programsDoNotKnowWhereTheyWereBuilt();
     void manualPagesAreWellFormed_data();
     void manualPagesAreWellFormed();
@@ -108,6 +129,19 @@ void TestInstalledFiles::everyProgramTellsTheProjectsVersion()
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.output, program + QStringLiteral(" " TESSEL_PROJECT_VERSION "\n"));
     }
+}
+
+void TestInstalledFiles::theProgramFindsTheGuide()
+{
+    const Guide guide(m_installation->path(QStringLiteral("bin")));
+    QCOMPARE(guide.folder(), m_installation->path(QStringLiteral("share/tessel/guide")));
+}
+
+void TestInstalledFiles::theGuideIsFoundAmongTheDocuments()
+{
+    const QFileInfo link(m_installation->path(QStringLiteral("share/doc/tessel/guide")));
+    QVERIFY(link.isSymLink());
+    QVERIFY(QFile::exists(link.filePath() + QStringLiteral("/index.html")));
 }
 
 void TestInstalledFiles::programsDoNotKnowWhereTheyWereBuilt()
