@@ -88,7 +88,7 @@ bool TesselDoc::saveResume(const QString& path)
 
 bool TesselDoc::loadResume(const QString& path)
 {
-    const std::optional<Configuration> saved = readConfiguration(path).configuration;
+    const std::optional<Configuration> saved = readRemains(path);
     if (!saved) {
         return false;
     }

@@ -143,3 +143,11 @@ ConfigurationReading readConfiguration(const QString& path)
     const std::optional<QByteArray> bytes = readResumeFile(path, &fault);
     return bytes ? unpacked(*bytes) : ConfigurationReading{{}, fault};
 }
+
+std::optional<Configuration> readRemains(const QString& path)
+{
+    const std::optional<QByteArray> bytes = readResumeFile(path);
+    const std::optional<ResumeFile> content = bytes ? unpackResumeFile(*bytes) : std::nullopt;
+    const std::optional<SavedWork> work = content ? readResumeXml(content->xml) : std::nullopt;
+    return work ? std::optional(Configuration{*work, content->scenes}) : std::nullopt;
+}

@@ -29,3 +29,7 @@ struct ConfigurationReading
 /// value), are faults of the file that leave something to be read: whether that will do is up to
 /// the caller. A record without an attribute is read; it keeps its default.
 ConfigurationReading readConfiguration(const QString& path);
+
+/// What can be read of such a file, whatever is wrong with it and without asking what that is;
+/// nothing when that is not even its text.
+std::optional<Configuration> readRemains(const QString& path);

@@ -184,6 +184,8 @@ void TestCompletion::filesAreProposedByTheirEnding_data()
     row("tesselctl recall 2", "hall.tessel plans");
     row("tesselctl make", "hall.json plans");
     row("tesselctl make hall.json -o", "hall.tessel plans");
+    row("tesselctl report hall.tessel -o", "hall.json hall.tessel notes.txt plans");
+    row("tesselctl report hall.tessel --paper", "a4 letter");
     row("tesselctl plan hall.tessel --files", "plans");
     row("tessel", "hall.tessel plans");
     row("tessel --log", "hall.json hall.tessel notes.txt plans");

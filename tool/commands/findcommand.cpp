@@ -30,6 +30,25 @@ QString faultOfProbes(const QStringList& probes)
     return {};
 }
 
+/// What this computer lacks comes first: all the rest may follow from it. Nothing that stands in a
+/// table is said once more.
+ExitCode report(const SearchResult& result, bool isForPrograms, Terminal& terminal)
+{
+    const QStringList sideFaults = rivalWords(result.side);
+    terminal.say(sideFaults);
+    write(result, isForPrograms, terminal);
+    const QString silence = silenceFault(result);
+    if (!silence.isEmpty()) {
+        terminal.say(silence);
+    }
+    const QStringList faults = findFaults(result);
+    if (isForPrograms) {
+        terminal.say(faults);
+    }
+    return sideFaults.isEmpty() && silence.isEmpty() && faults.isEmpty() ? ExitCode::AllIsWell
+                                                                         : ExitCode::SomethingIsNot;
+}
+
 } // namespace
 
 QString FindCommand::name() const
@@ -86,8 +105,5 @@ ExitCode FindCommand::run(const Arguments& arguments, Terminal& terminal) const
         terminal.say(result.fault);
         return ExitCode::CouldNotBeTried;
     }
-    write(result, arguments.has(QStringLiteral("json")), terminal);
-    const QStringList faults = findFaults(result);
-    terminal.say(faults);
-    return faults.isEmpty() ? ExitCode::AllIsWell : ExitCode::SomethingIsNot;
+    return report(result, arguments.has(QStringLiteral("json")), terminal);
 }

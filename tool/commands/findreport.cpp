@@ -135,13 +135,16 @@ QJsonObject findObject(const SearchResult& result)
             {Key::probes(), probes}};
 }
 
+QString silenceFault(const SearchResult& result)
+{
+    return result.devices.isEmpty() ? QStringLiteral("no device answered on %1 (%2)")
+                                          .arg(result.side.row->name, result.side.row->address)
+                                    : QString();
+}
+
 QStringList findFaults(const SearchResult& result)
 {
-    QStringList faults = rivalWords(result.side);
-    if (result.devices.isEmpty()) {
-        faults.append(QStringLiteral("no device answered on %1 (%2)")
-                          .arg(result.side.row->name, result.side.row->address));
-    }
+    QStringList faults;
     for (const JudgedDevice& device : result.devices) {
         if (!isAsItShould(device)) {
             faults.append(device.record.ipAddress + QStringLiteral(": ") + verdictWords(device));

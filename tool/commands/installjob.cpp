@@ -259,7 +259,7 @@ void InstallJob::tendOthers()
     const QString state = m_hasRecalled
                               ? QStringLiteral("what was installed is on layout %1 now")
                               : QStringLiteral("what was installed was told to recall layout %1");
-    m_terminal->say((state + QStringLiteral(", and may not fit to: %2"))
+    m_terminal->say((state + QStringLiteral("; these hubs may be on another one: %2"))
                         .arg(QString::number(firstLayout), namesOf(m_others)));
     if (m_isBrokenOff || !m_terminal->isWatched() || !PasswordPrompt().isPossible()) {
         sayHowToRecall();

@@ -1,12 +1,12 @@
 #include "makecommand.h"
 
 #include "arguments.h"
+#include "draftcompletion.h"
 #include "hallfaults.h"
 #include "hallfile.h"
 #include "halljson.h"
 #include "halloutput.h"
 #include "inputfile.h"
-#include "networkmacs.h"
 #include "networkoptions.h"
 #include "networksearch.h"
 #include "outputfile.h"
@@ -31,17 +31,6 @@ QString force()
     return QStringLiteral("force");
 }
 
-/// Fills in from the network what the hall lacks; the reason why it cannot be asked, if there is
-/// one. What devices contradict goes into `faults`.
-QString completed(HallDocument& hall, const QString& interface, int waitMs, QStringList& faults,
-                  Terminal& terminal)
-{
-    const SearchResult search =
-        searchNetwork(interface, waitMs, addressesWithoutMac(hall.data()), terminal);
-    faults = takeMacs(hall.data(), search.devices);
-    return search.fault;
-}
-
 /// What cannot be understood, and then what makes no sense.
 QStringList faultsOf(const HallJsonReading& reading)
 {
@@ -60,21 +49,22 @@ void tell(const QString& path, const QStringList& faults, Terminal& terminal)
     }
 }
 
-/// Asks the network when that is wanted, judges the hall and writes it.
-ExitCode made(const HallJsonReading& reading, const Arguments& arguments, int waitMs,
-              Terminal& terminal)
+/// Without what was told of a device in other words.
+QStringList withoutNamed(QStringList faults, const QStringList& addresses)
 {
-    QStringList faults;
-    if (reading.hall != nullptr && arguments.has(interfaceName())) {
-        const QString unasked =
-            completed(*reading.hall, arguments.value(interfaceName()), waitMs, faults, terminal);
-        if (!unasked.isEmpty()) {
-            terminal.say(unasked);
-            return ExitCode::CouldNotBeTried;
-        }
+    for (const QString& address : addresses) {
+        faults.removeAll(missingMacFault(address));
     }
-    faults += faultsOf(reading);
-    tell(arguments.operand(0), faults, terminal);
+    return faults;
+}
+
+/// Judges the hall, with what the network says of it, and writes it.
+ExitCode written(const HallJsonReading& reading, const DraftCompletion& completion,
+                 const Arguments& arguments, Terminal& terminal)
+{
+    const QStringList faults =
+        completion.faults + withoutNamed(faultsOf(reading), completion.named);
+    tell(arguments.operand(0), faults + completion.notes, terminal);
     if (reading.hall == nullptr || (!faults.isEmpty() && !arguments.has(force()))) {
         return ExitCode::CouldNotBeTried;
     }
@@ -83,7 +73,25 @@ ExitCode made(const HallJsonReading& reading, const Arguments& arguments, int wa
         terminal.say(unwritten);
         return ExitCode::CouldNotBeTried;
     }
-    return faults.isEmpty() ? ExitCode::AllIsWell : ExitCode::SomethingIsNot;
+    return faults.isEmpty() && completion.notes.isEmpty() ? ExitCode::AllIsWell
+                                                          : ExitCode::SomethingIsNot;
+}
+
+/// Asks the network first when that is wanted.
+ExitCode made(const HallJsonReading& reading, const Arguments& arguments, int waitMs,
+              Terminal& terminal)
+{
+    if (reading.hall == nullptr || !arguments.has(interfaceName())) {
+        return written(reading, {}, arguments, terminal);
+    }
+    DocumentData& hall = reading.hall->data();
+    const SearchResult search =
+        searchNetwork(arguments.value(interfaceName()), waitMs, addressesToAsk(hall), terminal);
+    if (!search.fault.isEmpty()) {
+        terminal.say(search.fault);
+        return ExitCode::CouldNotBeTried;
+    }
+    return written(reading, completeDraft(hall, search), arguments, terminal);
 }
 
 } // namespace
@@ -106,7 +114,8 @@ QString MakeCommand::details() const
         "each fault is told in a line with its place and its reason, and with one "
         "of them nothing is written.\n"
         "With --interface the devices are searched for: MAC addresses that the JSON lacks are "
-        "filled in by address, and a device that is another one than the JSON says is a fault.");
+        "filled in by address, labels too, and a device that is another one than the JSON says is "
+        "a fault. One that lacks nothing and does not answer is named.");
 }
 
 CommandSyntax MakeCommand::syntax() const

@@ -7,9 +7,11 @@
 #include "layoutrecall.h"
 #include "networkoptions.h"
 #include "resultkeys.h"
+#include "shellword.h"
 #include "terminal.h"
 #include "texttable.h"
 
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -43,6 +45,20 @@ QJsonObject objectOf(const LayoutRecall& recall)
                                 {Key::ok(), preset == recall.layout}});
     }
     return {{Key::layout(), recall.layout}, {Key::hubs(), hubs}};
+}
+
+bool isNumber(const QString& text)
+{
+    bool isOne = false;
+    text.toInt(&isOne);
+    return isOne;
+}
+
+/// Whether what should be the file is a number and the other way round.
+bool isTurned(const Arguments& arguments)
+{
+    return isNumber(arguments.operand(1)) && !isNumber(arguments.operand(0)) &&
+           !QFileInfo::exists(arguments.operand(1));
 }
 
 /// The layout that is asked for; nothing when the hall has none of that number.
@@ -135,6 +151,12 @@ ExitCode RecallCommand::run(const Arguments& arguments, Terminal& terminal) cons
         return ExitCode::WrongUsage;
     }
     const QString file = arguments.operand(1);
+    if (isTurned(arguments)) {
+        terminal.say(QStringLiteral("recall: the layout's number comes first: tesselctl recall %1 "
+                                    "%2")
+                         .arg(file, shellWord(arguments.operand(0))));
+        return ExitCode::WrongUsage;
+    }
     const HallReading reading = readHallFile(file);
     if (reading.hall == nullptr) {
         terminal.say(reading.fault);

@@ -68,7 +68,9 @@ QString faultOf(const Arguments& arguments, const DocumentData& hall)
         return QStringLiteral("%1: %2 is no device of this hall").arg(file, old);
     }
     return address != old && hall.devices.find(address) != nullptr
-               ? QStringLiteral("%1: %2 is another device of this hall").arg(file, address)
+               ? QStringLiteral("%1: %2 is another device of this hall; two that exchanged their "
+                                "addresses take three steps, see tesselctl replace --help")
+                     .arg(file, address)
                : QString();
 }
 
@@ -203,7 +205,11 @@ QString ReplaceCommand::details() const
         "asked for its MAC address, model and firmware, and they are judged. Where it does not "
         "answer, --mac is required, and it is taken to be of OLD's model.\n"
         "The new device keeps its name, unless --label gives it another one or OLD had been "
-        "renamed: then the installation gives it that name.");
+        "renamed: then the installation gives it that name.\n"
+        "Two devices at A and B that exchanged their addresses are replaced in three steps, each "
+        "from the file that the one before wrote, with F an address that nobody has and any MAC "
+        "address M: A F --mac M, then B A, then F B. If they changed places as well, so that each "
+        "place kept its address: A F --mac M, then B B, then F A.");
 }
 
 CommandSyntax ReplaceCommand::syntax() const

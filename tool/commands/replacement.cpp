@@ -35,7 +35,7 @@ bool isSameMac(const QString& one, const QString& other)
 QString faultOfAnswer(const DeviceData& old, const ReplacementWish& wish, const JudgedDevice& told)
 {
     const DetectedDevice& device = told.record;
-    if (told.verdict != Verdict::Taken) {
+    if (!isFit(told)) {
         return verdictWords(told);
     }
     if (!wish.mac.isEmpty() && !isSameMac(wish.mac, device.macAddress)) {

@@ -17,6 +17,11 @@ QString line(const QString& place, const QString& reason)
     return place + QStringLiteral(": ") + reason;
 }
 
+QString placeOf(const QString& address)
+{
+    return QStringLiteral("device ") + address;
+}
+
 bool hasControlCharacters(const QString& text)
 {
     return std::any_of(text.begin(), text.end(),
@@ -42,13 +47,13 @@ public:
 
     QStringList faultsOf(const DeviceData& device)
     {
-        m_place = QStringLiteral("device ") + device.ipAddress;
+        m_place = placeOf(device.ipAddress);
         m_faults.clear();
         require(isDeviceAddress(device.ipAddress),
                 QStringLiteral("this is no address of a device"));
         require(!m_addresses.contains(device.ipAddress),
                 QStringLiteral("an earlier device has this address"));
-        judgeMacAddress(device.macAddress);
+        judgeMacAddress(device);
         require(findModel(device.modelName) != nullptr,
                 QStringLiteral("unknown model \"%1\"").arg(device.modelName));
         require(device.roomNumber == 0 || m_rooms.contains(device.roomNumber),
@@ -63,10 +68,11 @@ public:
     }
 
 private:
-    void judgeMacAddress(const QString& mac)
+    void judgeMacAddress(const DeviceData& device)
     {
+        const QString mac = device.macAddress;
         if (mac.isEmpty()) {
-            require(false, QStringLiteral("its MAC address is missing"));
+            m_faults.append(missingMacFault(device.ipAddress));
             return;
         }
         require(isMacAddress(mac), QStringLiteral("\"%1\" is no MAC address").arg(mac));
@@ -252,4 +258,9 @@ QStringList hallFaults(HallDocument& hall)
            faultsOfStrays(QStringLiteral("exact.sets"), hall.data().deviceSets.all(), views) +
            faultsOfStrays(QStringLiteral("exact.presets"), hall.data().presets, views) +
            brokenLimits(hall);
+}
+
+QString missingMacFault(const QString& address)
+{
+    return line(placeOf(address), QStringLiteral("its MAC address is missing"));
 }

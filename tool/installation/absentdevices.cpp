@@ -2,6 +2,8 @@
 
 #include "foreignaddress.h"
 
+#include <algorithm>
+
 namespace {
 
 DeviceRecords takenAmong(const QList<JudgedDevice>& found)
@@ -26,31 +28,41 @@ QString reasonAtAddress(const DeviceData& device, const JudgedDevice& there)
     }
     return there.record.modelName != device.modelName
                ? QStringLiteral("another model answers there: %1").arg(there.record.modelName)
-               : QStringLiteral("a device with another MAC address answers there: %1")
+               : QStringLiteral("a device with another MAC address answers there, %1")
                      .arg(there.record.macAddress);
 }
 
-QString silenceOf(const QString& address, const QList<NicRow>& sides)
+/// Where a device of the hall answers instead; empty when it does nowhere.
+QString placeOf(const DeviceData& device, const QList<JudgedDevice>& found)
 {
-    const QString foreign = foreignWords(address, sides);
-    const QString silence = QStringLiteral("no answer");
-    return foreign.isEmpty() ? silence : silence + QStringLiteral("; ") + foreign;
+    for (const JudgedDevice& other : found) {
+        if (other.verdict == Verdict::Taken && other.record.macAddress == device.macAddress &&
+            other.record.ipAddress != device.ipAddress) {
+            return other.record.ipAddress;
+        }
+    }
+    return {};
 }
 
 QString reasonOf(const DeviceData& device, const QList<JudgedDevice>& found,
                  const QList<NicRow>& sides)
 {
-    QString reason = silenceOf(device.ipAddress, sides);
-    for (const JudgedDevice& other : found) {
-        if (other.record.ipAddress == device.ipAddress) {
-            return reasonAtAddress(device, other);
-        }
-        if (other.verdict == Verdict::Taken && other.record.macAddress == device.macAddress) {
-            reason = QStringLiteral("no answer there; it has the address %1 now")
-                         .arg(other.record.ipAddress);
-        }
+    const auto there =
+        std::find_if(found.begin(), found.end(), [&device](const JudgedDevice& other) {
+            return other.record.ipAddress == device.ipAddress;
+        });
+    const QString reason =
+        there != found.end() ? reasonAtAddress(device, *there) : QStringLiteral("no answer there");
+    const QString place = placeOf(device, found);
+    if (!place.isEmpty()) {
+        return QStringLiteral("%1; it has the address %2 now").arg(reason, place);
     }
-    return reason;
+    if (there != found.end()) {
+        return reason;
+    }
+    const QString foreign = foreignWords(device.ipAddress, sides);
+    const QString silence = QStringLiteral("no answer");
+    return foreign.isEmpty() ? silence : silence + QStringLiteral("; ") + foreign;
 }
 
 } // namespace

@@ -14,11 +14,11 @@ bool isSameDevice(const DetectedDevice& one, const DetectedDevice& other)
     return one.ipAddress != other.ipAddress && one.serialNumber == other.serialNumber;
 }
 
-void judgeFirmware(JudgedDevice& device)
+void judgeFirmware(JudgedDevice& device, bool isReached)
 {
     const DeviceModel* model = findModel(device.record.modelName);
     if (isDeviceAccepted(device.record.version, device.record.modelName)) {
-        device.verdict = Verdict::Taken;
+        device.verdict = isReached ? Verdict::Taken : Verdict::DirectOnly;
     } else if (model == nullptr) {
         device.verdict = Verdict::UnknownModel;
     } else {
@@ -27,7 +27,8 @@ void judgeFirmware(JudgedDevice& device)
     }
 }
 
-/// A hub that told its identity and was not announced under this address.
+/// A hub that told its identity and was not announced under this address. One that has no twin told
+/// it so late that the search still waits for a second port.
 void findOtherPort(JudgedDevice& device, const QList<SeenDevice>& devices)
 {
     device.verdict = Verdict::SameMac;
@@ -47,9 +48,12 @@ JudgedDevice judgedAmong(const SeenDevice& seen, const QList<SeenDevice>& device
 {
     JudgedDevice device{seen.record};
     if (seen.isAnnounced) {
-        judgeFirmware(device);
+        judgeFirmware(device, seen.isReached);
     } else if (seen.isIdentified) {
         findOtherPort(device, devices);
+        if (device.otherAddress.isEmpty()) {
+            judgeFirmware(device, seen.isReached);
+        }
     }
     return device;
 }
@@ -72,6 +76,11 @@ QList<JudgedDevice> judged(const QList<SeenDevice>& devices)
     return all;
 }
 
+bool isFit(const JudgedDevice& device)
+{
+    return device.verdict == Verdict::Taken || device.verdict == Verdict::DirectOnly;
+}
+
 QString verdictName(Verdict verdict)
 {
     switch (verdict) {
@@ -85,6 +94,8 @@ QString verdictName(Verdict verdict)
         return QStringLiteral("second-port");
     case Verdict::SameMac:
         return QStringLiteral("same-mac");
+    case Verdict::DirectOnly:
+        return QStringLiteral("answers-only-directly");
     case Verdict::NoIdentity:
         break;
     }
@@ -107,6 +118,8 @@ QString verdictWords(const JudgedDevice& device)
     case Verdict::SameMac:
         return QStringLiteral("serial number and MAC are those of %1 too: neither is taken")
             .arg(device.otherAddress);
+    case Verdict::DirectOnly:
+        return QStringLiteral("answers only when asked directly: the wizard does not find it");
     case Verdict::NoIdentity:
         break;
     }

@@ -12,6 +12,7 @@ enum class Verdict
     UnknownModel,   ///< the wizard does not configure such devices
     SecondPort,     ///< the hub is listed under the address of its other port
     SameMac,        ///< another address has its serial number and its MAC: neither is listed
+    DirectOnly,     ///< would be listed, but the wizard's search does not reach it
     NoIdentity      ///< answered the query, but never told its identity
 };
 
@@ -21,6 +22,7 @@ struct SeenDevice
     DetectedDevice record = {};
     bool isIdentified = false; ///< told its identity
     bool isAnnounced = false;  ///< the search announced it, as it does to the wizard
+    bool isReached = true;     ///< answered the broadcast, not only a query of its own
 };
 
 /// A device and what becomes of it.
@@ -35,6 +37,9 @@ struct JudgedDevice
 /// The devices with what becomes of them, in the order of their addresses. A model and its firmware
 /// are judged by the rule by which the wizard takes devices.
 QList<JudgedDevice> judged(const QList<SeenDevice>& devices);
+
+/// Whether model and firmware are such as the wizard takes, whoever has to be asked for it.
+bool isFit(const JudgedDevice& device);
 
 /// The verdict as one word for programs, such as "firmware-too-old".
 QString verdictName(Verdict verdict);

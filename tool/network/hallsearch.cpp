@@ -109,7 +109,7 @@ QList<SeenDevice> HallSearch::seen() const
     QList<SeenDevice> all;
     for (const QString& address : m_answered) {
         all.append({m_detector.deviceInfo(address), m_identified.contains(address),
-                    m_announced.contains(address)});
+                    m_announced.contains(address), !m_texts.contains(address)});
     }
     return all;
 }

@@ -1,8 +1,7 @@
 #include "foundjson.h"
 
-#include "jsonfields.h"
-#include "jsontext.h"
 #include "jsontime.h"
+#include "resultjson.h"
 #include "resultkeys.h"
 
 namespace {
@@ -30,26 +29,19 @@ FoundDevice deviceFrom(JsonFields fields)
     return device;
 }
 
-} // namespace
-
-FoundReading readFoundJson(const QByteArray& text)
+void take(JsonFields& fields, QStringList& faults, FoundReading& reading)
 {
-    FoundReading reading;
-    const QJsonObject root = readJsonText(text, reading.fault);
-    if (!reading.fault.isEmpty()) {
-        return reading;
-    }
-    QStringList faults;
-    JsonFields fields(root, QString(), &faults);
-    if (!fields.has(Key::devices())) {
-        fields.fault(Key::devices(), QStringLiteral("this is missing"));
-    }
+    const QJsonArray items = requiredList(fields, Key::devices());
     reading.date = timeFrom(fields, Key::begun()).date();
-    const QJsonArray items = fields.list(Key::devices());
     for (qsizetype index = 0; index < items.size() && faults.isEmpty(); ++index) {
         reading.devices.append(
             deviceFrom({items.at(index), itemPlace(u'.' + Key::devices(), index), &faults}));
     }
-    reading.fault = faults.value(0);
-    return reading;
+}
+
+} // namespace
+
+FoundReading readFoundJson(const QByteArray& text)
+{
+    return readResult(text, take);
 }

@@ -8,6 +8,7 @@
 #include <QHashSeed>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QRegularExpression>
 #include <QTextDocument>
 #include <QTextFrame>
 #include <QTextTable>
@@ -66,7 +67,7 @@ void setUpDocument(QTextDocument& document, const QString& html, QPdfWriter& wri
     document.setDefaultTextOption(option);
     document.setDocumentMargin(0);
     document.documentLayout()->setPaintDevice(&writer);
-    document.setHtml(html);
+    document.setHtml(withWholeMacAddresses(html));
     styleTables(document);
     document.setTextWidth(writer.width());
 }
@@ -153,4 +154,12 @@ QByteArray recordPdf(const QString& html, const PdfFrame& frame)
             .paint(slicedIntoPages(stripsOf(document, scale), writer.height() - footHeight));
     }
     return withCreationDate(bytes, frame.date);
+}
+
+QString withWholeMacAddresses(QString html)
+{
+    static const QRegularExpression inside(
+        QStringLiteral("\\b[0-9A-Fa-f]{2}:(?=[0-9A-Fa-f]{2}(:[0-9A-Fa-f]{2}){0,4}\\b)"));
+    constexpr char16_t wordJoiner = 0x2060;
+    return html.replace(inside, QStringLiteral("\\0") + QChar(wordJoiner));
 }

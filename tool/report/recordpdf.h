@@ -17,3 +17,7 @@ struct PdfFrame
 /// The same page of HTML as a PDF. Headings stay with their text, rows of tables are not cut,
 /// titles of columns are repeated on each page. The same text and frame give the same bytes.
 QByteArray recordPdf(const QString& html, const PdfFrame& frame);
+
+/// The same HTML with MAC addresses that stay in one line: a text document would part them behind a
+/// colon. What holds them together is neither seen nor written into the PDF.
+QString withWholeMacAddresses(QString html);

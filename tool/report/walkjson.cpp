@@ -1,8 +1,7 @@
 #include "walkjson.h"
 
-#include "jsonfields.h"
-#include "jsontext.h"
 #include "jsontime.h"
+#include "resultjson.h"
 #include "resultkeys.h"
 
 #include <limits>
@@ -20,14 +19,6 @@ std::optional<int> presetFrom(JsonFields& fields, const QString& key)
         return std::nullopt;
     }
     return fields.number(key, 0, maxNumber, 0);
-}
-
-QJsonArray requiredList(JsonFields& fields, const QString& key)
-{
-    if (!fields.has(key)) {
-        fields.fault(key, QStringLiteral("this is missing"));
-    }
-    return fields.list(key);
 }
 
 WalkedHub hubFrom(JsonFields fields)
@@ -55,17 +46,8 @@ WalkedLayout layoutFrom(JsonFields fields, QStringList& faults)
     return layout;
 }
 
-} // namespace
-
-WalkReading readWalkJson(const QByteArray& text)
+void take(JsonFields& fields, QStringList& faults, WalkReading& reading)
 {
-    WalkReading reading;
-    const QJsonObject root = readJsonText(text, reading.fault);
-    if (!reading.fault.isEmpty()) {
-        return reading;
-    }
-    QStringList faults;
-    JsonFields fields(root, QString(), &faults);
     fields.requiredText(Key::begun());
     reading.begun = timeFrom(fields, Key::begun());
     const QJsonArray hubs = requiredList(fields, Key::hubs());
@@ -78,6 +60,11 @@ WalkReading readWalkJson(const QByteArray& text)
         reading.layouts.append(layoutFrom(
             {layouts.at(index), itemPlace(u'.' + Key::layouts(), index), &faults}, faults));
     }
-    reading.fault = faults.value(0);
-    return reading;
+}
+
+} // namespace
+
+WalkReading readWalkJson(const QByteArray& text)
+{
+    return readResult(text, take);
 }

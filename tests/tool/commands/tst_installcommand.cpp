@@ -345,7 +345,8 @@ void TestInstallCommand::hubThatRefusesTheRecallIsNotCalledOnTheLayout()
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.output.contains(u"Done") && run.output.contains(u"did not do it"),
              qPrintable(run.output));
-    QVERIFY2(run.errors.contains(u"was told to recall layout 1, and may not fit to: Gallery"),
+    QVERIFY2(run.errors.contains(
+                 u"was told to recall layout 1; these hubs may be on another one: Gallery"),
              qPrintable(run.errors));
 }
 

@@ -67,7 +67,7 @@ void TestInstallSearch::deviceThatIsNotTheSameStopsEverything()
     QCOMPARE(run.output, QString());
     QVERIFY2(run.errors.contains(
                  QStringLiteral("tesselctl: hall.tessel: Gallery (10.54.1.2), PX-HB in room 2: a "
-                                "device with another MAC address answers there: "
+                                "device with another MAC address answers there, "
                                 "02:00:00:00:00:02\n")),
              qPrintable(run.errors));
     QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: nothing was installed")),

@@ -24,7 +24,7 @@ const QByteArray plannedHall = R"({
 QByteArray builtHall(const QByteArray& faults = {}, const QByteArray& hubVersion = "2.1.0")
 {
     return R"({"base": "10.54.1.1", "discovery": true, "discovery-listen": "10.54.255.255",
-               "hubs": [{"mac": "02:00:00:00:00:01", "version": ")" +
+               "hubs": [{"label": "Stage", "mac": "02:00:00:00:00:01", "version": ")" +
            hubVersion + R"("}], "peripherals": [{"model": "PX-DL8", "version": "2.1.0",
                                              "address": "10.54.1.2",
                                              "mac": "02:00:00:00:00:02"}],
@@ -44,6 +44,9 @@ private Q_SLOTS:
     void whatTheListLacksComesFromTheNetwork();
     void whatOnlyAnswersAloneIsAskedAlone();
     void whatDoesNotAnswerStillLacksIt();
+    void whatLacksNothingAndDoesNotAnswerIsNamed();
+    void labelsThatTheListLacksComeFromTheNetwork();
+    void deviceInAnotherNetworkIsNamed();
     void whatTheListSaysIsHeldAgainstTheNetwork_data();
     void whatTheListSaysIsHeldAgainstTheNetwork();
     void withoutTheInterfaceNobodyIsAsked();
@@ -94,11 +97,48 @@ void TestMakeFromNetwork::whatDoesNotAnswerStillLacksIt()
     const NetworkRun run =
         make(builtHall(R"({"device": "10.54.1.2", "at": "discovery", "kind": "no-reply"})"));
     QCOMPARE(run.exitCode, 3);
-    QVERIFY2(run.errors.contains(
-                 u"tesselctl: hall.json: device 10.54.1.2: its MAC address is missing\n"),
+    QVERIFY2(run.errors.contains(u"tesselctl: hall.json: device 10.54.1.2: it did not answer, and "
+                                 u"its MAC address is missing\n"),
              qPrintable(run.errors));
     QVERIFY(!run.errors.contains(u"device 10.54.1.1"));
     QVERIFY(!isWritten());
+}
+
+void TestMakeFromNetwork::whatLacksNothingAndDoesNotAnswerIsNamed()
+{
+    QByteArray text = plannedHall;
+    plan(text.replace("\"PX-DL8\"", R"("PX-DL8", "mac": "02:00:00:00:00:02")"));
+    const NetworkRun run =
+        make(builtHall(R"({"device": "10.54.1.2", "at": "discovery", "kind": "no-reply"})"));
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains(u"tesselctl: hall.json: device 10.54.1.2: it did not answer\n"),
+             qPrintable(run.errors));
+    QVERIFY(isWritten());
+}
+
+void TestMakeFromNetwork::labelsThatTheListLacksComeFromTheNetwork()
+{
+    QByteArray text = plannedHall;
+    plan(text.replace("\"PX-DL8\"", R"("PX-DL8", "label": "Ceiling")"));
+    const NetworkRun run = make(builtHall());
+    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+    const HallReading reading = readHallFile(path("hall.tessel"));
+    QVERIFY(reading.hall != nullptr);
+    QCOMPARE(reading.hall->data().devices.find(hub)->label, QStringLiteral("Stage"));
+    QVERIFY(!reading.hall->data().devices.find(hub)->labelModified);
+    QCOMPARE(reading.hall->data().devices.find(microphone)->label, QStringLiteral("Ceiling"));
+}
+
+void TestMakeFromNetwork::deviceInAnotherNetworkIsNamed()
+{
+    QByteArray text = plannedHall;
+    plan(text.replace("10.54.1.2", "10.55.1.2"));
+    const NetworkRun run = make(builtHall());
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(run.errors.contains(u"device 10.55.1.2: it did not answer, and its MAC address is "
+                                 "missing; 10.55.1.2 is not in the network of wizard "
+                                 "(10.54.0.1/16)\n"),
+             qPrintable(run.errors));
 }
 
 void TestMakeFromNetwork::whatTheListSaysIsHeldAgainstTheNetwork_data()
@@ -133,6 +173,7 @@ void TestMakeFromNetwork::whatTheListSaysIsHeldAgainstTheNetwork()
     QCOMPARE(run.exitCode, 3);
     QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: hall.json: %1\n").arg(fault)),
              qPrintable(run.errors));
+    QCOMPARE(run.errors.count(fault.section(u':', 0, 0)), 1);
     QVERIFY(!isWritten());
 }
 

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void hallWhereNobodyAnswersIsLeftAlone();
     void realHubRefusesWhatItDoesNotHold();
     void otherDevicesAreLeftAlone();
+    void operandsThatAreTurnedAreToldSo();
     void wrongUsageIsOneLine_data();
     void wrongUsageIsOneLine();
 };
@@ -136,6 +137,17 @@ void TestRecallCommand::otherDevicesAreLeftAlone()
     LiveToolRun tool({QStringLiteral("recall"), QStringLiteral("1"), file.path()});
     QCOMPARE(tool.ended().exitCode, 0);
     QCOMPARE(hall.device(QStringLiteral("127.32.9.9"))->exchangeNames(), QStringList());
+}
+
+void TestRecallCommand::operandsThatAreTurnedAreToldSo()
+{
+    const HallOnDisk file(stage, gallery);
+    LiveToolRun tool({QStringLiteral("recall"), file.path(), QStringLiteral("2")});
+    const ToolRun run = tool.ended();
+    QCOMPARE(run.exitCode, 2);
+    QCOMPARE(run.errors, QStringLiteral("tesselctl: recall: the layout's number comes first: "
+                                        "tesselctl recall 2 %1\n")
+                             .arg(file.path()));
 }
 
 void TestRecallCommand::wrongUsageIsOneLine_data()

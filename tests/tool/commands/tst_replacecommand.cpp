@@ -82,6 +82,8 @@ private Q_SLOTS:
     void nothingElseChangesInAnOddHall();
     void onlyHubsThatAreSentSomethingElseAreNamed();
     void theNextCommandCanBePasted();
+    void exchangedAddressesTakeThreeSteps_data();
+    void exchangedAddressesTakeThreeSteps();
     void wrongUsageIsOneLine_data();
     void wrongUsageIsOneLine();
 
@@ -425,6 +427,47 @@ void TestReplaceCommand::theNextCommandCanBePasted()
              qPrintable(run.errors));
 }
 
+void TestReplaceCommand::exchangedAddressesTakeThreeSteps_data()
+{
+    QTest::addColumn<QString>("second");
+    QTest::addColumn<QString>("third");
+    QTest::addColumn<QString>("macOfFirstRoom");
+    QTest::newRow("each stayed in its place")
+        << otherHub + u' ' + hub << QStringLiteral("10.54.0.77 ") + otherHub
+        << QStringLiteral("02:00:00:00:00:01");
+    QTest::newRow("each place kept its address")
+        << otherHub + u' ' + otherHub << QStringLiteral("10.54.0.77 ") + hub
+        << QStringLiteral("02:00:00:00:00:02");
+}
+
+void TestReplaceCommand::exchangedAddressesTakeThreeSteps()
+{
+    QFETCH(const QString, second);
+    QFETCH(const QString, third);
+    QFETCH(const QString, macOfFirstRoom);
+    const QByteArray exchanged = R"({"base": "10.54.1.1", "discovery": true,
+        "discovery-listen": "10.54.255.255", "hubs": [
+        {"address": "10.54.1.1", "mac": "02:00:00:00:00:02", "version": "2.1.0", "serial": "H2"},
+        {"address": "10.54.1.2", "mac": "02:00:00:00:00:01", "version": "2.1.0", "serial": "H1"}]})";
+    const QString step = QStringLiteral("tesselctl replace --wait 1 %1.tessel %2 -o %3.tessel && ");
+    const NetworkRun run =
+        runTool(exchanged, QStringLiteral("replace two.tessel %1 -o new.tessel").arg(third),
+                step.arg(QStringLiteral("hall"),
+                         hub + QStringLiteral(" 10.54.0.77 --mac 02:00:00:00:00:99"),
+                         QStringLiteral("one")) +
+                    step.arg(QStringLiteral("one"), second, QStringLiteral("two")));
+    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
+    const HallReading reading = written();
+    QVERIFY(reading.hall != nullptr);
+    for (const DeviceData& device : reading.hall->data().devices.all()) {
+        if (device.modelName == u"PX-HB") {
+            const bool isFirst = device.macAddress == u"02:00:00:00:00:01";
+            QCOMPARE(device.ipAddress, isFirst ? otherHub : hub);
+            QCOMPARE(device.roomNumber, device.macAddress == macOfFirstRoom ? 1 : 2);
+        }
+    }
+}
+
 void TestReplaceCommand::wrongUsageIsOneLine_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -439,7 +482,8 @@ void TestReplaceCommand::wrongUsageIsOneLine_data()
     row("an old device that is none", {fresh, spare, o, output},
         file + QStringLiteral(": 10.54.1.21 is no device of this hall"));
     row("another device of the hall", {hub, otherHub, o, output},
-        file + QStringLiteral(": 10.54.1.2 is another device of this hall"));
+        file + QStringLiteral(": 10.54.1.2 is another device of this hall; two that exchanged "
+                              "their addresses take three steps, see tesselctl replace --help"));
     row("no address", {hub, QStringLiteral("hub"), o, output},
         QStringLiteral("replace: NEW is no IPv4 address: hub"));
     row("an address of all", {hub, QStringLiteral("255.255.255.255"), o, output},

@@ -73,7 +73,10 @@ void TestAbsentDevices::aDeviceThatIsNotThereAsItWasIsMissedWithItsReason_data()
     row("elsewhere", {found(otherAddress, mac, model)},
         "no answer there; it has the address 10.0.0.6 now");
     row("another device", {found(address, otherMac, model)},
-        "a device with another MAC address answers there: 02:1A:00:00:00:06");
+        "a device with another MAC address answers there, 02:1A:00:00:00:06");
+    row("exchanged addresses", {found(address, otherMac, model), found(otherAddress, mac, model)},
+        "a device with another MAC address answers there, 02:1A:00:00:00:06; it has the address "
+        "10.0.0.6 now");
     row("another model", {found(address, mac, QStringLiteral("PNB-QE7"))},
         "another model answers there: PNB-QE7");
     row("old firmware", {found(address, mac, model, Verdict::FirmwareTooOld)},

@@ -24,6 +24,12 @@ SeenDevice hidden(SeenDevice seen)
     return seen;
 }
 
+SeenDevice unreached(SeenDevice seen)
+{
+    seen.isReached = false;
+    return seen;
+}
+
 SeenDevice mute(SeenDevice seen)
 {
     seen.isIdentified = false;
@@ -42,6 +48,7 @@ private Q_SLOTS:
     void verdictOnOneDevice();
     void aHubsOtherPortNamesTheAddressUnderWhichItIsListed();
     void twoAddressesOfOneMacNameEachOther();
+    void hubThatIsStillWaitedForHasNoTwin();
     void devicesStandInTheOrderOfTheirAddresses();
 };
 
@@ -58,6 +65,10 @@ void TestDeviceJudgement::verdictOnOneDevice_data()
         "firmware too old: has 0.9.0, needs 2");
     row("firmware-too-old", device("10.0.0.1", "PX-HB", ""), "firmware too old: has none, needs 2");
     row("unknown-model", device("10.0.0.1", "KETTLE", "9"), "unknown model");
+    row("answers-only-directly", unreached(device("10.0.0.1", "PX-HB", "2.1.0")),
+        "answers only when asked directly: the wizard does not find it");
+    row("firmware-too-old", unreached(device("10.0.0.1", "PX-HB", "0.9.1")),
+        "firmware too old: has 0.9.1, needs 2");
     row("no-identity", mute(device("10.0.0.1", "PX-HB", "")),
         "answered the query, but never told its identity");
 }
@@ -86,6 +97,15 @@ void TestDeviceJudgement::twoAddressesOfOneMacNameEachOther()
     QCOMPARE(verdictName(found.first().verdict), QStringLiteral("same-mac"));
     QCOMPARE(found.first().otherAddress, QStringLiteral("10.0.0.2"));
     QCOMPARE(found.last().otherAddress, QStringLiteral("10.0.0.1"));
+}
+
+void TestDeviceJudgement::hubThatIsStillWaitedForHasNoTwin()
+{
+    const QList<JudgedDevice> found = judged({hidden(device("10.0.0.1", "PX-HB", "2.1")),
+                                              device("10.0.0.2", "PX-HB", "2.1", "S2"),
+                                              hidden(device("10.0.0.3", "PX-HB", "1.0", "S3"))});
+    QCOMPARE(verdictName(found.first().verdict), QStringLiteral("taken"));
+    QCOMPARE(verdictName(found.last().verdict), QStringLiteral("firmware-too-old"));
 }
 
 void TestDeviceJudgement::devicesStandInTheOrderOfTheirAddresses()

@@ -4,6 +4,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextDocument>
 
 namespace {
@@ -55,6 +56,7 @@ private Q_SLOTS:
     void allThatLeadsUpToATableIsKeptWithIt();
     void whatLeadsUpToAListIsKeptWithIt();
     void rowsAreStripsAndRepeatTheTitles();
+    void aMacAddressStaysInOneLine();
     void anEmptyTextIsAPage();
 };
 
@@ -146,6 +148,23 @@ void TestRecordPdf::rowsAreStripsAndRepeatTheTitles()
         QVERIFY(strips.at(index).head->bottom <= strips.at(2).span.top);
         QVERIFY(strips.at(index).span.top >= strips.at(index - 1).span.bottom);
         QVERIFY(strips.at(index).span.height() > 0);
+    }
+}
+
+void TestRecordPdf::aMacAddressStaysInOneLine()
+{
+    QTextDocument document;
+    document.setHtml(
+        withWholeMacAddresses(QStringLiteral("<p>its MAC address 00:A0:DE:10:00:01 is</p>")));
+    for (int width = 130; width < 400; ++width) {
+        document.setTextWidth(width);
+        document.documentLayout()->documentSize();
+        const QTextBlock block = document.begin();
+        for (int number = 0; number < block.layout()->lineCount(); ++number) {
+            const QTextLine line = block.layout()->lineAt(number);
+            const QString text = block.text().mid(line.textStart(), line.textLength()).trimmed();
+            QVERIFY2(!text.endsWith(u':') && !text.endsWith(QChar(0x2060)), qPrintable(text));
+        }
     }
 }
 
