@@ -11,8 +11,7 @@ GuideKey::GuideKey(QObject* parent)
 
 bool GuideKey::eventFilter(QObject* watched, QEvent* event)
 {
-    // Each key comes to the system's window first, and then to the widget in it.
-    if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) {
+    if (event->type() != QEvent::KeyPress) {
         return QObject::eventFilter(watched, event);
     }
     const auto* key = static_cast<QKeyEvent*>(event);

@@ -49,6 +49,8 @@ bool play(const DemoScenario& scenario)
 
 void walk()
 {
+    // A blinking one would make each picture differ from the last.
+    QApplication::setCursorFlashTime(0);
     if (qEnvironmentVariableIsSet("TESSEL_DARK")) {
         QApplication::setPalette(darkPalette());
     }

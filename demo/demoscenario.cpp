@@ -9,12 +9,12 @@ constexpr int maxMicrophonesAndSpeakers = 16;
 // The names include what is hard to carry: quotes, a backslash, a percent sign, nothing at all.
 QStringList presetNames()
 {
-    return {QStringLiteral("Ä \"x\" \\ y"), QString(),
-            QStringLiteral("50%2"),         QStringLiteral("Room 4"),
-            QStringLiteral("Stage+Foyer"),  QStringLiteral("Salon"),
-            QStringLiteral("Bar"),          QStringLiteral("Stage"),
-            QStringLiteral("Foyer"),        QStringLiteral("Salon & Bar"),
-            QStringLiteral("West <1,2>"),   QStringLiteral("East 'n' 3,4"),
+    return {QStringLiteral("Café \"A\\B\""), QString(),
+            QStringLiteral("Room 3, 50%2"),  QStringLiteral("Room 4"),
+            QStringLiteral("Stage+Foyer"),   QStringLiteral("Salon"),
+            QStringLiteral("Bar"),           QStringLiteral("Stage"),
+            QStringLiteral("Foyer"),         QStringLiteral("Salon & Bar"),
+            QStringLiteral("West <1,2>"),    QStringLiteral("East 'n' 3,4"),
             QStringLiteral("Großer Saal")};
 }
 
