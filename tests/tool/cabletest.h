@@ -11,7 +11,7 @@ class CableTest : public TestCase
 {
     Q_OBJECT
 
-protected Q_SLOTS:
+private Q_SLOTS:
     void initTestCase();
 
 protected:

@@ -52,6 +52,22 @@ void take(DeviceData& device, const DetectedDevice& told)
     }
 }
 
+void complete(DeviceData& device, const SearchResult& search, DraftCompletion& completion)
+{
+    const JudgedDevice* answer = answerFrom(device.ipAddress, search.devices);
+    const QString fault =
+        answer != nullptr ? faultOf(device, *answer) : silenceWords(device, search.side);
+    const QString line = QStringLiteral("device %1: %2").arg(device.ipAddress, fault);
+    if (answer != nullptr && fault.isEmpty()) {
+        take(device, answer->record);
+    } else if (answer == nullptr && !device.macAddress.isEmpty()) {
+        completion.notes.append(line);
+    } else {
+        completion.faults.append(line);
+        completion.named.append(device.ipAddress);
+    }
+}
+
 } // namespace
 
 QStringList addressesToAsk(const DocumentData& hall)
@@ -70,18 +86,8 @@ DraftCompletion completeDraft(DocumentData& hall, const SearchResult& search)
 {
     DraftCompletion completion;
     for (const QString& address : addressesToAsk(hall)) {
-        DeviceData& device = *hall.devices.find(address);
-        const JudgedDevice* answer = answerFrom(address, search.devices);
-        const QString fault =
-            answer != nullptr ? faultOf(device, *answer) : silenceWords(device, search.side);
-        const QString line = QStringLiteral("device %1: %2").arg(address, fault);
-        if (fault.isEmpty()) {
-            take(device, answer->record);
-        } else if (answer == nullptr && !device.macAddress.isEmpty()) {
-            completion.notes.append(line);
-        } else {
-            completion.faults.append(line);
-            completion.named.append(address);
+        if (DeviceData* device = hall.devices.find(address)) {
+            complete(*device, search, completion);
         }
     }
     return completion;

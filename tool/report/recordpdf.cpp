@@ -159,7 +159,7 @@ QByteArray recordPdf(const QString& html, const PdfFrame& frame)
 QString withWholeMacAddresses(QString html)
 {
     static const QRegularExpression inside(
-        QStringLiteral("\\b[0-9A-Fa-f]{2}:(?=[0-9A-Fa-f]{2}(:[0-9A-Fa-f]{2}){0,4}\\b)"));
+        QStringLiteral("\\b([0-9A-Fa-f]{2}:)(?=[0-9A-Fa-f]{2}(:[0-9A-Fa-f]{2}){0,4}\\b)"));
     constexpr char16_t wordJoiner = 0x2060;
-    return html.replace(inside, QStringLiteral("\\0") + QChar(wordJoiner));
+    return html.replace(inside, QStringLiteral("\\1") + QChar(wordJoiner));
 }

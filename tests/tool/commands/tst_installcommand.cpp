@@ -1,4 +1,5 @@
 #include "commandrun.h"
+#include "filesizelimit.h"
 #include "hall.h"
 #include "hallfile.h"
 #include "installablehall.h"
@@ -88,6 +89,7 @@ private Q_SLOTS:
     void firstPasswordOfTheFileIsSetAndUsed();
     void firstPasswordThatCannotBeOneIsNotSent();
     void logHasTheRequestsAndNoPassword();
+    void logThatIsCutIsNamed();
     void outputThatIsAnInputIsRefused();
     void hallThatMakesNoSenseIsNotInstalled_data();
     void hallThatMakesNoSenseIsNotInstalled();
@@ -237,6 +239,27 @@ void TestInstallCommand::logHasTheRequestsAndNoPassword()
     const QByteArray written = fileAt(log);
     QVERIFY(written.contains("api/v0/auth/authenticate") && written.contains("127.34.1.2"));
     QVERIFY(!written.contains("secret7"));
+}
+
+void TestInstallCommand::logThatIsCutIsNamed()
+{
+    if (!FileSizeLimit::isPossible()) {
+        QSKIP("Files cannot be limited in size here.");
+    }
+    START_HALL(twoHubs());
+    const QString passwords = file.privateFile("passwords", line(stage) + line(gallery));
+    const QString log = file.beside("log");
+    ToolRun run;
+    {
+        const FileSizeLimit limit(300);
+        LiveToolRun tool({install, file.path(), noSearch, passwordsOption, passwords,
+                          QStringLiteral("--log"), log});
+        run = tool.ended();
+    }
+    QVERIFY2(run.errors.contains(QStringLiteral("tesselctl: %1: it is not complete: ").arg(log)),
+             qPrintable(run.errors));
+    QCOMPARE(run.exitCode, 3);
+    QCOMPARE(run.output.count(QStringLiteral("Done")), 2);
 }
 
 void TestInstallCommand::outputThatIsAnInputIsRefused()
