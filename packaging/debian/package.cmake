@@ -13,6 +13,7 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "${CPACK_PACKAGE_CONTACT}")
 set(CPACK_DEBIAN_PACKAGE_SECTION sound)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS xdg-utils) # opens the guide
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "wizard for divisible halls of networked conference systems")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
     "Configures a hall whose movable partitions divide it into up to four rooms,
