@@ -123,6 +123,10 @@ private Q_SLOTS:
     QString error;                                                                                 \
     QVERIFY2(hall.start(&error), qPrintable(error))
 
+#define NEED_A_TERMINAL()                                                                          \
+    if (!PtyToolRun::isPossible())                                                                 \
+    QSKIP("this system has no terminals that a test can type at")
+
 void TestInstallCommand::everyHubIsDone()
 {
     START_HALL(twoHubs());
@@ -301,6 +305,9 @@ void TestInstallCommand::wrongUsageIsOneLine()
 
 void TestInstallCommand::passwordsThatOthersMayReadAreRefused()
 {
+#ifdef Q_OS_WIN
+    QSKIP("this system has no permissions that are told by a file alone");
+#endif
     START_HALL(twoHubs());
     const QString passwords = file.privateFile("passwords", line(stage));
     QVERIFY(QFile::setPermissions(passwords, QFileDevice::ReadOwner | QFileDevice::ReadGroup));
@@ -364,6 +371,7 @@ void TestInstallCommand::interruptionNamesWhatIsNotFinished()
 
 void TestInstallCommand::passwordsAreTypedUnseen()
 {
+    NEED_A_TERMINAL();
     START_HALL(twoHubs());
     PtyToolRun tool({install, file.path(), noSearch});
     for (const char* hub : {"Stage (127.34.1.1): ", "Gallery (127.34.1.2): "}) {
@@ -380,6 +388,7 @@ void TestInstallCommand::passwordsAreTypedUnseen()
 
 void TestInstallCommand::wrongPasswordIsAskedForAgain()
 {
+    NEED_A_TERMINAL();
     START_HALL(twoHubs());
     PtyToolRun tool({install, file.path(), noSearch, QStringLiteral("--hub"), stage});
     QVERIFY(tool.hasShown(QStringLiteral("password of Stage")));
@@ -395,6 +404,7 @@ void TestInstallCommand::wrongPasswordIsAskedForAgain()
 
 void TestInstallCommand::emptyPasswordIsNotSent()
 {
+    NEED_A_TERMINAL();
     START_HALL(twoHubs());
     const QString passwords = file.privateFile("passwords", line(gallery));
     PtyToolRun tool({install, file.path(), noSearch, passwordsOption, passwords});
@@ -410,6 +420,7 @@ void TestInstallCommand::emptyPasswordIsNotSent()
 
 void TestInstallCommand::firstPasswordIsTypedTwice()
 {
+    NEED_A_TERMINAL();
     HallDescription fresh = twoHubs();
     fresh.hubs[0].password.reset();
     START_HALL(fresh);
@@ -438,6 +449,7 @@ void TestInstallCommand::firstPasswordIsTypedTwice()
 
 void TestInstallCommand::endOfInputLeavesTheHubOut()
 {
+    NEED_A_TERMINAL();
     START_HALL(twoHubs());
     PtyToolRun tool({install, file.path(), noSearch, QStringLiteral("--json")});
     QVERIFY(tool.hasShown(QStringLiteral("password of Stage")));
@@ -452,6 +464,7 @@ void TestInstallCommand::endOfInputLeavesTheHubOut()
 
 void TestInstallCommand::nobodyIsAskedWhereNobodyReadsTheQuestion()
 {
+    NEED_A_TERMINAL();
     START_HALL(twoHubs());
     PtyToolRun tool({install, file.path(), noSearch, QStringLiteral("--json")},
                     {.errorsOnScreen = false});
@@ -471,6 +484,7 @@ void TestInstallCommand::lostTerminalBeginsNoTransfer_data()
 
 void TestInstallCommand::lostTerminalBeginsNoTransfer()
 {
+    NEED_A_TERMINAL();
     QFETCH(const bool, hearsHangUp);
     START_HALL(twoHubs());
     PtyToolRun tool({install, file.path(), noSearch}, {.hearsHangUp = hearsHangUp});
@@ -497,6 +511,7 @@ void TestInstallCommand::keysThatStopOrQuitDoNotAtThePrompt_data()
 /// Such a key would forget what was typed before it; switched off it is a letter, which is erased.
 void TestInstallCommand::keysThatStopOrQuitDoNotAtThePrompt()
 {
+    NEED_A_TERMINAL();
     QFETCH(const QByteArray, key);
     START_HALL(twoHubs());
     const QString passwords = file.privateFile("passwords", line(gallery));
@@ -512,11 +527,14 @@ void TestInstallCommand::interruptedPromptShowsAgainWhatIsTyped_data()
 {
     QTest::addColumn<int>("number");
     QTest::newRow("Ctrl+C") << SIGINT;
+#ifdef SIGQUIT
     QTest::newRow("a wish to quit") << SIGQUIT;
+#endif
 }
 
 void TestInstallCommand::interruptedPromptShowsAgainWhatIsTyped()
 {
+    NEED_A_TERMINAL();
     QFETCH(const int, number);
     START_HALL(twoHubs());
     PtyToolRun tool({install, file.path(), noSearch});
@@ -538,6 +556,7 @@ void TestInstallCommand::interruptedPromptShowsAgainWhatIsTyped()
 
 void TestInstallCommand::barsKeepToEightyColumns()
 {
+    NEED_A_TERMINAL();
     HallDescription named = twoHubs();
     named.hubs[0].label = QString(64, u'x');
     START_HALL(named);
@@ -554,6 +573,7 @@ void TestInstallCommand::barsKeepToEightyColumns()
 
 void TestInstallCommand::barsOnANarrowTerminalAreDrawnOver()
 {
+    NEED_A_TERMINAL();
     START_HALL(twoHubs());
     const QString passwords = file.privateFile("passwords", line(stage) + line(gallery));
     PtyToolRun tool({install, file.path(), noSearch, passwordsOption, passwords}, {.columns = 40});
@@ -575,6 +595,7 @@ void TestInstallCommand::recallOfTheOthersIsOfferedAndDone_data()
 
 void TestInstallCommand::recallOfTheOthersIsOfferedAndDone()
 {
+    NEED_A_TERMINAL();
     QFETCH(const QByteArray, answer);
     QFETCH(const bool, isRecalled);
     START_HALL(twoHubs());
