@@ -24,8 +24,8 @@ ScriptCopy::ScriptCopy()
         QFile::copy(scripts().filePath(file),
                     m_checkout.filePath(QStringLiteral("script/") + file));
     }
-    for (const char* tool : {"bash", "cat", "chmod", "env", "grep", "id", "ln", "mkdir", "readlink",
-                             "rm", "sed", "sleep", "true", "uname"}) {
+    for (const char* tool : {"bash", "cat", "chmod", "env", "grep", "head", "id", "ln", "mkdir",
+                             "readlink", "rm", "sed", "sleep", "sort", "true", "uname"}) {
         const QString name = QString::fromLatin1(tool);
         QFile::link(QStandardPaths::findExecutable(name), pathOf(name));
     }

@@ -21,6 +21,35 @@ bool installedWithoutAQuestion(const QString& log)
            calls.last().startsWith(u"noninteractive|install -q -y ") && calls.last().endsWith(u'|');
 }
 
+/// Leaves what tells a Qt for MinGW of this version in a folder, but for one file.
+void leaveQt(const ScriptCopy& copy, const QByteArray& version,
+             const QString& folder = QStringLiteral("qt"), const QString& missing = QString())
+{
+    const QHash<QString, QByteArray> files{
+        {QStringLiteral("lib/cmake/Qt6/Qt6Config.cmake"), {}},
+        {QStringLiteral("lib/cmake/Qt6/Qt6ConfigVersionImpl.cmake"),
+         "set(PACKAGE_VERSION \"" + version + "\")\n"},
+        {QStringLiteral("lib/libQt6Core.a"), {}},
+        {QStringLiteral("bin/Qt6Core.dll"), {}}};
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        if (file.key() != missing) {
+            copy.leave(folder + u'/' + file.key(), file.value());
+        }
+    }
+}
+
+/// Gives the packages that building for Windows needs, with Qt's tools of this version.
+void giveWindowsTools(ScriptCopy& copy, const QString& version)
+{
+    copy.givePackages(true);
+    copy.give(QStringLiteral("x86_64-w64-mingw32-objdump"), QStringLiteral("echo pei-x86-64"));
+    copy.give(QStringLiteral("qtpaths6"), QStringLiteral("case $2 in\n"
+                                                         "QT_VERSION) echo %1 ;;\n"
+                                                         "*) echo /own ;;\n"
+                                                         "esac")
+                                              .arg(version));
+}
+
 /// What script/build asks of CMake in a folder that was configured as strict as `earlier` says;
 /// where that is empty, in none.
 QString cmakeCallsOfBuild(const QString& preset, const QString& asked, const QString& earlier)
@@ -72,6 +101,10 @@ private Q_SLOTS:
     void packagesAreMadeOnDebianAlone();
     void packageIsTriedByRootAlone();
     void packageIsMadeOfWhatIsDelivered();
+    void windowsIsBuiltAgainstAQtForItAlone_data();
+    void windowsIsBuiltAgainstAQtForItAlone();
+    void windowsIsBuiltWithToolsThatAreNotOlder();
+    void windowsIsConfiguredOncePerQt();
 };
 
 void TestScripts::everyScriptSaysWhatItIsForAndStartsNothing_data()
@@ -119,6 +152,10 @@ void TestScripts::wrongUsageIsRefused_data()
     row("package --test more");
     row("pictures more");
     row("valgrind --bogus");
+    row("windows");
+    row("windows bogus");
+    row("windows --qt folder --bogus");
+    row("windows --qt folder --demo more");
     row("with-network");
     row("with-network --ready");
     row("with-network hall wizard");
@@ -141,7 +178,8 @@ void TestScripts::nothingIsInstalledWhereAllIsThere()
     ScriptCopy copy;
     copy.givePackages(true);
     const ScriptRun run =
-        copy.run(bootstrap, words("check fuzz bench display valgrind package trial"));
+        copy.run(bootstrap, words("check fuzz bench display valgrind package trial "
+                                  "windows windows-trial"));
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.output + run.errors, QString());
     QCOMPARE(copy.log(), QString());
@@ -178,6 +216,9 @@ void TestScripts::checkersComeWithTheirChecks_data()
     QTest::newRow("valgrind") << QStringLiteral("valgrind") << words("valgrind");
     QTest::newRow("package") << QStringLiteral("package") << words("lintian desktop-file-utils");
     QTest::newRow("trial") << QStringLiteral("trial") << words("mmdebstrap xvfb");
+    QTest::newRow("windows") << QStringLiteral("windows")
+                             << words("g++-mingw-w64-x86-64-posix nsis");
+    QTest::newRow("windows-trial") << QStringLiteral("windows-trial") << words("wine64 xvfb");
 }
 
 void TestScripts::checkersComeWithTheirChecks()
@@ -389,6 +430,76 @@ void TestScripts::packageIsMadeOfWhatIsDelivered()
     copy.run(QStringLiteral("package"), {});
     QCOMPARE(copy.log(), QStringLiteral("cmake --preset release -DTESSEL_WERROR=OFF\n"
                                         "cmake --build --preset release --target delivered\n"));
+}
+
+void TestScripts::windowsIsBuiltAgainstAQtForItAlone_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("missing");
+    QTest::addColumn<QString>("version");
+    QTest::addColumn<QString>("says");
+    const auto row = [](const char* name, const char* folder, const char* missing,
+                        const char* version, const char* says) {
+        QTest::newRow(name) << QString::fromLatin1(folder) << QString::fromLatin1(missing)
+                            << QString::fromLatin1(version) << QString::fromLatin1(says);
+    };
+    row("none", "", "", "6.4.2", "--qt wants the folder of a Qt for MinGW");
+    row("not there", "nowhere", "", "6.4.2", "nowhere: there is no such folder");
+    row("no Qt", "script", "", "6.4.2", "script: there is no Qt 6 in it");
+    row("of Linux", "qt", "bin/Qt6Core.dll", "6.4.2", "qt: this is no Qt for MinGW");
+    row("of another compiler", "qt", "lib/libQt6Core.a", "6.4.2", "qt: this is no Qt for MinGW");
+    row("too old", "qt", "", "6.3.2", "qt: this is Qt 6.3.2, and 6.4 or later is wanted");
+}
+
+void TestScripts::windowsIsBuiltAgainstAQtForItAlone()
+{
+    QFETCH(const QString, folder);
+    QFETCH(const QString, missing);
+    QFETCH(const QString, version);
+    QFETCH(const QString, says);
+    ScriptCopy copy;
+    copy.givePackages(true);
+    leaveQt(copy, version.toUtf8(), QStringLiteral("qt"), missing);
+    const ScriptRun run = copy.run(QStringLiteral("windows"), {QStringLiteral("--qt"), folder});
+    QVERIFY(run.exitCode == 64 || run.exitCode == 66);
+    QCOMPARE(run.output, QString());
+    QCOMPARE(run.errors, QStringLiteral("windows: %1\n").arg(says));
+    QCOMPARE(copy.log(), QString());
+}
+
+void TestScripts::windowsIsBuiltWithToolsThatAreNotOlder()
+{
+    ScriptCopy copy;
+    leaveQt(copy, "6.10.0");
+    giveWindowsTools(copy, QStringLiteral("6.4.2"));
+    const ScriptRun run = copy.run(QStringLiteral("windows"), words("--qt qt"));
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.errors, QStringLiteral("windows: this computer's own Qt is 6.4.2, and one not "
+                                        "older than 6.10.0 is wanted: name it by QT_HOST_PATH\n"));
+}
+
+void TestScripts::windowsIsConfiguredOncePerQt()
+{
+    ScriptCopy copy;
+    leaveQt(copy, "6.4.2");
+    giveWindowsTools(copy, QStringLiteral("6.4.2"));
+    copy.give(QStringLiteral("cmake"), QStringLiteral("echo \"cmake $1 $2\" >>\"$LOG\"\n"
+                                                      "[ \"$1\" = --build ] || {\n"
+                                                      "mkdir -p build/windows\n"
+                                                      "echo >build/windows/build.ninja\n"
+                                                      "for each; do echo \"${each#-D}\"; done |\n"
+                                                      "sed 's/=/:UNINITIALIZED=/' "
+                                                      ">build/windows/CMakeCache.txt\n"
+                                                      "}"));
+    copy.run(QStringLiteral("windows"), words("--qt qt tessel"));
+    copy.run(QStringLiteral("windows"), words("--qt qt tessel"));
+    QCOMPARE(copy.log(), QStringLiteral("cmake --preset windows\n"
+                                        "cmake --build --preset\n"
+                                        "cmake --build --preset\n"));
+    leaveQt(copy, "6.4.2", QStringLiteral("other"));
+    copy.run(QStringLiteral("windows"), words("--qt other tessel"));
+    QVERIFY2(copy.log().endsWith(u"cmake --preset windows\ncmake --build --preset\n"),
+             qPrintable(copy.log()));
 }
 
 TESSEL_TEST_MAIN(TestScripts)

@@ -1,0 +1,212 @@
+; The installer for Windows. packaging/windows/pack calls makensis with
+;
+;   VERSION, VERSION4  the version, and the same with four numbers
+;   STAGED             the folder with all that is installed
+;   REMOVAL            a file of instructions that remove exactly that again
+;   KILOBYTES          its size
+;   ICON, OUTPUT       what their names say
+;
+; On the command line it takes /S (asks nothing), /CurrentUser or /AllUsers, and /D=FOLDER as the
+; last. Exit codes beside those of every NSIS installer: 2 the older version could not be removed,
+; 3 a program is running, 5 there are no rights for all users, 6 this Windows is too old.
+
+Unicode true
+Target amd64-unicode
+SetCompressor /SOLID lzma
+SetDateSave off
+Name "Tessel"
+OutFile "${OUTPUT}"
+BrandingText "Tessel ${VERSION}"
+ManifestDPIAware true
+ManifestLongPathAware true
+ShowInstDetails nevershow
+ShowUninstDetails nevershow
+
+VIProductVersion "${VERSION4}"
+VIFileVersion "${VERSION4}"
+VIAddVersionKey "ProductName" "Tessel"
+VIAddVersionKey "ProductVersion" "${VERSION}"
+VIAddVersionKey "FileVersion" "${VERSION}"
+VIAddVersionKey "FileDescription" "Installs Tessel"
+VIAddVersionKey "CompanyName" "Tessel"
+VIAddVersionKey "LegalCopyright" "Copyright 2026 its owner. No licence has been chosen yet."
+
+; Whoever has the rights may choose; without them, and where nobody is asked, it is for one user.
+!define MULTIUSER_EXECUTIONLEVEL Highest
+!define MULTIUSER_MUI
+!define MULTIUSER_INSTALLMODE_COMMANDLINE
+!define MULTIUSER_INSTALLMODE_DEFAULT_CURRENTUSER
+!define MULTIUSER_INSTALLMODE_INSTDIR "Tessel"
+!define MULTIUSER_USE_PROGRAMFILES64
+!define ENTRY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Tessel"
+!define MULTIUSER_INSTALLMODE_INSTDIR_REGISTRY_KEY "${ENTRY}"
+!define MULTIUSER_INSTALLMODE_INSTDIR_REGISTRY_VALUENAME "InstallLocation"
+!define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_KEY "${ENTRY}"
+!define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_VALUENAME "InstallLocation"
+!include MultiUser.nsh
+!include MUI2.nsh
+!include LogicLib.nsh
+!include WinVer.nsh
+!include Integration.nsh
+
+!define KIND "Tessel.Hall" ; of files that end in .tessel
+!define MENU "$SMPROGRAMS\Tessel"
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!define MUI_FINISHPAGE_RUN "$INSTDIR\tessel.exe"
+!insertmacro MUI_PAGE_WELCOME
+!insertmacro MULTIUSER_PAGE_INSTALLMODE
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_PAGE_FINISH
+!insertmacro MUI_UNPAGE_CONFIRM
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE English
+
+; Says why, where somebody reads it, and ends with an exit code.
+!macro GiveUp code why
+    MessageBox MB_OK|MB_ICONSTOP "${why}" /SD IDOK
+    SetErrorLevel ${code}
+    Quit
+!macroend
+
+; A running program cannot be replaced or removed, and would leave half of it.
+!macro RequireEnded program
+    ${Do}
+        ClearErrors
+        ${IfNot} ${FileExists} "$INSTDIR\${program}"
+            ${ExitDo}
+        ${EndIf}
+        FileOpen $0 "$INSTDIR\${program}" a
+        ${IfNot} ${Errors}
+            FileClose $0
+            ${ExitDo}
+        ${EndIf}
+        ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${program} is running. Close it, then try again." /SD IDCANCEL IDCANCEL`
+            SetErrorLevel 3
+            Quit
+        ${EndIf}
+    ${Loop}
+!macroend
+
+!macro RequireAllEnded
+    !insertmacro RequireEnded tessel.exe
+    !insertmacro RequireEnded tesselctl.exe
+    !insertmacro RequireEnded tessel-hall.exe
+!macroend
+
+; Where MultiUser.nsh would show a box to nobody.
+!macro RequireRights
+    ${If} ${Silent}
+        ${GetParameters} $0
+        ${StrStr} $1 $0 "/AllUsers"
+        UserInfo::GetAccountType
+        Pop $2
+        ${If} $1 != ""
+        ${AndIf} $2 != "Admin"
+            !insertmacro GiveUp 5 "There are no rights to install for all users."
+        ${EndIf}
+    ${EndIf}
+!macroend
+
+Function .onInit
+    ${IfNot} ${AtLeastWin10}
+        !insertmacro GiveUp 6 "Tessel needs Windows 10 or later."
+    ${EndIf}
+    !insertmacro RequireRights
+    StrCpy $R0 $INSTDIR ; empty, unless there is /D=
+    !insertmacro MULTIUSER_INIT
+    ${If} $R0 != ""
+        StrCpy $INSTDIR $R0
+    ${EndIf}
+FunctionEnd
+
+Function un.onInit
+    !insertmacro MULTIUSER_UNINIT
+FunctionEnd
+
+; Each version knows itself what it has installed.
+Function removeOlder
+    ReadRegStr $R1 SHCTX "${ENTRY}" "InstallLocation"
+    ${If} $R1 == ""
+    ${OrIfNot} ${FileExists} "$R1\uninstall.exe"
+        Return
+    ${EndIf}
+    ExecWait '"$R1\uninstall.exe" /S /$MultiUser.InstallMode _?=$R1' $R2
+    ${If} $R2 <> 0
+        !insertmacro GiveUp 2 "The version that is installed in $R1 could not be removed."
+    ${EndIf}
+    Delete "$R1\uninstall.exe"
+    RMDir "$R1"
+FunctionEnd
+
+Function enterIntoMenu
+    SetOutPath "$INSTDIR"
+    CreateDirectory "${MENU}"
+    CreateShortcut "${MENU}\Tessel Room Wizard.lnk" "$INSTDIR\tessel.exe"
+    CreateShortcut /NoWorkingDir "${MENU}\Tessel Field Kit.lnk" "$SYSDIR\cmd.exe" \
+        '/k "set "PATH=$INSTDIR;%PATH%" & cd /d "%USERPROFILE%" & tesselctl --help"' \
+        "$INSTDIR\tesselctl.exe"
+FunctionEnd
+
+Function takeFiles
+    WriteRegStr SHCTX "Software\Classes\.tessel" "" "${KIND}"
+    WriteRegStr SHCTX "Software\Classes\.tessel" "Content Type" "application/x-tessel"
+    WriteRegStr SHCTX "Software\Classes\.tessel\OpenWithProgids" "${KIND}" ""
+    WriteRegStr SHCTX "Software\Classes\${KIND}" "" "Tessel hall configuration"
+    WriteRegStr SHCTX "Software\Classes\${KIND}\DefaultIcon" "" "$INSTDIR\tessel.exe,0"
+    WriteRegStr SHCTX "Software\Classes\${KIND}\shell\open\command" "" '"$INSTDIR\tessel.exe" "%1"'
+    ${NotifyShell_AssocChanged}
+FunctionEnd
+
+Function enterIntoPrograms
+    WriteRegStr SHCTX "${ENTRY}" "DisplayName" "Tessel"
+    WriteRegStr SHCTX "${ENTRY}" "DisplayVersion" "${VERSION}"
+    WriteRegStr SHCTX "${ENTRY}" "DisplayIcon" "$INSTDIR\tessel.exe,0"
+    WriteRegStr SHCTX "${ENTRY}" "Publisher" "Tessel"
+    WriteRegStr SHCTX "${ENTRY}" "InstallLocation" "$INSTDIR"
+    WriteRegStr SHCTX "${ENTRY}" "UninstallString" '"$INSTDIR\uninstall.exe" /$MultiUser.InstallMode'
+    WriteRegStr SHCTX "${ENTRY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S /$MultiUser.InstallMode'
+    WriteRegDWORD SHCTX "${ENTRY}" "EstimatedSize" ${KILOBYTES}
+    WriteRegDWORD SHCTX "${ENTRY}" "NoModify" 1
+    WriteRegDWORD SHCTX "${ENTRY}" "NoRepair" 1
+FunctionEnd
+
+Section
+    !insertmacro RequireAllEnded
+    Call removeOlder
+    SetOutPath "$INSTDIR"
+    File /r "${STAGED}/*"
+    WriteUninstaller "$INSTDIR\uninstall.exe"
+    Call enterIntoMenu
+    Call takeFiles
+    Call enterIntoPrograms
+SectionEnd
+
+; Files of another program stay with it, also where they ended in .tessel before.
+Function un.giveFilesBack
+    ReadRegStr $0 SHCTX "Software\Classes\.tessel" ""
+    ${If} $0 == "${KIND}"
+        DeleteRegValue SHCTX "Software\Classes\.tessel" ""
+        DeleteRegValue SHCTX "Software\Classes\.tessel" "Content Type"
+    ${EndIf}
+    DeleteRegValue SHCTX "Software\Classes\.tessel\OpenWithProgids" "${KIND}"
+    DeleteRegKey /ifempty SHCTX "Software\Classes\.tessel\OpenWithProgids"
+    DeleteRegKey /ifempty SHCTX "Software\Classes\.tessel"
+    DeleteRegKey SHCTX "Software\Classes\${KIND}"
+    ${NotifyShell_AssocChanged}
+FunctionEnd
+
+Section Uninstall
+    !insertmacro RequireAllEnded
+    SetOutPath "$TEMP" ; a folder that a program stands in cannot be removed
+    Delete "${MENU}\Tessel Room Wizard.lnk"
+    Delete "${MENU}\Tessel Field Kit.lnk"
+    RMDir "${MENU}"
+    Call un.giveFilesBack
+    DeleteRegKey SHCTX "${ENTRY}"
+    !include "${REMOVAL}"
+    Delete "$INSTDIR\uninstall.exe"
+    RMDir "$INSTDIR"
+SectionEnd
