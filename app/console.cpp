@@ -7,6 +7,7 @@
 
 #ifdef Q_OS_WIN
 #include <io.h>
+#include <string>
 #include <windows.h>
 #endif
 
@@ -19,6 +20,23 @@ bool put(FILE* stream, const QString& text)
 
 #ifdef Q_OS_WIN
 
+/// In letters, since a console takes bytes for those of another character set than the system's.
+bool show(const QString& text)
+{
+    const HANDLE console =
+        ::CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                      nullptr, OPEN_EXISTING, 0, nullptr);
+    if (console == INVALID_HANDLE_VALUE) {
+        return false;
+    }
+    DWORD count = 0;
+    const std::wstring letters = text.toStdWString();
+    const BOOL written =
+        ::WriteConsoleW(console, letters.data(), DWORD(letters.size()), &count, nullptr);
+    ::CloseHandle(console);
+    return written != 0 && count == letters.size();
+}
+
 // Here a program with windows has no streams, but for those that its starter led into a file or
 // another program. What would go to the others goes to the console that it was started from. It is
 // let go again at once: whoever closes that console, or presses Ctrl+C in it, ends what is
@@ -29,11 +47,7 @@ bool write(FILE* stream, const QString& text)
         return put(stream, text);
     }
     const bool attached = ::AttachConsole(ATTACH_PARENT_PROCESS) != 0;
-    FILE* console = std::fopen("CONOUT$", "w");
-    const bool written = console != nullptr && put(console, text);
-    if (console != nullptr) {
-        std::fclose(console);
-    }
+    const bool written = show(text);
     if (attached) {
         ::FreeConsole();
     }

@@ -8,8 +8,11 @@
 #include <cstdio>
 
 #ifdef Q_OS_WIN
+#include <fcntl.h>
 #include <io.h>
 #include <windows.h>
+// Needs what is declared above.
+#include <shellapi.h>
 #else
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -33,7 +36,53 @@ int toldWidth(FILE* stream)
     CONSOLE_SCREEN_BUFFER_INFO info{};
     return ::GetConsoleScreenBufferInfo(console, &info) != 0 ? info.dwSize.X : 0;
 }
+
+/// While it lives, what is written is shown in the letters that are meant, and reaches files and
+/// other programs byte by byte.
+class Streams
+{
+public:
+    Streams()
+        : m_before(::GetConsoleOutputCP())
+    {
+        ::SetConsoleOutputCP(CP_UTF8);
+        for (FILE* stream : {stdout, stderr}) {
+            ::_setmode(::_fileno(stream), _O_BINARY);
+        }
+    }
+    ~Streams() { ::SetConsoleOutputCP(m_before); }
+    Q_DISABLE_COPY_MOVE(Streams)
+
+private:
+    UINT m_before; ///< the console outlives the program
+};
+
+/// Not those of main(), which have only the letters of the system's old character set.
+QStringList givenArguments(int /*argc*/, char** /*argv*/)
+{
+    int count = 0;
+    wchar_t** const texts = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    QStringList arguments;
+    for (int index = 0; index < count; ++index) {
+        arguments.append(QString::fromWCharArray(texts[index]));
+    }
+    ::LocalFree(texts);
+    return arguments;
+}
 #else
+class Streams
+{
+};
+
+QStringList givenArguments(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int index = 0; index < argc; ++index) {
+        arguments.append(QString::fromLocal8Bit(argv[index]));
+    }
+    return arguments;
+}
+
 bool isPersonWatching(FILE* stream)
 {
     return ::isatty(::fileno(stream)) != 0;
@@ -72,10 +121,8 @@ int main(int argc, char** argv)
     // Ctrl+C ends what reads this tool's output first: what is left to put right is still done.
     std::signal(SIGPIPE, SIG_IGN);
 #endif
-    QStringList arguments;
-    for (int index = 0; index < argc; ++index) {
-        arguments.append(QString::fromLocal8Bit(argv[index]));
-    }
+    [[maybe_unused]] const Streams streams;
+    const QStringList arguments = givenArguments(argc, argv);
     QFile output;
     QFile errors;
     if (!output.open(stdout, QIODevice::WriteOnly) || !errors.open(stderr, QIODevice::WriteOnly)) {

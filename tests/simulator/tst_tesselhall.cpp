@@ -1,3 +1,4 @@
+#include "ctrlc.h"
 #include "hall.h"
 #include "hallstore.h"
 #include "hubtexts.h"
@@ -51,7 +52,9 @@ public:
     explicit Program(const QStringList& arguments)
     {
         setProcessChannelMode(MergedChannels);
-        start(QStringLiteral(TESSEL_HALL_PROGRAM), arguments);
+        setProgram(QStringLiteral(TESSEL_HALL_PROGRAM));
+        setArguments(arguments);
+        startWithConsole(*this);
     }
 
     bool says(const QByteArray& text)
@@ -180,7 +183,7 @@ void TestTesselHall::programServesAndEndsCleanly()
     install(peer);
     QVERIFY(program.says("preset 1 recalled"));
     QVERIFY(QFile::exists(folder.filePath(address + QStringLiteral("/preset-1/hub01.xml"))));
-    program.terminate();
+    pressCtrlC(program);
     QVERIFY(program.ends());
     QVERIFY(program.says("127.10.5.1 Hub-1: 1 presets, 2 files, preset 1 recalled\n"
                          "Every message was as prescribed.\n"));
@@ -199,7 +202,7 @@ void TestTesselHall::differencesMakeTheProgramFail()
     peer.send(HubTexts::status("127.10.5.99"));
     QVERIFY(!peer.takeReply().isEmpty());
     QVERIFY(program.says("NOT AS PRESCRIBED: request 1 (status): header line 1: expected"));
-    program.terminate();
+    pressCtrlC(program);
     QVERIFY(program.ends());
     QCOMPARE(program.exitCode(), 3);
 }

@@ -1,15 +1,20 @@
 #include "livetoolrun.h"
 
+#include "ctrlc.h"
+
 #include <QTest>
 
+#ifdef Q_OS_UNIX
 #include <array>
 #include <csignal>
 #include <unistd.h>
+#endif
 
 namespace {
 
 constexpr int patience = 60000; // milliseconds
 
+#ifdef Q_OS_UNIX
 /// In the program itself, before it begins.
 void writeIntoBrokenPipe()
 {
@@ -21,17 +26,33 @@ void writeIntoBrokenPipe()
         ::close(ends[0]);
     }
 }
+#endif
 
 } // namespace
 
+bool LiveToolRun::knowsLostTerminals()
+{
+#ifdef Q_OS_UNIX
+    return true;
+#else
+    return false;
+#endif
+}
+
 LiveToolRun::LiveToolRun(const QStringList& arguments, const QByteArray& typed, Reader reader)
 {
+#ifdef Q_OS_UNIX
     if (reader == Reader::Gone) {
         m_program.setChildProcessModifier(writeIntoBrokenPipe);
     }
     // Tests that are run by nohup would start it without.
     std::signal(SIGHUP, SIG_DFL);
-    m_program.start(QStringLiteral(TESSEL_TOOL), arguments);
+#else
+    Q_UNUSED(reader)
+#endif
+    m_program.setProgram(QStringLiteral(TESSEL_TOOL));
+    m_program.setArguments(arguments);
+    startWithConsole(m_program);
     m_program.write(typed);
     m_program.closeWriteChannel();
 }
@@ -54,12 +75,14 @@ bool LiveToolRun::hasSaid(const QString& words)
 
 void LiveToolRun::interrupt()
 {
-    ::kill(static_cast<pid_t>(m_program.processId()), SIGINT);
+    pressCtrlC(m_program);
 }
 
 void LiveToolRun::closeTerminal()
 {
+#ifdef Q_OS_UNIX
     ::kill(static_cast<pid_t>(m_program.processId()), SIGHUP);
+#endif
 }
 
 bool LiveToolRun::isKilled() const

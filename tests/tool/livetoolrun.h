@@ -15,6 +15,10 @@ public:
         Gone
     };
 
+    /// Whether this system has pipes that are broken and terminals that tell of their end;
+    /// otherwise there is no Reader::Gone and no closeTerminal().
+    static bool knowsLostTerminals();
+
     /// Starts it, with this as all that its user types.
     explicit LiveToolRun(const QStringList& arguments, const QByteArray& typed = {},
                          Reader reader = Reader::There);
@@ -32,7 +36,7 @@ public:
     /// Waits for its end.
     ToolRun ended();
 
-    /// Whether a signal ended it.
+    /// Whether it was ended from outside.
     bool isKilled() const;
 
 private:

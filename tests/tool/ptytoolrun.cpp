@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#ifdef Q_OS_UNIX
 #include <array>
 #include <csignal>
 #include <cstdlib>
@@ -11,6 +12,7 @@
 #include <sys/ioctl.h>
 #include <termios.h>
 #include <unistd.h>
+#endif
 
 namespace {
 
@@ -21,6 +23,13 @@ constexpr int patience = 60000; // milliseconds
 PtyToolRun::PtyToolRun(const QStringList& arguments)
     : PtyToolRun(arguments, {})
 {
+}
+
+#ifdef Q_OS_UNIX
+
+bool PtyToolRun::isPossible()
+{
+    return true;
 }
 
 PtyToolRun::PtyToolRun(const QStringList& arguments, const Setting& setting)
@@ -43,13 +52,6 @@ PtyToolRun::PtyToolRun(const QStringList& arguments, const Setting& setting)
         }
     });
     m_program.start(QStringLiteral(TESSEL_TOOL), arguments);
-}
-
-PtyToolRun::~PtyToolRun()
-{
-    m_program.kill();
-    m_program.waitForFinished();
-    closeTerminal();
 }
 
 bool PtyToolRun::hasShown(const QString& words)
@@ -108,4 +110,35 @@ void PtyToolRun::look()
     while ((count = ::read(m_keyboard, bytes.data(), bytes.size())) > 0) {
         m_shown += QString::fromUtf8(bytes.data(), count);
     }
+}
+
+#else
+
+bool PtyToolRun::isPossible()
+{
+    return false;
+}
+
+PtyToolRun::PtyToolRun(const QStringList& /*arguments*/, const Setting& /*setting*/) {}
+
+void PtyToolRun::type(const QByteArray& /*keys*/) const {}
+
+bool PtyToolRun::isEchoing() const
+{
+    return false;
+}
+
+void PtyToolRun::signal(int /*number*/) const {}
+
+void PtyToolRun::closeTerminal() {}
+
+void PtyToolRun::look() {}
+
+#endif
+
+PtyToolRun::~PtyToolRun()
+{
+    m_program.kill();
+    m_program.waitForFinished();
+    closeTerminal();
 }

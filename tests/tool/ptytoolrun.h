@@ -17,6 +17,9 @@ public:
         int columns = 0;            ///< of the screen; 0 when the terminal does not tell
     };
 
+    /// False where the system has no such terminals; then nothing is started.
+    static bool isPossible();
+
     explicit PtyToolRun(const QStringList& arguments, const Setting& setting);
     explicit PtyToolRun(const QStringList& arguments);
     ~PtyToolRun();

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void wrongUsageIsOneLine();
     void outputThatCannotBeWrittenIsToldAndAFailure();
     void aHallGoesThereAndBack();
+    void namesMayHaveAnyLetters();
     void whatCannotBeReadIsOneLine_data();
     void whatCannotBeReadIsOneLine();
 };
@@ -137,6 +138,26 @@ void TestToolProgram::aHallGoesThereAndBack()
     const ToolRun planned = runBuiltTool({QStringLiteral("plan"), hall});
     QCOMPARE(planned.errors, QString());
     QCOMPARE(planned.exitCode, 0);
+}
+
+void TestToolProgram::namesMayHaveAnyLetters()
+{
+    const QTemporaryDir folder;
+    const QString home = folder.filePath(QString::fromUtf8("Jörg Müller"));
+    QVERIFY(QDir().mkdir(home));
+    const QString text = home + QString::fromUtf8("/Größe.json");
+    const QString hall = home + QString::fromUtf8("/会議室 Łódź.tessel");
+    putFile(text, sampleHallText());
+    const ToolRun made = runBuiltTool({QStringLiteral("make"), text, QStringLiteral("-o"), hall});
+    QCOMPARE(made.errors, QString());
+    QCOMPARE(made.exitCode, 0);
+    QVERIFY(QFile::exists(hall));
+    QCOMPARE(runBuiltTool({QStringLiteral("show"), hall}).exitCode, 0);
+    const QString none = home + QString::fromUtf8("/空.tessel");
+    const ToolRun missing = runBuiltTool({QStringLiteral("show"), none});
+    QCOMPARE(missing.exitCode, 3);
+    QVERIFY2(missing.errors.startsWith(QStringLiteral("tesselctl: ") + none),
+             qPrintable(missing.errors));
 }
 
 void TestToolProgram::whatCannotBeReadIsOneLine_data()

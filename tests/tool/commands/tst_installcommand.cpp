@@ -131,6 +131,10 @@ private Q_SLOTS:
     QString error;                                                                                 \
     QVERIFY2(hall.start(&error), qPrintable(error))
 
+#define NEED_A_TERMINAL()                                                                          \
+    if (!PtyToolRun::isPossible())                                                                 \
+    QSKIP("this system has no terminals that a test can type at")
+
 void TestInstallCommand::everyHubIsDone()
 {
     START_HALL(twoHubs());
@@ -330,6 +334,9 @@ void TestInstallCommand::wrongUsageIsOneLine()
 
 void TestInstallCommand::passwordsThatOthersMayReadAreRefused()
 {
+#ifdef Q_OS_WIN
+    QSKIP("this system has no permissions that are told by a file alone");
+#endif
     START_HALL(twoHubs());
     const QString passwords = file.privateFile("passwords", line(stage));
     QVERIFY(QFile::setPermissions(passwords, QFileDevice::ReadOwner | QFileDevice::ReadGroup));
@@ -394,6 +401,7 @@ void TestInstallCommand::interruptionNamesWhatIsNotFinished()
 
 void TestInstallCommand::passwordsAreTypedUnseen()
 {
+    NEED_A_TERMINAL();
     START_HALL(twoHubs());
     PtyToolRun tool({install, file.path(), noSearch});
     for (const char* hub : {"Stage (127.34.1.1): ", "Gallery (127.34.1.2): "}) {
@@ -410,6 +418,7 @@ void TestInstallCommand::passwordsAreTypedUnseen()
 
 void TestInstallCommand::wrongPasswordIsAskedForAgain()
 {
+    NEED_A_TERMINAL();
     START_HALL(twoHubs());
     PtyToolRun tool({install, file.path(), noSearch, QStringLiteral("--hub"), stage});
     QVERIFY(tool.hasShown(QStringLiteral("password of Stage")));
@@ -457,6 +466,7 @@ void TestInstallCommand::answerThatSaysNothingOfThePasswordOfTheFileIsTold()
 
 void TestInstallCommand::emptyPasswordIsNotSent()
 {
+    NEED_A_TERMINAL();
     START_HALL(twoHubs());
     const QString passwords = file.privateFile("passwords", line(gallery));
     PtyToolRun tool({install, file.path(), noSearch, passwordsOption, passwords});
@@ -472,6 +482,7 @@ void TestInstallCommand::emptyPasswordIsNotSent()
 
 void TestInstallCommand::firstPasswordIsTypedTwice()
 {
+    NEED_A_TERMINAL();
     HallDescription fresh = twoHubs();
     fresh.hubs[0].password.reset();
     START_HALL(fresh);
@@ -549,6 +560,7 @@ void TestInstallCommand::hubThatDoesNotTakeItsFirstPasswordIsToldWhy()
 
 void TestInstallCommand::endOfInputLeavesTheHubOut()
 {
+    NEED_A_TERMINAL();
     START_HALL(twoHubs());
     PtyToolRun tool({install, file.path(), noSearch, QStringLiteral("--json")});
     QVERIFY(tool.hasShown(QStringLiteral("password of Stage")));
@@ -563,6 +575,7 @@ void TestInstallCommand::endOfInputLeavesTheHubOut()
 
 void TestInstallCommand::nobodyIsAskedWhereNobodyReadsTheQuestion()
 {
+    NEED_A_TERMINAL();
     START_HALL(twoHubs());
     PtyToolRun tool({install, file.path(), noSearch, QStringLiteral("--json")},
                     {.errorsOnScreen = false});
@@ -582,6 +595,7 @@ void TestInstallCommand::lostTerminalBeginsNoTransfer_data()
 
 void TestInstallCommand::lostTerminalBeginsNoTransfer()
 {
+    NEED_A_TERMINAL();
     QFETCH(const bool, hearsHangUp);
     START_HALL(twoHubs());
     PtyToolRun tool({install, file.path(), noSearch}, {.hearsHangUp = hearsHangUp});
@@ -608,6 +622,7 @@ void TestInstallCommand::keysThatStopOrQuitDoNotAtThePrompt_data()
 /// Such a key would forget what was typed before it; switched off it is a letter, which is erased.
 void TestInstallCommand::keysThatStopOrQuitDoNotAtThePrompt()
 {
+    NEED_A_TERMINAL();
     QFETCH(const QByteArray, key);
     START_HALL(twoHubs());
     const QString passwords = file.privateFile("passwords", line(gallery));
@@ -623,11 +638,14 @@ void TestInstallCommand::interruptedPromptShowsAgainWhatIsTyped_data()
 {
     QTest::addColumn<int>("number");
     QTest::newRow("Ctrl+C") << SIGINT;
+#ifdef SIGQUIT
     QTest::newRow("a wish to quit") << SIGQUIT;
+#endif
 }
 
 void TestInstallCommand::interruptedPromptShowsAgainWhatIsTyped()
 {
+    NEED_A_TERMINAL();
     QFETCH(const int, number);
     START_HALL(twoHubs());
     PtyToolRun tool({install, file.path(), noSearch});
@@ -649,6 +667,7 @@ void TestInstallCommand::interruptedPromptShowsAgainWhatIsTyped()
 
 void TestInstallCommand::barsKeepToEightyColumns()
 {
+    NEED_A_TERMINAL();
     HallDescription named = twoHubs();
     named.hubs[0].label = QString(64, u'x');
     START_HALL(named);
@@ -665,6 +684,7 @@ void TestInstallCommand::barsKeepToEightyColumns()
 
 void TestInstallCommand::barsOnANarrowTerminalAreDrawnOver()
 {
+    NEED_A_TERMINAL();
     START_HALL(twoHubs());
     const QString passwords = file.privateFile("passwords", line(stage) + line(gallery));
     PtyToolRun tool({install, file.path(), noSearch, passwordsOption, passwords}, {.columns = 40});
@@ -686,6 +706,7 @@ void TestInstallCommand::recallOfTheOthersIsOfferedAndDone_data()
 
 void TestInstallCommand::recallOfTheOthersIsOfferedAndDone()
 {
+    NEED_A_TERMINAL();
     QFETCH(const QByteArray, answer);
     QFETCH(const bool, isRecalled);
     START_HALL(twoHubs());
