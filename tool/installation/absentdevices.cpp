@@ -51,7 +51,7 @@ QString reasonOf(const DeviceData& device, const QList<JudgedDevice>& found,
         std::find_if(found.begin(), found.end(), [&device](const JudgedDevice& other) {
             return other.record.ipAddress == device.ipAddress;
         });
-    const QString reason =
+    QString reason =
         there != found.end() ? reasonAtAddress(device, *there) : QStringLiteral("no answer there");
     const QString place = placeOf(device, found);
     if (!place.isEmpty()) {
