@@ -7,7 +7,12 @@ namespace {
 // An application refers to its arguments as long as it lives.
 char programName[] = "tesselctl";
 char platformOption[] = "-platform";
+// What paints without a display. On Windows it knows no fonts, and there is always a desktop.
+#ifdef Q_OS_WIN
+char platformName[] = "windows";
+#else
 char platformName[] = "offscreen";
+#endif
 
 } // namespace
 

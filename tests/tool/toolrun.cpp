@@ -6,6 +6,14 @@ namespace {
 
 constexpr int patience = 30000; // milliseconds
 
+/// What Wine says of itself when pictures are made, which Windows does not.
+QString withoutWine(QString errors)
+{
+    return errors.remove(
+        QStringLiteral("SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2) "
+                       "failed: COM error 0x57  (Invalid parameter.)\n"));
+}
+
 QProcessEnvironment withoutDisplay()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -31,7 +39,7 @@ ToolRun runBuiltTool(const QStringList& arguments, const QString& outputFile)
         return {};
     }
     return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
-            QString::fromUtf8(program.readAllStandardError())};
+            withoutWine(QString::fromUtf8(program.readAllStandardError()))};
 }
 
 bool isOneLine(const QString& errors)

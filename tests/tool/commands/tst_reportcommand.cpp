@@ -349,7 +349,8 @@ void TestReportCommand::aBadInputIsOneLineAndNothingIsWritten_data()
                         const char* reason) {
         QTest::newRow(name) << QString::fromLatin1(option) << file << QString::fromLatin1(reason);
     };
-    row("no search", "--found", path("none.json"), ": No such file or directory");
+    row("no search", "--found", path("none.json"),
+        qPrintable(QStringLiteral(": ") + wordsForMissingFile()));
     row("a folder", "--found", m_folder.path(), ": this is a folder, not a file");
     row("an empty search", "--found", path("empty.json"), ": the file is empty");
     row("a walk for a search", "--found", path("walk.json"), ": .devices: this is missing");
