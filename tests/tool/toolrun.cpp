@@ -6,14 +6,6 @@ namespace {
 
 constexpr int patience = 30000; // milliseconds
 
-/// What Wine says of itself when pictures are made, which Windows does not.
-QString withoutWine(QString errors)
-{
-    return errors.remove(
-        QStringLiteral("SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2) "
-                       "failed: COM error 0x57  (Invalid parameter.)\n"));
-}
-
 QProcessEnvironment withoutDisplay()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -26,6 +18,13 @@ QProcessEnvironment withoutDisplay()
 }
 
 } // namespace
+
+QString withoutWine(QString errors)
+{
+    return errors.remove(
+        QStringLiteral("SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2) "
+                       "failed: COM error 0x57  (Invalid parameter.)\n"));
+}
 
 ToolRun runBuiltTool(const QStringList& arguments, const QString& outputFile)
 {
