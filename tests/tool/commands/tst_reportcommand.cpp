@@ -377,6 +377,9 @@ void TestReportCommand::aBadInputIsOneLineAndNothingIsWritten()
 
 void TestReportCommand::noInputIsOverwritten()
 {
+#ifdef Q_OS_WIN
+    QSKIP("a link is a file of its own there");
+#endif
     QVERIFY(QFile::link(path("walk.json"), path("walk.html")));
     QVERIFY(QFile::link(path("hall.tessel"), path("hall.pdf")));
     for (const char* name : {"walk.html", "hall.pdf"}) {
@@ -432,6 +435,9 @@ void TestReportCommand::onAFullDiskAFormerRecordStaysWhole()
 
 void TestReportCommand::aSystemWithoutFontsIsTold()
 {
+#ifdef Q_OS_WIN
+    QSKIP("the system always has fonts");
+#endif
     putFile(path("fonts.conf"), "<?xml version=\"1.0\"?><fontconfig></fontconfig>");
     const Environment noFonts("FONTCONFIG_FILE", path("fonts.conf").toUtf8());
     const ToolRun run = report({QStringLiteral("-o"), path("hall.pdf")});
