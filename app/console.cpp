@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #ifdef Q_OS_WIN
+#include <fcntl.h>
 #include <io.h>
 #include <string>
 #include <windows.h>
@@ -43,7 +44,9 @@ bool show(const QString& text)
 // attached.
 bool write(FILE* stream, const QString& text)
 {
-    if (::_fileno(stream) >= 0) {
+    if (const int descriptor = ::_fileno(stream); descriptor >= 0) {
+        // Lines end as they do on other systems.
+        ::_setmode(descriptor, _O_BINARY);
         return put(stream, text);
     }
     const bool attached = ::AttachConsole(ATTACH_PARENT_PROCESS) != 0;

@@ -37,6 +37,11 @@ void startLog(ExchangeLog& log, const QString& path)
 
 int runWizard(int& argc, char** argv)
 {
+#ifdef Q_OS_WIN
+    // The system's own style paints selections and buttons in colours of its own, on which the
+    // window's could not always be read.
+    QApplication::setStyle(QStringLiteral("Fusion"));
+#endif
     // Destroyed from the bottom up: window, document, log, application.
     const QApplication application(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("tessel"));

@@ -4,6 +4,17 @@
 #include <QFile>
 #include <QFileInfo>
 
+namespace {
+
+/// In the system's words, which are a part of a sentence here; Windows ends its own with a stop.
+QString reasonOf(const QFile& file)
+{
+    const QString words = file.errorString();
+    return words.endsWith(u'.') ? words.chopped(1) : words;
+}
+
+} // namespace
+
 std::optional<QByteArray> readWholeFile(const QString& path, qint64 maxSize, QString& fault)
 {
     fault.clear();
@@ -15,7 +26,7 @@ std::optional<QByteArray> readWholeFile(const QString& path, qint64 maxSize, QSt
         bytes = file.read(maxSize + 1);
     }
     if (fault.isEmpty() && file.error() != QFileDevice::NoError) {
-        fault = file.errorString();
+        fault = reasonOf(file);
     } else if (bytes.size() > maxSize) {
         fault = QCoreApplication::translate("WholeFile",
                                             "it is larger than any configuration of a hall");

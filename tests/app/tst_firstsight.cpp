@@ -134,6 +134,9 @@ private Q_SLOTS:
 
 void TestFirstSight::theMouseFindsTheDrawnRoomsAndNothingMore()
 {
+#ifdef Q_OS_WIN
+    QSKIP("letters are smoothed in another way there");
+#endif
     const Wizard wizard;
     wizard.clickNext(1);
     QWidget* editor = wizard.grid("roomEditor");

@@ -426,8 +426,11 @@ void TestOpenedFile::aFileThatIsNotThereIsToldAndMadeOnYes()
     Opened again;
     const DialogAnswerer told("Error", pressing("OK"));
     again.open();
-    QCOMPARE(told.text(), QDir::toNativeSeparators(path()) +
-                              QStringLiteral(" cannot be opened: No such file or directory."));
+    const QString start = QDir::toNativeSeparators(path()) + QStringLiteral(" cannot be opened: ");
+    const QStringList systemsWords{QStringLiteral("No such file or directory."),
+                                   QStringLiteral("Path not found.")};
+    QVERIFY2(told.text().startsWith(start) && systemsWords.contains(told.text().mid(start.size())),
+             qPrintable(told.text()));
     again.user.draw({{0, 0}, {0, 1}});
     again.close("Yes");
     TesselDoc doc(nullptr);

@@ -83,3 +83,12 @@ QString lineThatIsTooWide(const QString& text)
     }
     return {};
 }
+
+QString wordsForMissingFile()
+{
+#ifdef Q_OS_WIN
+    return QStringLiteral("File not found");
+#else
+    return QStringLiteral("No such file or directory");
+#endif
+}

@@ -23,6 +23,9 @@ CommandRun runCommand(const Command& command, const QStringList& arguments);
 /// with two layouts, as people write it.
 QByteArray sampleHallText();
 
+/// What this system says of a file that is not there.
+QString wordsForMissingFile();
+
 /// Writes a file or reads one whole; a failure fails the test.
 void putFile(const QString& path, const QByteArray& bytes);
 QByteArray fileAt(const QString& path);

@@ -98,5 +98,5 @@ ToolRun LiveToolRun::ended()
     const bool isByItself = isOver && m_program.exitStatus() == QProcess::NormalExit;
     return {isByItself ? m_program.exitCode() : -1,
             QString::fromUtf8(m_program.readAllStandardOutput()),
-            m_said + QString::fromUtf8(m_program.readAllStandardError())};
+            withoutWine(m_said + QString::fromUtf8(m_program.readAllStandardError()))};
 }

@@ -54,18 +54,6 @@ PtyToolRun::PtyToolRun(const QStringList& arguments, const Setting& setting)
     m_program.start(QStringLiteral(TESSEL_TOOL), arguments);
 }
 
-bool PtyToolRun::hasShown(const QString& words)
-{
-    return QTest::qWaitFor(
-        [this, &words] {
-            look();
-            const qsizetype place = m_shown.indexOf(words, m_seen);
-            m_seen = place < 0 ? m_seen : place + words.size();
-            return place >= 0;
-        },
-        patience);
-}
-
 void PtyToolRun::type(const QByteArray& keys) const
 {
     QCOMPARE(::write(m_keyboard, keys.constData(), size_t(keys.size())), keys.size());
@@ -90,17 +78,6 @@ void PtyToolRun::closeTerminal()
             ::close(descriptor);
         }
     }
-}
-
-ToolRun PtyToolRun::ended()
-{
-    const bool isOver =
-        QTest::qWaitFor([this] { return m_program.state() == QProcess::NotRunning; }, patience);
-    look();
-    const bool isByItself = isOver && m_program.exitStatus() == QProcess::NormalExit;
-    return {isByItself ? m_program.exitCode() : -1,
-            QString::fromUtf8(m_program.readAllStandardOutput()),
-            m_shown + QString::fromUtf8(m_program.readAllStandardError())};
 }
 
 void PtyToolRun::look()
@@ -141,4 +118,27 @@ PtyToolRun::~PtyToolRun()
     m_program.kill();
     m_program.waitForFinished();
     closeTerminal();
+}
+
+bool PtyToolRun::hasShown(const QString& words)
+{
+    return QTest::qWaitFor(
+        [this, &words] {
+            look();
+            const qsizetype place = m_shown.indexOf(words, m_seen);
+            m_seen = place < 0 ? m_seen : place + words.size();
+            return place >= 0;
+        },
+        patience);
+}
+
+ToolRun PtyToolRun::ended()
+{
+    const bool isOver =
+        QTest::qWaitFor([this] { return m_program.state() == QProcess::NotRunning; }, patience);
+    look();
+    const bool isByItself = isOver && m_program.exitStatus() == QProcess::NormalExit;
+    return {isByItself ? m_program.exitCode() : -1,
+            QString::fromUtf8(m_program.readAllStandardOutput()),
+            m_shown + QString::fromUtf8(m_program.readAllStandardError())};
 }

@@ -19,6 +19,13 @@ QProcessEnvironment withoutDisplay()
 
 } // namespace
 
+QString withoutWine(QString errors)
+{
+    return errors.remove(
+        QStringLiteral("SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2) "
+                       "failed: COM error 0x57  (Invalid parameter.)\n"));
+}
+
 ToolRun runBuiltTool(const QStringList& arguments, const QString& outputFile)
 {
     QProcess program;
@@ -31,7 +38,7 @@ ToolRun runBuiltTool(const QStringList& arguments, const QString& outputFile)
         return {};
     }
     return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
-            QString::fromUtf8(program.readAllStandardError())};
+            withoutWine(QString::fromUtf8(program.readAllStandardError()))};
 }
 
 bool isOneLine(const QString& errors)

@@ -11,6 +11,9 @@ struct ToolRun
     QString errors;
 };
 
+/// Without what Wine says of itself when pictures are made, which Windows does not.
+QString withoutWine(QString errors);
+
 /// Runs it to its end where there is no display, with standard output led into `outputFile` if one
 /// is named.
 ToolRun runBuiltTool(const QStringList& arguments, const QString& outputFile = {});

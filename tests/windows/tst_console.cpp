@@ -57,7 +57,7 @@ void TestConsole::helpAndVersionAreShown_data()
     QTest::newRow("tool, help") << tool << help << QStringLiteral("Usage: tesselctl ");
     QTest::newRow("tool, version")
         << tool << version << QStringLiteral("tesselctl " TESSEL_PROJECT_VERSION);
-    QTest::newRow("hall, help") << hallProgram << help << QStringLiteral("Usage: tessel-hall ");
+    QTest::newRow("hall, help") << hallProgram << help << QStringLiteral("--discovery-listen");
     QTest::newRow("hall, version")
         << hallProgram << version << QStringLiteral("tessel-hall " TESSEL_PROJECT_VERSION);
 }
@@ -69,7 +69,7 @@ void TestConsole::helpAndVersionAreShown()
     QFETCH(const QString, shown);
     ConsoleRun run(program, {argument}, streamsOf(program));
     QCOMPARE(run.ended(), 0);
-    QVERIFY2(run.screen().contains(shown), qPrintable(run.screen()));
+    QVERIFY2(run.screen().contains(shown), run.screen().toUtf8().constData());
 }
 
 void TestConsole::lettersAreShownAsTheyAreMeant()
@@ -77,7 +77,7 @@ void TestConsole::lettersAreShownAsTheyAreMeant()
     const QString file = QString::fromUtf8("Größe Łódź.tessel");
     ConsoleRun run(tool, {QStringLiteral("show"), file});
     QCOMPARE(run.ended(), 3);
-    QVERIFY2(run.screen().contains(file), qPrintable(run.screen()));
+    QVERIFY2(run.screen().contains(file), run.screen().toUtf8().constData());
 }
 
 void TestConsole::theWizardsOwnLettersAreShownAsTheyAreMeant()
@@ -85,7 +85,7 @@ void TestConsole::theWizardsOwnLettersAreShownAsTheyAreMeant()
     const QString argument = QString::fromUtf8("--Größe-Łódź");
     ConsoleRun run(wizard, {QStringLiteral("-N:1"), argument}, streamsOf(wizard));
     QVERIFY2(run.hasShown(QStringLiteral("tessel: argument ignored: ") + argument),
-             qPrintable(run.screen()));
+             run.screen().toUtf8().constData());
 }
 
 void TestConsole::ctrlCClosesTheHall()
@@ -93,11 +93,12 @@ void TestConsole::ctrlCClosesTheHall()
     ConsoleRun run(hallProgram,
                    {QStringLiteral("--hubs"), QStringLiteral("1"), QStringLiteral("--peripherals"),
                     QStringLiteral("0"), QStringLiteral("--base"), hubAddress});
-    QVERIFY2(run.hasShown(QStringLiteral("Ctrl+C closes the hall.")), qPrintable(run.screen()));
+    QVERIFY2(run.hasShown(QStringLiteral("Ctrl+C closes the hall.")),
+             run.screen().toUtf8().constData());
     ConsoleRun::pressCtrlC();
     QCOMPARE(run.ended(), 0);
     QVERIFY2(run.screen().contains(QStringLiteral("Every message was as prescribed.")),
-             qPrintable(run.screen()));
+             run.screen().toUtf8().constData());
 }
 
 void TestConsole::aTakenAddressIsTold()
@@ -108,7 +109,7 @@ void TestConsole::aTakenAddressIsTold()
     ConsoleRun run(hallProgram, {QStringLiteral("--base"), hubAddress});
     QCOMPARE(run.ended(), 2);
     QVERIFY2(run.screen().contains(QStringLiteral("tessel-hall: cannot listen on 127.35.1.1 port")),
-             qPrintable(run.screen()));
+             run.screen().toUtf8().constData());
 }
 
 void TestConsole::aPasswordIsTypedUnseen()
@@ -118,11 +119,11 @@ void TestConsole::aPasswordIsTypedUnseen()
     QString error;
     QVERIFY2(hall.start(&error), qPrintable(error));
     ConsoleRun run(tool, {QStringLiteral("install"), file.path(), QStringLiteral("--no-search")});
-    QVERIFY2(run.hasShown(QStringLiteral("password of Stage")), qPrintable(run.screen()));
+    QVERIFY2(run.hasShown(QStringLiteral("password of Stage")), run.screen().toUtf8().constData());
     QTRY_VERIFY(!run.isEchoing());
     run.type(quickPassword() + u'\r');
     QCOMPARE(run.ended(), 0);
-    QVERIFY2(!run.screen().contains(quickPassword()), qPrintable(run.screen()));
+    QVERIFY2(!run.screen().contains(quickPassword()), run.screen().toUtf8().constData());
     QVERIFY(run.isEchoing());
     QCOMPARE(hall.hub(hubAddress)->recalledPreset(), 1);
 }
@@ -134,11 +135,12 @@ void TestConsole::ctrlCAtThePromptShowsAgainWhatIsTyped()
     QString error;
     QVERIFY2(hall.start(&error), qPrintable(error));
     ConsoleRun run(tool, {QStringLiteral("install"), file.path(), QStringLiteral("--no-search")});
-    QVERIFY2(run.hasShown(QStringLiteral("password of Stage")), qPrintable(run.screen()));
+    QVERIFY2(run.hasShown(QStringLiteral("password of Stage")), run.screen().toUtf8().constData());
     QTRY_VERIFY(!run.isEchoing());
     ConsoleRun::pressCtrlC();
     QCOMPARE(run.ended(), 1);
-    QVERIFY2(run.screen().contains(QStringLiteral("interrupted")), qPrintable(run.screen()));
+    QVERIFY2(run.screen().contains(QStringLiteral("interrupted")),
+             run.screen().toUtf8().constData());
     QVERIFY(run.isEchoing());
 }
 

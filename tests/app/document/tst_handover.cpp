@@ -43,7 +43,8 @@ int main(int argc, char** argv)
 {
     // Qt Test must not meet the wizard's arguments: it would refuse to run.
     QByteArray nic = "-N:7";
-    QByteArray device = "-D:\"PX-HB\"/Süd/2.1.0/192.168.0.10/00:a0:de:00:00:01";
+    QByteArray device =
+        QStringLiteral("-D:\"PX-HB\"/Süd/2.1.0/192.168.0.10/00:a0:de:00:00:01").toLocal8Bit();
     QByteArray tooOld = "-D:PX-HB/Old/1.0.0/192.168.0.11/00:a0:de:00:00:02";
     std::array<char*, 5> arguments = {argv[0], nic.data(), device.data(), tooOld.data(), nullptr};
     int count = int(arguments.size()) - 1;

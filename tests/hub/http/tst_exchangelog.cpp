@@ -327,6 +327,9 @@ void TestExchangeLog::aNewFileIsForItsOwnerAndAnOldOneGoesOn()
         log.noteRequest(hub, tokenRequest());
         QCOMPARE(lines().size(), expected);
     }
+#ifdef Q_OS_WIN
+    QSKIP("this system has no permissions that are told by a file alone");
+#endif
     const QFileDevice::Permissions others = QFileDevice::ReadGroup | QFileDevice::WriteGroup |
                                             QFileDevice::ReadOther | QFileDevice::WriteOther;
     QCOMPARE(QFileInfo(m_path).permissions() & others, QFileDevice::Permissions());

@@ -207,7 +207,8 @@ void TestTesselMenu::readOnlyOpensNoMenusAndShowsNoMarks()
     QCOMPARE(picker.findChildren<QMenu*>().size(), 0);
     const QImage image = picker.grab().toImage();
     QCOMPARE(countOf(image, QRect(center + QPoint(6, -2), QSize(12, 8)), Qt::white), 0);
-    QVERIFY(countOf(image, QRect(center - QPoint(5, 8), QSize(10, 16)), Qt::white) > 3);
+    const QRect number(center - QPoint(5, 8), QSize(10, 16));
+    QVERIFY(countOf(image, number, image.pixelColor(2, 2)) < number.width() * number.height() - 3);
     QCOMPARE(picker.focusPolicy(), Qt::NoFocus);
 }
 

@@ -349,7 +349,8 @@ void TestReportCommand::aBadInputIsOneLineAndNothingIsWritten_data()
                         const char* reason) {
         QTest::newRow(name) << QString::fromLatin1(option) << file << QString::fromLatin1(reason);
     };
-    row("no search", "--found", path("none.json"), ": No such file or directory");
+    row("no search", "--found", path("none.json"),
+        qPrintable(QStringLiteral(": ") + wordsForMissingFile()));
     row("a folder", "--found", m_folder.path(), ": this is a folder, not a file");
     row("an empty search", "--found", path("empty.json"), ": the file is empty");
     row("a walk for a search", "--found", path("walk.json"), ": .devices: this is missing");
@@ -376,6 +377,9 @@ void TestReportCommand::aBadInputIsOneLineAndNothingIsWritten()
 
 void TestReportCommand::noInputIsOverwritten()
 {
+#ifdef Q_OS_WIN
+    QSKIP("a link is a file of its own there");
+#endif
     QVERIFY(QFile::link(path("walk.json"), path("walk.html")));
     QVERIFY(QFile::link(path("hall.tessel"), path("hall.pdf")));
     for (const char* name : {"walk.html", "hall.pdf"}) {
@@ -431,6 +435,9 @@ void TestReportCommand::onAFullDiskAFormerRecordStaysWhole()
 
 void TestReportCommand::aSystemWithoutFontsIsTold()
 {
+#ifdef Q_OS_WIN
+    QSKIP("the system always has fonts");
+#endif
     putFile(path("fonts.conf"), "<?xml version=\"1.0\"?><fontconfig></fontconfig>");
     const Environment noFonts("FONTCONFIG_FILE", path("fonts.conf").toUtf8());
     const ToolRun run = report({QStringLiteral("-o"), path("hall.pdf")});

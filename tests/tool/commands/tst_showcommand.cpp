@@ -149,7 +149,7 @@ void TestShowCommand::anUnreadableFileIsToldAndNothingElse()
     const CommandRun run = runCommand(ShowCommand(), {path});
     QCOMPARE(run.code, ExitCode::CouldNotBeTried);
     QCOMPARE(run.output, QString());
-    QCOMPARE(run.errors, QStringLiteral("tesselctl: %1: No such file or directory\n").arg(path));
+    QCOMPARE(run.errors, QStringLiteral("tesselctl: %1: %2\n").arg(path, wordsForMissingFile()));
 }
 
 TESSEL_TEST_MAIN(TestShowCommand)

@@ -328,6 +328,9 @@ void TestWalkCommand::outputThatNobodyReadsEndsNoWalk()
 
 void TestWalkCommand::secondInterruptionLeaves()
 {
+#ifdef Q_OS_WIN
+    QSKIP("Wine ends by 0 what Ctrl+C ends");
+#endif
     const FollowingHall site(stage, gallery);
     recallOnBoth(site, 2);
     site.hall.device(stage)->setFault(

@@ -137,7 +137,7 @@ void TestHallFile::bytesBehindThePicturesAreRefused()
 
 void TestHallFile::missingFilesAndFoldersAreToldApart()
 {
-    QVERIFY(readHallFile(path("none.tessel")).fault.contains(u"No such file"));
+    QVERIFY(readHallFile(path("none.tessel")).fault.contains(wordsForMissingFile()));
     QVERIFY(readHallFile(m_folder.path()).fault.contains(u"this is a folder"));
 }
 

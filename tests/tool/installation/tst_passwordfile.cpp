@@ -117,6 +117,9 @@ void TestPasswordFile::aFileThatOthersMayOpenIsRefused_data()
 
 void TestPasswordFile::aFileThatOthersMayOpenIsRefused()
 {
+#ifdef Q_OS_WIN
+    QSKIP("this system has no permissions that are told by a file alone");
+#endif
     QFETCH(const int, others);
     const PasswordReading reading =
         read("10.0.0.1 secret7\n",
