@@ -100,13 +100,16 @@ VIAddVersionKey "LegalCopyright" "Copyright 2026 its owner. No licence has been 
 !macro RequireRights
     ${If} ${Silent}
         ${GetParameters} $0
-        ${StrStr} $1 $0 "/AllUsers"
-        UserInfo::GetAccountType
-        Pop $2
-        ${If} $1 != ""
-        ${AndIf} $2 != "Admin"
-            !insertmacro GiveUp 5 "There are no rights to install for all users."
+        ClearErrors
+        ${GetOptions} $0 "/AllUsers" $1
+        ${IfNot} ${Errors}
+            UserInfo::GetAccountType
+            Pop $2
+            ${If} $2 != "Admin"
+                !insertmacro GiveUp 5 "There are no rights to do this for all users."
+            ${EndIf}
         ${EndIf}
+        ClearErrors
     ${EndIf}
 !macroend
 
@@ -123,22 +126,30 @@ Function .onInit
 FunctionEnd
 
 Function un.onInit
+    !insertmacro RequireRights
     !insertmacro MULTIUSER_UNINIT
 FunctionEnd
 
 ; Each version knows itself what it has installed.
+!macro RemoveOlder root mode
+    ReadRegStr $R1 ${root} "${ENTRY}" "InstallLocation"
+    ${If} $R1 != ""
+    ${AndIf} ${FileExists} "$R1\uninstall.exe"
+        ExecWait '"$R1\uninstall.exe" /S /${mode} _?=$R1' $R2
+        ${If} $R2 <> 0
+            !insertmacro GiveUp 2 "The version that is installed in $R1 could not be removed."
+        ${EndIf}
+        Delete "$R1\uninstall.exe"
+        RMDir "$R1"
+    ${EndIf}
+!macroend
+
+; What one user has would go on opening that user's files, so it goes too where it is for all.
 Function removeOlder
-    ReadRegStr $R1 SHCTX "${ENTRY}" "InstallLocation"
-    ${If} $R1 == ""
-    ${OrIfNot} ${FileExists} "$R1\uninstall.exe"
-        Return
+    !insertmacro RemoveOlder HKCU CurrentUser
+    ${If} $MultiUser.InstallMode == "AllUsers"
+        !insertmacro RemoveOlder HKLM AllUsers
     ${EndIf}
-    ExecWait '"$R1\uninstall.exe" /S /$MultiUser.InstallMode _?=$R1' $R2
-    ${If} $R2 <> 0
-        !insertmacro GiveUp 2 "The version that is installed in $R1 could not be removed."
-    ${EndIf}
-    Delete "$R1\uninstall.exe"
-    RMDir "$R1"
 FunctionEnd
 
 Function enterIntoMenu

@@ -145,7 +145,8 @@ void UserPasswords::introduce(const PasswordWish& wish)
     const QString name = m_names.value(wish.address);
     if (!std::exchange(m_isExplained, true)) {
         m_terminal->say(
-            QStringLiteral("passwords are not shown while you type; Ctrl+D leaves a hub out"));
+            QStringLiteral("passwords are not shown while you type; %1 leaves a hub out")
+                .arg(PasswordPrompt::closingKeys()));
     }
     if (wish.wasRefused) {
         m_terminal->say(name + QStringLiteral(": ") + refusalWords(wish));
@@ -173,7 +174,8 @@ void UserPasswords::takeLine(const QString& line)
     if (m_wishes.first().isFirst) {
         takeFirst(line);
     } else if (line.isEmpty()) {
-        m_terminal->say(QStringLiteral("nothing was typed; Ctrl+D leaves it out"));
+        m_terminal->say(QStringLiteral("nothing was typed; %1 leaves it out")
+                            .arg(PasswordPrompt::closingKeys()));
         prompt();
     } else {
         finish(line);

@@ -35,16 +35,20 @@ public:
     ~Silence() { ::SetConsoleMode(m_console, m_before); }
     Q_DISABLE_COPY_MOVE(Silence)
 
-    /// The next line with its end; none when reading failed, also by Ctrl+C.
+    /// The next line with its end, empty for the end of input; none when reading failed, also by
+    /// Ctrl+C.
     std::optional<QString> line() const
     {
         std::array<wchar_t, 1024> letters{};
         DWORD count = 0;
         const BOOL isRead =
             ::ReadConsoleW(m_console, letters.data(), DWORD(letters.size()), &count, nullptr);
-        return isRead && count > 0
-                   ? std::optional(QString::fromWCharArray(letters.data(), int(count)))
-                   : std::nullopt;
+        if (!isRead || count == 0) {
+            return std::nullopt;
+        }
+        // A console hands on the keys that end an input as letters.
+        const QString text = QString::fromWCharArray(letters.data(), int(count));
+        return text.startsWith(QChar(0x04)) || text.startsWith(QChar(0x1a)) ? QString() : text;
     }
 
 private:
@@ -55,6 +59,11 @@ private:
 bool PasswordPrompt::isPossible() const
 {
     return ::_isatty(m_descriptor) != 0;
+}
+
+QString PasswordPrompt::closingKeys()
+{
+    return QStringLiteral("Ctrl+D and Return");
 }
 
 #else
@@ -115,6 +124,11 @@ private:
 bool PasswordPrompt::isPossible() const
 {
     return ::isatty(m_descriptor) != 0;
+}
+
+QString PasswordPrompt::closingKeys()
+{
+    return QStringLiteral("Ctrl+D");
 }
 
 #endif

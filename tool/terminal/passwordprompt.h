@@ -21,6 +21,9 @@ public:
     /// Whether it is a terminal; without one nothing can be read.
     bool isPossible() const;
 
+    /// The keys that end the input, as a sentence names them.
+    static QString closingKeys();
+
     /// From now on nothing is shown. One line is read, and after it what is typed is shown again;
     /// typed(), closed() or lost() follows.
     void read();
