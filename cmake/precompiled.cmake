@@ -31,6 +31,11 @@ tessel_precompiled_headers(tessel_precompiled_widgets QT Widgets HEADERS ${core_
 #
 #   tessel_precompile(NAME [Qt6::module...])
 function(tessel_precompile name)
+    # Programs for Windows are compiled with a definition of their own, which these headers lack.
+    get_target_property(type ${name} TYPE)
+    if(WIN32 AND type STREQUAL "EXECUTABLE")
+        return()
+    endif()
     if("Qt6::Widgets" IN_LIST ARGN)
         target_precompile_headers(${name} REUSE_FROM tessel_precompiled_widgets)
     else()
