@@ -11,6 +11,8 @@ double contrast(const QColor& one, const QColor& other);
 inline constexpr double readableContrast = 3.0;
 /// What a text needs to be read with ease, in any size and by most eyes.
 inline constexpr double textContrast = 4.5;
+/// What two grounds beside each other need to be told apart.
+inline constexpr double groundContrast = 1.3;
 
 /// The colour for a text that is to be gray on `ground`: `wanted` if that has contrast enough
 /// there, else a gray that has, as far from black and white as that allows. Contrasts of up to

@@ -18,6 +18,13 @@ QColor markColor(const QStyleOptionViewItem& shown)
                                   : shown.palette.color(QPalette::Base));
 }
 
+/// Whether selected rows look as all others do while the keyboard is elsewhere.
+bool palesSelections(const QPalette& palette)
+{
+    return contrast(palette.color(QPalette::Inactive, QPalette::Highlight),
+                    palette.color(QPalette::Inactive, QPalette::Base)) < groundContrast;
+}
+
 } // namespace
 
 void FocusedCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -31,5 +38,14 @@ void FocusedCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& o
     initStyleOption(&shown, index);
     if (isDark(option.palette) || (option.state & QStyle::State_Selected)) {
         fillFrame(*painter, option.rect, markColor(shown));
+    }
+}
+
+void FocusedCellDelegate::initStyleOption(QStyleOptionViewItem* option,
+                                          const QModelIndex& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (palesSelections(option->palette)) {
+        option->state |= QStyle::State_Active;
     }
 }

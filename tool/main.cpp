@@ -1,3 +1,4 @@
+#include "standardstreams.h"
 #include "terminal.h"
 #include "texttable.h"
 #include "toolprogram.h"
@@ -8,7 +9,6 @@
 #include <cstdio>
 
 #ifdef Q_OS_WIN
-#include <fcntl.h>
 #include <io.h>
 #include <windows.h>
 // Needs what is declared above.
@@ -37,26 +37,6 @@ int toldWidth(FILE* stream)
     return ::GetConsoleScreenBufferInfo(console, &info) != 0 ? info.dwSize.X : 0;
 }
 
-/// While it lives, what is written is shown in the letters that are meant, and reaches files and
-/// other programs byte by byte.
-class Streams
-{
-public:
-    Streams()
-        : m_before(::GetConsoleOutputCP())
-    {
-        ::SetConsoleOutputCP(CP_UTF8);
-        for (FILE* stream : {stdout, stderr}) {
-            ::_setmode(::_fileno(stream), _O_BINARY);
-        }
-    }
-    ~Streams() { ::SetConsoleOutputCP(m_before); }
-    Q_DISABLE_COPY_MOVE(Streams)
-
-private:
-    UINT m_before; ///< the console outlives the program
-};
-
 /// Not those of main(), which have only the letters of the system's old character set.
 QStringList givenArguments(int /*argc*/, char** /*argv*/)
 {
@@ -70,10 +50,6 @@ QStringList givenArguments(int /*argc*/, char** /*argv*/)
     return arguments;
 }
 #else
-class Streams
-{
-};
-
 QStringList givenArguments(int argc, char** argv)
 {
     QStringList arguments;
@@ -121,7 +97,7 @@ int main(int argc, char** argv)
     // Ctrl+C ends what reads this tool's output first: what is left to put right is still done.
     std::signal(SIGPIPE, SIG_IGN);
 #endif
-    [[maybe_unused]] const Streams streams;
+    const StandardStreams streams;
     const QStringList arguments = givenArguments(argc, argv);
     QFile output;
     QFile errors;

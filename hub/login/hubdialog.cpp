@@ -14,6 +14,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 // With the usual font.
@@ -120,6 +122,14 @@ void HubDialog::setDefaultButton(bool acceptIsDefault)
     (acceptIsDefault ? m_acceptButton : m_cancelButton)->setDefault(true);
 }
 
+bool HubDialog::event(QEvent* event)
+{
+    if (event->type() == QEvent::LayoutRequest) {
+        fit();
+    }
+    return QDialog::event(event);
+}
+
 void HubDialog::showEvent(QShowEvent* event)
 {
     // A second prompt would otherwise begin on the button that ended the first.
@@ -183,9 +193,16 @@ void HubDialog::scale()
 {
     scaleTitle();
     scaleHubList();
+    fit();
+}
+
+void HubDialog::fit()
+{
     const QSize least = scaledToFont(QSize(minDialogWidth, m_height), this);
-    setMinimumSize(least);
-    setMaximumSize(scaledToFont(maxDialogWidth, this), least.height());
+    // Letters and frames of some desktops are higher than the font tells.
+    const int height = std::max(least.height(), layout()->totalMinimumSize().height());
+    setMinimumSize(least.width(), height);
+    setMaximumSize(scaledToFont(maxDialogWidth, this), height);
 }
 
 void HubDialog::scaleTitle()

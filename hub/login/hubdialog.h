@@ -44,7 +44,7 @@ protected:
     void buildLayout(const QList<QWidget*>& fields);
 
     /// A dialog whose width may change, of this height with the usual font and of one in
-    /// proportion with others.
+    /// proportion with others; higher where its fields need more.
     void setHeight(int height);
 
     /// Says in the description of each field what is wrong with it or missing, in the words of
@@ -65,6 +65,7 @@ protected:
     /// The Enter key presses the accepting button if `acceptIsDefault`, otherwise "Cancel".
     void setDefaultButton(bool acceptIsDefault);
 
+    bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -79,6 +80,7 @@ private:
     void scaleTitle();
     void scaleHubList();
     void scale();
+    void fit();
 
     QString m_ipAddress;
     QString m_hostName;

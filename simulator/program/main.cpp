@@ -2,45 +2,13 @@
 #include "hallconsole.h"
 #include "halloptions.h"
 #include "hallstore.h"
+#include "standardstreams.h"
 #include "stopsignals.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
 
-#ifdef Q_OS_WIN
-#include <cstdio>
-#include <fcntl.h>
-#include <io.h>
-#include <windows.h>
-#endif
-
 namespace {
-
-#ifdef Q_OS_WIN
-/// While it lives, a console shows what is written in the letters that are meant, and files and
-/// other programs get the lines as they are on other systems.
-class Streams
-{
-public:
-    Streams()
-        : m_before(::GetConsoleOutputCP())
-    {
-        ::SetConsoleOutputCP(CP_UTF8);
-        for (FILE* stream : {stdout, stderr}) {
-            ::_setmode(::_fileno(stream), _O_BINARY);
-        }
-    }
-    ~Streams() { ::SetConsoleOutputCP(m_before); }
-    Q_DISABLE_COPY_MOVE(Streams)
-
-private:
-    UINT m_before; ///< the console outlives the program
-};
-#else
-class Streams
-{
-};
-#endif
 
 /// How the program ends, for scripts that start it.
 enum ExitCode
@@ -82,7 +50,7 @@ int runHall(const HallOptions& options, QTextStream& out)
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    [[maybe_unused]] const Streams streams;
+    const StandardStreams streams;
     QTextStream out(stdout);
     const HallOptionsReading reading = readHallOptions(QCoreApplication::arguments());
     if (!reading.help.isEmpty()) {

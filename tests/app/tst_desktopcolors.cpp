@@ -128,6 +128,23 @@ void addDesktops()
     QTest::newRow("turned light") << true << false;
 }
 
+void addLists()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("list");
+    const auto row = [](int page, const char* list) {
+        QTest::addRow("page %d: %s", page, list) << page << QString::fromLatin1(list);
+    };
+    row(3, "hubTable");
+    row(4, "layoutList");
+    row(5, "roomGroupList");
+    row(5, "summaryTable");
+    row(5, "peripheralTable");
+    row(6, "speakerTable");
+    row(7, "roomGroupList");
+    row(8, "hubList");
+}
+
 /// A widget with the ground that it has in its window.
 QImage pictureOf(const QWidget& widget)
 {
@@ -171,6 +188,8 @@ private Q_SLOTS:
     void theDarkHidesNoCellThatTheKeyboardIsIn();
     void aSelectedRowShowsWhetherTheKeyboardIsInIt_data();
     void aSelectedRowShowsWhetherTheKeyboardIsInIt();
+    void aSelectionIsSeenWhileTheKeyboardIsElsewhere_data() { addLists(); }
+    void aSelectionIsSeenWhileTheKeyboardIsElsewhere();
     void theMenuOfARoomCanBeRead_data() { addDesktops(); }
     void theMenuOfARoomCanBeRead();
     void theGridsLookTheSameOnEveryDesktop_data();
@@ -296,20 +315,9 @@ void TestDesktopColors::theMarkOfTheKeyboardIsSeenInEveryRow()
 
 void TestDesktopColors::theDarkHidesNoCellThatTheKeyboardIsIn_data()
 {
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QString>("list");
-    const auto row = [](int page, const char* list) {
-        QTest::addRow("page %d: %s", page, list) << page << QString::fromLatin1(list);
-    };
-    row(3, "hubTable");
-    row(3, "summaryTable");
-    row(4, "layoutList");
-    row(5, "roomGroupList");
-    row(5, "summaryTable");
-    row(5, "peripheralTable");
-    row(6, "speakerTable");
-    row(7, "roomGroupList");
-    row(8, "hubList");
+    addLists();
+    // Nothing is ever selected in it.
+    QTest::newRow("page 3: summaryTable") << 3 << QStringLiteral("summaryTable");
 }
 
 void TestDesktopColors::theDarkHidesNoCellThatTheKeyboardIsIn()
@@ -370,6 +378,24 @@ void TestDesktopColors::aSelectedRowShowsWhetherTheKeyboardIsInIt()
         QVERIFY2(found >= readableContrast,
                  qPrintable(QStringLiteral("column %1: %2").arg(column).arg(found)));
     }
+}
+
+void TestDesktopColors::aSelectionIsSeenWhileTheKeyboardIsElsewhere()
+{
+    QFETCH(const int, page);
+    QFETCH(const QString, list);
+    QPalette pale = m_light;
+    pale.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0xF0, 0xF0, 0xF0));
+    pale.setColor(QPalette::Inactive, QPalette::HighlightedText, Qt::black);
+    QApplication::setPalette(pale);
+    const Wizard wizard(page);
+    QTreeWidget* table = tableOf(wizard.page(), list.toLatin1().constData());
+    table->topLevelItem(0)->setSelected(true);
+    table->clearFocus();
+    const QRect cell = table->visualRect(table->model()->index(0, 0)).adjusted(3, 3, -3, -3);
+    const auto [ground, text] = shownColors(table->viewport()->grab().toImage(), cell);
+    QVERIFY(contrast(ground, pale.color(QPalette::Base)) >= groundContrast);
+    QVERIFY(contrast(ground, text) >= readableContrast);
 }
 
 void TestDesktopColors::theMenuOfARoomCanBeRead()

@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -94,6 +95,12 @@ void checkLook(const QDialog& dialog)
     }
 }
 
+/// Some desktops' letters are higher than their size in points tells.
+QSize neededHeight(const QDialog& dialog)
+{
+    return {0, dialog.layout()->totalMinimumSize().height()};
+}
+
 void addDialogsAndFonts()
 {
     QTest::addColumn<QString>("name");
@@ -120,6 +127,8 @@ private Q_SLOTS:
     void everyTextHasRoomWhenTheFontGrowsWhileOpen();
     void sizesAreInProportionToTheFont_data();
     void sizesAreInProportionToTheFont();
+    void higherFieldsMakeAPromptHigher_data();
+    void higherFieldsMakeAPromptHigher();
 };
 
 void TestDialogSizes::everyTextHasRoomOnTheScreen()
@@ -168,13 +177,41 @@ void TestDialogSizes::sizesAreInProportionToTheFont()
     QWidget window;
     for (const int points : {8, 9, 10}) {
         setFontSize(points);
-        QCOMPARE(makeDialog(name, &window)->minimumSize(), least);
+        const QDialog* dialog = makeDialog(name, &window);
+        QCOMPARE(dialog->minimumSize(), least.expandedTo(neededHeight(*dialog)));
     }
     for (const int points : {12, 14, 16}) {
         setFontSize(points);
         const QSize room = window.screen()->availableGeometry().size() - QSize(16, 40);
-        QCOMPARE(makeDialog(name, &window)->minimumSize(), (least * points / 10.0).boundedTo(room));
+        const QDialog* dialog = makeDialog(name, &window);
+        QCOMPARE(dialog->minimumSize(),
+                 (least * points / 10.0).boundedTo(room).expandedTo(neededHeight(*dialog)));
     }
+}
+
+void TestDialogSizes::higherFieldsMakeAPromptHigher_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("log-in") << QStringLiteral("log-in");
+    QTest::newRow("log-in refused") << QStringLiteral("log-in refused");
+    QTest::newRow("first password") << QStringLiteral("first password");
+}
+
+void TestDialogSizes::higherFieldsMakeAPromptHigher()
+{
+    QFETCH(const QString, name);
+    const auto window = makeWindow();
+    QDialog* dialog = makeDialog(name, window.get());
+    auto* field = dialog->findChild<QLineEdit*>();
+    field->setMinimumHeight(dialog->minimumHeight() / 2);
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(dialog));
+    checkLook(*dialog);
+    const int before = dialog->height();
+    field->setMinimumHeight(before);
+    QTRY_VERIFY(dialog->height() > before);
+    checkLook(*dialog);
+    QCOMPARE(dialog->minimumHeight(), dialog->maximumHeight());
 }
 
 TESSEL_TEST_MAIN(TestDialogSizes)

@@ -13,12 +13,16 @@
 
 namespace {
 
-class PageFace : public FaultFace
+class PageFace : public QObject, public FaultFace
 {
+    Q_OBJECT
+
 public:
     explicit PageFace(const HallDescription& description)
         : m_step(description)
     {
+        // After the page, which makes the hubs' senders then.
+        connect(m_step.execute(), SIGNAL(clicked()), this, SLOT(watch()));
     }
 
     Hall& hall() override { return m_step.hall; }
@@ -28,11 +32,7 @@ public:
         m_step.answers.giveUpAfter(m_step.address(1), answers);
     }
 
-    void install() override
-    {
-        press(m_step.execute());
-        m_ends = std::make_unique<QSignalSpy>(sender(), SIGNAL(finished(QString, int)));
-    }
+    void install() override { press(m_step.execute()); }
 
     void waitUntilQuiet() override { ::waitUntilQuiet(m_step); }
 
@@ -45,7 +45,7 @@ public:
         return isOver && isDone == (m_step.execute()->text() == u"Next");
     }
 
-    void passSeconds(int seconds) override { ::passSeconds(sender(), seconds); }
+    void passSeconds(int seconds) override { ::passSeconds(presetSender(), seconds); }
 
     QString status(int hub) const override { return m_step.status(hub + 1); }
 
@@ -62,10 +62,17 @@ public:
         return int(m_step.answers.prompts().count(m_step.address(1)));
     }
 
+private Q_SLOTS:
+    /// Before anything of the network is heard: a hub may fail while the button is still going up.
+    void watch()
+    {
+        m_ends = std::make_unique<QSignalSpy>(presetSender(), SIGNAL(finished(QString, int)));
+    }
+
 private:
     static constexpr int statusColumn = 3;
 
-    PresetFileSender* sender() const { return senderOf(m_step.page, m_step.address(1)); }
+    PresetFileSender* presetSender() const { return senderOf(m_step.page, m_step.address(1)); }
 
     InstallHall m_step;
     std::unique_ptr<QSignalSpy> m_ends;
@@ -77,3 +84,5 @@ std::unique_ptr<FaultFace> makePageFace(const HallDescription& description)
 {
     return std::make_unique<PageFace>(description);
 }
+
+#include "pagefaultface.moc"

@@ -6,6 +6,7 @@
 #include "livetoolrun.h"
 #include "ptytoolrun.h"
 #include "quickhall.h"
+#include "shellword.h"
 #include "testcase.h"
 
 #include <QJsonArray>
@@ -356,7 +357,7 @@ void TestInstallCommand::hubAloneLeavesTheOthersAndSaysSo()
     const ToolRun run = tool.ended();
     QCOMPARE(run.exitCode, 0);
     QVERIFY2(run.errors.contains(QStringLiteral("Gallery (127.34.1.2)")), qPrintable(run.errors));
-    QVERIFY2(run.errors.contains(QStringLiteral("tesselctl recall 1 ") + file.path()),
+    QVERIFY2(run.errors.contains(QStringLiteral("tesselctl recall 1 ") + shellWord(file.path())),
              qPrintable(run.errors));
     QCOMPARE(hall.hub(stage)->recalledPreset(), 1);
     QCOMPARE(hall.hub(gallery)->exchangeNames(), QStringList());
