@@ -14,9 +14,9 @@
 
 namespace {
 
-bool put(FILE* stream, const QString& text)
+bool put(FILE* stream, const QByteArray& bytes)
 {
-    return std::fputs(text.toLocal8Bit().constData(), stream) >= 0 && std::fflush(stream) == 0;
+    return std::fputs(bytes.constData(), stream) >= 0 && std::fflush(stream) == 0;
 }
 
 #ifdef Q_OS_WIN
@@ -38,16 +38,24 @@ bool show(const QString& text)
     return written != 0 && count == letters.size();
 }
 
+/// Whether a stream leads into a file or another program.
+bool isLedAway(int descriptor)
+{
+    DWORD mode = 0;
+    return descriptor >= 0 &&
+           ::GetConsoleMode(reinterpret_cast<HANDLE>(::_get_osfhandle(descriptor)), &mode) == 0;
+}
+
 // Here a program with windows has no streams, but for those that its starter led into a file or
 // another program. What would go to the others goes to the console that it was started from. It is
 // let go again at once: whoever closes that console, or presses Ctrl+C in it, ends what is
 // attached.
 bool write(FILE* stream, const QString& text)
 {
-    if (const int descriptor = ::_fileno(stream); descriptor >= 0) {
-        // Lines end as they do on other systems.
+    if (const int descriptor = ::_fileno(stream); isLedAway(descriptor)) {
+        // Letters and line ends are those of other systems.
         ::_setmode(descriptor, _O_BINARY);
-        return put(stream, text);
+        return put(stream, text.toUtf8());
     }
     const bool attached = ::AttachConsole(ATTACH_PARENT_PROCESS) != 0;
     const bool written = show(text);
@@ -61,7 +69,7 @@ bool write(FILE* stream, const QString& text)
 
 bool write(FILE* stream, const QString& text)
 {
-    return put(stream, text);
+    return put(stream, text.toLocal8Bit());
 }
 
 #endif

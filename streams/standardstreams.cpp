@@ -14,10 +14,13 @@ StandardStreams::StandardStreams()
     for (FILE* stream : {stdout, stderr}) {
         ::_setmode(::_fileno(stream), _O_BINARY);
     }
+    // It would be written byte by byte, and a console does not put the bytes of a letter together.
+    std::setvbuf(stderr, nullptr, _IOFBF, BUFSIZ);
 }
 
 StandardStreams::~StandardStreams()
 {
+    std::fflush(nullptr);
     ::SetConsoleOutputCP(m_before);
 }
 

@@ -85,6 +85,7 @@ void passWarningsOn(QtMsgType type, const QMessageLogContext& /*context*/, const
     const bool isNote = type == QtDebugMsg || type == QtInfoMsg;
     if (!isNote && !text.startsWith(u"QStandardPaths: ")) {
         std::fputs((text + u'\n').toUtf8().constData(), stderr);
+        std::fflush(stderr);
     }
 }
 

@@ -400,8 +400,13 @@ void TestDesktopColors::aSelectionIsSeenWhileTheKeyboardIsElsewhere()
 
 void TestDesktopColors::theMenuOfARoomCanBeRead()
 {
-    start();
     QFETCH(const bool, endsDark);
+#ifdef Q_OS_WIN
+    if (endsDark) {
+        QSKIP("menus keep the system's colours there, which are light ones with this Qt");
+    }
+#endif
+    start();
     const Wizard wizard(4);
     auto* picker = wizard.page().findChild<QWidget*>(QStringLiteral("tessel"));
     picker->setFocus();

@@ -129,7 +129,9 @@ bool ConsoleRun::isOver() const
 int ConsoleRun::ended()
 {
     DWORD code = 0;
-    const bool isEnded = QTest::qWaitFor([this] { return isOver(); }, patience) &&
-                         ::GetExitCodeProcess(m_program.hProcess, &code) != 0;
-    return isEnded ? int(code) : -1;
+    if (!QTest::qWaitFor([this] { return isOver(); }, patience) ||
+        ::GetExitCodeProcess(m_program.hProcess, &code) == 0) {
+        return -1;
+    }
+    return int(code);
 }

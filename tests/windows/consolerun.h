@@ -45,7 +45,7 @@ private:
     void start(const QString& commandLine, Streams streams);
     bool isOver() const;
 
-    HANDLE m_screen;
-    HANDLE m_keyboard;
+    HANDLE m_screen = nullptr;
+    HANDLE m_keyboard = nullptr;
     PROCESS_INFORMATION m_program{};
 };

@@ -18,12 +18,36 @@ ConsoleRun::Streams streamsOf(const QString& program)
     return program == wizard ? ConsoleRun::Streams::NotGiven : ConsoleRun::Streams::Given;
 }
 
-HallDescription oneHub()
+/// Two hubs that know quickPassword().
+HallDescription twoHubs()
 {
-    HallDescription description = quickHall(hubAddress, 1, 0);
+    HallDescription description = quickHall(hubAddress, 2, 0);
     description.hubs[0].label = QStringLiteral("Stage");
+    description.hubs[1].label = QStringLiteral("Gallery");
     return description;
 }
+
+/// The installation of a hall, typed at by a person.
+struct Installation
+{
+    Installation()
+    {
+        QString error;
+        QVERIFY2(hall.start(&error), qPrintable(error));
+    }
+
+    bool isAsked(const QString& hub)
+    {
+        return run.hasShown(QStringLiteral("password of ") + hub) &&
+               QTest::qWaitFor([this] { return !run.isEchoing(); });
+    }
+
+    QByteArray shown() const { return run.screen().toUtf8(); }
+
+    const InstallableHall file{twoHubs()};
+    Hall hall{twoHubs()};
+    ConsoleRun run{tool, {QStringLiteral("install"), file.path(), QStringLiteral("--no-search")}};
+};
 
 } // namespace
 
@@ -40,7 +64,8 @@ private Q_SLOTS:
     void theWizardsOwnLettersAreShownAsTheyAreMeant();
     void ctrlCClosesTheHall();
     void aTakenAddressIsTold();
-    void aPasswordIsTypedUnseen();
+    void passwordsAreTypedUnseen();
+    void theKeyThatClosesLeavesAHubOut();
     void ctrlCAtThePromptShowsAgainWhatIsTyped();
 };
 
@@ -103,7 +128,7 @@ void TestConsole::ctrlCClosesTheHall()
 
 void TestConsole::aTakenAddressIsTold()
 {
-    Hall hall(oneHub());
+    Hall hall(twoHubs());
     QString error;
     QVERIFY2(hall.start(&error), qPrintable(error));
     ConsoleRun run(hallProgram, {QStringLiteral("--base"), hubAddress});
@@ -112,36 +137,41 @@ void TestConsole::aTakenAddressIsTold()
              run.screen().toUtf8().constData());
 }
 
-void TestConsole::aPasswordIsTypedUnseen()
+void TestConsole::passwordsAreTypedUnseen()
 {
-    const InstallableHall file(oneHub());
-    Hall hall(oneHub());
-    QString error;
-    QVERIFY2(hall.start(&error), qPrintable(error));
-    ConsoleRun run(tool, {QStringLiteral("install"), file.path(), QStringLiteral("--no-search")});
-    QVERIFY2(run.hasShown(QStringLiteral("password of Stage")), run.screen().toUtf8().constData());
-    QTRY_VERIFY(!run.isEchoing());
-    run.type(quickPassword() + u'\r');
-    QCOMPARE(run.ended(), 0);
-    QVERIFY2(!run.screen().contains(quickPassword()), run.screen().toUtf8().constData());
-    QVERIFY(run.isEchoing());
-    QCOMPARE(hall.hub(hubAddress)->recalledPreset(), 1);
+    Installation installation;
+    for (const QString& hub : {QStringLiteral("Stage"), QStringLiteral("Gallery")}) {
+        QVERIFY2(installation.isAsked(hub), installation.shown().constData());
+        installation.run.type(quickPassword() + u'\r');
+    }
+    QCOMPARE(installation.run.ended(), 0);
+    QVERIFY2(!installation.run.screen().contains(quickPassword()),
+             installation.shown().constData());
+    QVERIFY(installation.run.isEchoing());
+    QCOMPARE(installation.hall.hub(hubAddress)->recalledPreset(), 1);
+}
+
+void TestConsole::theKeyThatClosesLeavesAHubOut()
+{
+    Installation installation;
+    QVERIFY2(installation.isAsked(QStringLiteral("Stage")), installation.shown().constData());
+    installation.run.type(QStringLiteral("\x04\r"));
+    QVERIFY2(installation.isAsked(QStringLiteral("Gallery")), installation.shown().constData());
+    installation.run.type(quickPassword() + u'\r');
+    QCOMPARE(installation.run.ended(), 1);
+    QCOMPARE(installation.hall.hub(hubAddress)->recalledPreset(), 0);
+    QCOMPARE(installation.hall.hub(QStringLiteral("127.35.1.2"))->recalledPreset(), 1);
 }
 
 void TestConsole::ctrlCAtThePromptShowsAgainWhatIsTyped()
 {
-    const InstallableHall file(oneHub());
-    Hall hall(oneHub());
-    QString error;
-    QVERIFY2(hall.start(&error), qPrintable(error));
-    ConsoleRun run(tool, {QStringLiteral("install"), file.path(), QStringLiteral("--no-search")});
-    QVERIFY2(run.hasShown(QStringLiteral("password of Stage")), run.screen().toUtf8().constData());
-    QTRY_VERIFY(!run.isEchoing());
+    Installation installation;
+    QVERIFY2(installation.isAsked(QStringLiteral("Stage")), installation.shown().constData());
     ConsoleRun::pressCtrlC();
-    QCOMPARE(run.ended(), 1);
-    QVERIFY2(run.screen().contains(QStringLiteral("interrupted")),
-             run.screen().toUtf8().constData());
-    QVERIFY(run.isEchoing());
+    QCOMPARE(installation.run.ended(), 1);
+    QVERIFY2(installation.run.screen().contains(QStringLiteral("interrupted")),
+             installation.shown().constData());
+    QVERIFY(installation.run.isEchoing());
 }
 
 TESSEL_TEST_MAIN(TestConsole)

@@ -435,6 +435,7 @@ void TestInstallCommand::wrongPasswordIsAskedForAgain()
 
 void TestInstallCommand::answerThatSaysNothingOfThePasswordIsTold()
 {
+    NEED_A_TERMINAL();
     START_HALL(twoHubs());
     hall.hub(stage)->setFault(
         {.exchange = Exchange::LogIn, .kind = FaultKind::Status, .number = 503, .times = 1});
@@ -524,6 +525,7 @@ void TestInstallCommand::firstPasswordThatIsRefusedIsToldWhy_data()
 
 void TestInstallCommand::firstPasswordThatIsRefusedIsToldWhy()
 {
+    NEED_A_TERMINAL();
     QFETCH(const QByteArray, typed);
     QFETCH(const QString, reason);
     HallDescription fresh = twoHubs();
@@ -541,6 +543,7 @@ void TestInstallCommand::firstPasswordThatIsRefusedIsToldWhy()
 
 void TestInstallCommand::hubThatDoesNotTakeItsFirstPasswordIsToldWhy()
 {
+    NEED_A_TERMINAL();
     HallDescription fresh = twoHubs();
     fresh.hubs[0].password.reset();
     START_HALL(fresh);
@@ -727,6 +730,7 @@ void TestInstallCommand::recallOfTheOthersIsOfferedAndDone()
 
 void TestInstallCommand::interruptionOfTheOfferEndsOrderly()
 {
+    NEED_A_TERMINAL();
     START_HALL(twoHubs());
     const QString passwords = file.privateFile("passwords", line(stage));
     PtyToolRun tool({install, file.path(), noSearch, passwordsOption, passwords,
