@@ -1,6 +1,7 @@
 // What a test program exits with. This one is also the programs that are looked at: "--as NAME".
 #include "testcase.h"
 
+#include <QCoreApplication>
 #include <QProcess>
 
 namespace {
