@@ -8,20 +8,22 @@
 namespace {
 
 // Beside the program, as it is built and as Windows has it; then as other systems have it.
-const QStringList& places()
-{
-    static const QStringList all{QStringLiteral("guide"), QStringLiteral("../share/tessel/guide")};
-    return all;
-}
+constexpr QLatin1String beside("guide");
+constexpr QLatin1String shared("../share/tessel/guide");
+#ifdef Q_OS_WIN
+constexpr QLatin1String installed = beside;
+#else
+constexpr QLatin1String installed = shared;
+#endif
 
-QString cleanPath(const QString& programFolder, const QString& place)
+QString cleanPath(const QString& programFolder, QLatin1String place)
 {
     return QDir::cleanPath(programFolder + QLatin1Char('/') + place);
 }
 
 QString findFolder(const QString& programFolder)
 {
-    for (const QString& place : places()) {
+    for (const QLatin1String place : {beside, shared}) {
         const QString folder = cleanPath(programFolder, place);
         if (QFileInfo(folder + QStringLiteral("/index.html")).isFile()) {
             return folder;
@@ -41,7 +43,7 @@ Guide::Guide(const QString& programFolder)
 QString Guide::open(int step) const
 {
     if (m_folder.isEmpty()) {
-        const QString place = cleanPath(m_programFolder, places().last());
+        const QString place = cleanPath(m_programFolder, installed);
         return tr("The guide is not installed; its place is %1.")
             .arg(QDir::toNativeSeparators(place));
     }

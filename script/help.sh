@@ -6,10 +6,22 @@ head_comment() {
     sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$self"
 }
 
-# For a script that is called wrongly.
+# For a script that is called wrongly, with what is wrong.
 usage() {
-    head_comment >&2
+    printf '%s\n' "${self##*/}: ${1-an argument is missing}" "$0 --help says how it is called" >&2
     exit 64
+}
+
+unknown() {
+    usage "$1: unknown"
+}
+
+# For names, where options have come before.
+refuse_options() {
+    local name
+    for name; do
+        case $name in -*) usage "$name: unknown here" ;; esac
+    done
 }
 
 case ${1-} in

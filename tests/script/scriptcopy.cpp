@@ -19,7 +19,10 @@ QDir scripts()
 
 ScriptCopy::ScriptCopy()
 {
+    const QString trial = QStringLiteral("packaging/debian/trial");
     QDir(m_checkout.path()).mkdir(QStringLiteral("script"));
+    QDir(m_checkout.path()).mkpath(QFileInfo(trial).path());
+    QFile::copy(scripts().filePath(QStringLiteral("../") + trial), m_checkout.filePath(trial));
     for (const QString& file : scripts().entryList(QDir::Files)) {
         QFile::copy(scripts().filePath(file),
                     m_checkout.filePath(QStringLiteral("script/") + file));
@@ -114,6 +117,7 @@ QStringList ScriptCopy::leftBehind() const
     QStringList names =
         QDir(m_checkout.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     names.removeOne(QStringLiteral("script"));
+    names.removeOne(QStringLiteral("packaging"));
     return names;
 }
 

@@ -12,8 +12,9 @@ struct ScriptRun
     QString errors;
 };
 
-/// A copy of all scripts in a folder of its own, where they find no programs but the few that are
-/// there from the beginning and those that a test gives them: nothing is installed or built.
+/// A copy of all scripts, and of the package's trial, in a folder of its own, where they find no
+/// programs but the few that are there from the beginning and those that a test gives them: nothing
+/// is installed or built.
 class ScriptCopy
 {
 public:
@@ -46,7 +47,7 @@ public:
 
     /// What the programs have logged.
     QString log() const;
-    /// Everything that lies beside the folder of the scripts.
+    /// Everything that lies beside the folders of the scripts.
     QStringList leftBehind() const;
 
 private:

@@ -38,16 +38,17 @@ void leaveQt(const ScriptCopy& copy, const QByteArray& version,
     }
 }
 
-/// Gives the packages that building for Windows needs, with Qt's tools of this version.
-void giveWindowsTools(ScriptCopy& copy, const QString& version)
+/// Gives the packages that building for Windows needs, with Qt's tools of this version and place.
+void giveWindowsTools(ScriptCopy& copy, const QString& version,
+                      const QString& place = QStringLiteral("/own"))
 {
     copy.givePackages(true);
     copy.give(QStringLiteral("x86_64-w64-mingw32-objdump"), QStringLiteral("echo pei-x86-64"));
     copy.give(QStringLiteral("qtpaths6"), QStringLiteral("case $2 in\n"
                                                          "QT_VERSION) echo %1 ;;\n"
-                                                         "*) echo /own ;;\n"
+                                                         "*) echo %2 ;;\n"
                                                          "esac")
-                                              .arg(version));
+                                              .arg(version, place));
 }
 
 /// What script/build asks of CMake in a folder that was configured as strict as `earlier` says;
@@ -76,6 +77,27 @@ void leaveClone(ScriptCopy& copy, const QByteArray& changes)
     copy.givePackages(true);
     copy.leave(QStringLiteral("CMakeLists.txt"), "project(tessel VERSION 2.0.0 LANGUAGES CXX\n");
     copy.leave(QStringLiteral("CHANGELOG.md"), changes);
+}
+
+/// Gives what a release takes, with a git that clones a project whose package holds the clone's
+/// place.
+void giveReleaseTools(ScriptCopy& copy)
+{
+    for (const char* tool : {"cp", "sha256sum", "stat", "xz"}) {
+        copy.giveOwn(QString::fromLatin1(tool));
+    }
+    copy.give(QStringLiteral("git"), QStringLiteral(R"(
+case $1 in
+    archive) echo sources ;;
+    clone)
+        for target; do :; done
+        mkdir -p "$target/script"
+        printf '#!/bin/sh\nmkdir -p build/package\n' >"$target/script/package"
+        echo 'echo $TESSEL_WERROR, ${PWD##*/} >build/package/tessel_2.0.0.deb' >>"$target/script/package"
+        printf '#!/bin/sh\nmkdir -p build/windows; cd build/windows\n' >"$target/script/windows"
+        echo 'for made in setup.exe windows.zip; do echo $2 >tessel-2.0.0-$made; done' >>"$target/script/windows"
+        chmod +x "$target"/script/* ;;
+esac)"));
 }
 
 } // namespace
@@ -108,10 +130,14 @@ private Q_SLOTS:
     void buildDoesNotConfigureTwice();
     void packagesAreMadeOnDebianAlone();
     void packageIsTriedByRootAlone();
+    void packageIsNotMadeForATrialThatIsRefused_data();
+    void packageIsNotMadeForATrialThatIsRefused();
     void packageIsMadeOfWhatIsDelivered();
     void whatIsNotReadyIsNotReleased_data();
     void whatIsNotReadyIsNotReleased();
+    void releaseIsMadeOfACleanClone_data();
     void releaseIsMadeOfACleanClone();
+    void aWrongQtIsToldBeforeAnythingIsReleased();
     void windowsIsBuiltAgainstAQtForItAlone_data();
     void windowsIsBuiltAgainstAQtForItAlone();
     void windowsIsBuiltWithToolsThatAreNotOlder();
@@ -146,44 +172,57 @@ void TestScripts::wrongUsageIsRefused_data()
 {
     QTest::addColumn<QString>("script");
     QTest::addColumn<QStringList>("arguments");
-    const auto row = [](const char* call) {
+    QTest::addColumn<QString>("says");
+    const auto row = [](const char* call, const char* says) {
         QStringList arguments = words(call);
         const QString script = arguments.takeFirst();
-        QTest::newRow(call) << script << arguments;
+        QTest::newRow(call) << script << arguments << QString::fromLatin1(says);
     };
-    row("bench --bogus");
-    row("bench --instructions more");
-    row("bootstrap bogus");
-    row("build bogus");
-    row("check more");
-    row("demo --bogus");
-    row("demo --interactive more");
-    row("fuzz --bogus");
-    row("package --bogus");
-    row("package --test more");
-    row("pictures more");
-    row("release more");
-    row("release --qt");
-    row("valgrind --bogus");
-    row("windows");
-    row("windows bogus");
-    row("windows --qt folder --bogus");
-    row("windows --qt folder --demo more");
-    row("with-network");
-    row("with-network --ready");
-    row("with-network hall wizard");
-    row("with-port-80");
+    row("bench --bogus", "--bogus: unknown");
+    row("bench --instructions more", "more: unknown");
+    row("bootstrap bogus", "bogus: unknown");
+    row("build bogus", "bogus: unknown");
+    row("build dev tessel --bogus", "--bogus: unknown here");
+    row("check more", "more: unknown");
+    row("demo --bogus", "--bogus: unknown");
+    row("demo --interactive more", "more: unknown");
+    row("fuzz --bogus", "--bogus: unknown");
+    row("package --bogus", "--bogus: unknown");
+    row("package --test more", "more: unknown");
+    row("pictures more", "more: unknown");
+    row("pictures --guide more", "more: unknown");
+    row("release more", "more: unknown");
+    row("release --qt", "--qt wants the folder of a Qt for MinGW");
+    row("release --qt folder more", "more: unknown");
+    row("valgrind --bogus", "--bogus: unknown");
+    row("windows", "--qt FOLDER is missing");
+    row("windows --bogus", "--bogus: unknown");
+    row("windows tessel", "--qt FOLDER is missing");
+    row("windows --qt folder --bogus", "--bogus: unknown here");
+    row("windows --qt folder --demo more", "more: unknown");
+    row("windows --qt folder tessel --demo", "--demo: unknown here");
+    row("with-network", "two commands are wanted, with -- between them");
+    row("with-network --ready", "--ready wants a text");
+    row("with-network hall wizard", "two commands are wanted, with -- between them");
+    row("with-port-80", "a command is missing");
+    row("../packaging/debian/trial", "a package is missing");
+    row("../packaging/debian/trial build", "build: this is no package");
 }
 
 void TestScripts::wrongUsageIsRefused()
 {
     QFETCH(const QString, script);
     QFETCH(const QStringList, arguments);
+    QFETCH(const QString, says);
     const ScriptCopy copy;
     const ScriptRun run = copy.run(script, arguments);
     QCOMPARE(run.exitCode, 64);
     QCOMPARE(run.output, QString());
-    QCOMPARE(run.errors, copy.run(script, {QStringLiteral("--help")}).output);
+    const QStringList lines = run.errors.split(u'\n');
+    QCOMPARE(lines.size(), 3);
+    QCOMPARE(lines.first(), script.section(u'/', -1) + QStringLiteral(": ") + says);
+    QVERIFY2(lines.at(1).endsWith(script + QStringLiteral(" --help says how it is called")),
+             qPrintable(run.errors));
 }
 
 void TestScripts::nothingIsInstalledWhereAllIsThere()
@@ -227,7 +266,8 @@ void TestScripts::checkersComeWithTheirChecks_data()
     QTest::newRow("bench") << QStringLiteral("bench") << words("libbenchmark-dev");
     QTest::newRow("display") << QStringLiteral("display") << words("xvfb");
     QTest::newRow("valgrind") << QStringLiteral("valgrind") << words("valgrind");
-    QTest::newRow("package") << QStringLiteral("package") << words("lintian desktop-file-utils");
+    QTest::newRow("package") << QStringLiteral("package")
+                             << words("git lintian desktop-file-utils");
     QTest::newRow("trial") << QStringLiteral("trial") << words("mmdebstrap xvfb");
     QTest::newRow("windows") << QStringLiteral("windows")
                              << words("g++-mingw-w64-x86-64-posix nsis");
@@ -434,6 +474,34 @@ void TestScripts::packageIsTriedByRootAlone()
     QCOMPARE(copy.log(), QString());
 }
 
+void TestScripts::packageIsNotMadeForATrialThatIsRefused_data()
+{
+    QTest::addColumn<QString>("unshare");
+    QTest::addColumn<QString>("says");
+    QTest::newRow("mounts") << "exit 1"
+                            << "a system of its own takes mounts and devices, which are refused "
+                               "here";
+    QTest::newRow("networks") << "exit 0"
+                              << "without networks of its own the demo cannot be played: "
+                                 "with-network: the program 'ip' is missing";
+}
+
+void TestScripts::packageIsNotMadeForATrialThatIsRefused()
+{
+    QFETCH(const QString, unshare);
+    QFETCH(const QString, says);
+    ScriptCopy copy;
+    copy.givePackages(true);
+    copy.give(QStringLiteral("id"), QStringLiteral("echo 0"));
+    copy.give(QStringLiteral("unshare"), unshare);
+    copy.give(QStringLiteral("cmake"), QStringLiteral("echo \"cmake $*\" >>\"$LOG\""));
+    const ScriptRun run = copy.run(QStringLiteral("package"), {QStringLiteral("--test")});
+    QCOMPARE(run.exitCode, 77);
+    QCOMPARE(run.output, QString());
+    QCOMPARE(run.errors, QStringLiteral("package: %1\n").arg(says));
+    QCOMPARE(copy.log(), QString());
+}
+
 void TestScripts::packageIsMadeOfWhatIsDelivered()
 {
     ScriptCopy copy;
@@ -452,8 +520,8 @@ void TestScripts::whatIsNotReadyIsNotReleased_data()
     QTest::addColumn<QString>("message");
     const QByteArray told("## 2.0.0 - 2030-01-31\n");
     const QString noSection = QStringLiteral("CHANGELOG.md has no section \"## 2.0.0 - <date>\"");
-    QTest::newRow("no clone") << "exit 128" << told
-                              << "this is no clone: what is in a version stands in git";
+    QTest::newRow("no clone") << "echo 'git: not mine' >&2; exit 128" << told
+                              << "what is in a version stands in git, which reads no clone here";
     QTest::newRow("a changed file") << "[ \"$1\" != status ] || echo ' M a'" << told
                                     << "not everything is committed (git status)";
     QTest::newRow("another version's changes")
@@ -473,36 +541,58 @@ void TestScripts::whatIsNotReadyIsNotReleased()
     const ScriptRun run = copy.run(QStringLiteral("release"), {});
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(run.output, QString());
-    QCOMPARE(run.errors, QStringLiteral("release: %1\n").arg(message));
+    // What git says of it comes before.
+    const QString gitsOwn = git.contains(u"exit") ? QStringLiteral("git: not mine\n") : QString();
+    QCOMPARE(run.errors, gitsOwn + QStringLiteral("release: %1\n").arg(message));
     QCOMPARE(copy.leftBehind(), before);
+}
+
+void TestScripts::releaseIsMadeOfACleanClone_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("made");
+    const QStringList made = words("tessel-2.0.0.tar.xz tessel_2.0.0.deb");
+    QTest::newRow("for Debian") << QStringList() << made;
+    QTest::newRow("for Windows too")
+        << words("--qt qt") << made + words("tessel-2.0.0-setup.exe tessel-2.0.0-windows.zip");
 }
 
 void TestScripts::releaseIsMadeOfACleanClone()
 {
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QStringList, made);
     ScriptCopy copy;
     leaveClone(copy, "## 2.0.0 - 2030-01-31\n");
-    for (const char* tool : {"cp", "sha256sum", "stat", "xz"}) {
-        copy.giveOwn(QString::fromLatin1(tool));
-    }
-    // What it clones is a project whose package holds the clone's place.
-    copy.give(QStringLiteral("git"), QStringLiteral(R"(
-case $1 in
-    archive) echo sources ;;
-    clone)
-        for target; do :; done
-        mkdir -p "$target/script"
-        printf '#!/bin/sh\nmkdir -p build/package\n' >"$target/script/package"
-        echo 'echo $TESSEL_WERROR, ${PWD##*/} >build/package/tessel_2.0.0.deb' >>"$target/script/package"
-        chmod +x "$target/script/package" ;;
-esac)"));
+    leaveQt(copy, "6.4.2");
+    giveWindowsTools(copy, QStringLiteral("6.4.2"));
+    giveReleaseTools(copy);
     copy.leave(QStringLiteral("build/artefacts/tessel_1.0.0.deb"), "of an earlier version");
-    const ScriptRun run = copy.run(QStringLiteral("release"), {});
+    const ScriptRun run = copy.run(QStringLiteral("release"), arguments);
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
     QCOMPARE(copy.read(QStringLiteral("build/artefacts/tessel_2.0.0.deb")), "ON, clean-clone\n");
     const QByteArray sums = copy.read(QStringLiteral("build/artefacts/SHA256SUMS"));
-    QCOMPARE(sums.count('\n'), 2);
-    QVERIFY(sums.contains("  tessel-2.0.0.tar.xz\n") && sums.contains("  tessel_2.0.0.deb\n"));
-    QVERIFY2(run.output.contains(u"Nothing for Windows"), qPrintable(run.output));
+    QCOMPARE(sums.count('\n'), made.size());
+    for (const QString& file : made) {
+        QVERIFY2(sums.contains("  " + file.toUtf8() + '\n'), qPrintable(file));
+    }
+    QCOMPARE(run.output.contains(u"Nothing for Windows"), arguments.isEmpty());
+}
+
+void TestScripts::aWrongQtIsToldBeforeAnythingIsReleased()
+{
+    ScriptCopy copy;
+    leaveClone(copy, "## 2.0.0 - 2030-01-31\n");
+    leaveQt(copy, "6.10.0");
+    giveWindowsTools(copy, QStringLiteral("6.4.2"));
+    giveReleaseTools(copy);
+    const QString earlier = QStringLiteral("build/artefacts/tessel_1.0.0.deb");
+    copy.leave(earlier, "of an earlier version");
+    const ScriptRun run = copy.run(QStringLiteral("release"), words("--qt qt"));
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.output, QString());
+    QVERIFY2(run.errors.startsWith(u"windows: this computer's own Qt is 6.4.2"),
+             qPrintable(run.errors));
+    QCOMPARE(copy.read(earlier), "of an earlier version");
 }
 
 void TestScripts::windowsIsBuiltAgainstAQtForItAlone_data()
@@ -569,10 +659,15 @@ void TestScripts::windowsIsConfiguredOncePerQt()
     QCOMPARE(copy.log(), QStringLiteral("cmake --preset windows\n"
                                         "cmake --build --preset\n"
                                         "cmake --build --preset\n"));
+    const QString anew = copy.log().section(u'\n', 0, 1) + u'\n';
+    QString expected = copy.log() + anew;
     leaveQt(copy, "6.4.2", QStringLiteral("other"));
     copy.run(QStringLiteral("windows"), words("--qt other tessel"));
-    QVERIFY2(copy.log().endsWith(u"cmake --preset windows\ncmake --build --preset\n"),
-             qPrintable(copy.log()));
+    QCOMPARE(copy.log(), expected);
+    // The same, with tools from elsewhere.
+    giveWindowsTools(copy, QStringLiteral("6.4.2"), QStringLiteral("/newer"));
+    copy.run(QStringLiteral("windows"), words("--qt other tessel"));
+    QCOMPARE(copy.log(), expected + anew);
 }
 
 TESSEL_TEST_MAIN(TestScripts)
