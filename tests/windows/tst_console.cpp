@@ -6,6 +6,8 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 namespace {
 
 const QString wizard = QStringLiteral(TESSEL_PROGRAM);
@@ -36,10 +38,20 @@ struct Installation
         QVERIFY2(hall.start(&error), qPrintable(error));
     }
 
-    bool isAsked(const QString& hub)
+    /// Waits for the next question; hubs ask as their answers come.
+    bool isAsked()
     {
-        return run.hasShown(QStringLiteral("password of ") + hub) &&
-               QTest::qWaitFor([this] { return !run.isEchoing(); });
+        const qsizetype before = m_questions++;
+        return QTest::qWaitFor([this, before] { return questions() > before && !run.isEchoing(); },
+                               60000);
+    }
+
+    int installedHubs() const
+    {
+        const QList<SimulatedHub*> hubs = hall.hubs();
+        return int(std::count_if(hubs.begin(), hubs.end(), [](const SimulatedHub* hub) {
+            return hub->recalledPreset() == 1;
+        }));
     }
 
     QByteArray shown() const { return run.screen().toUtf8(); }
@@ -47,6 +59,11 @@ struct Installation
     const InstallableHall file{twoHubs()};
     Hall hall{twoHubs()};
     ConsoleRun run{tool, {QStringLiteral("install"), file.path(), QStringLiteral("--no-search")}};
+
+private:
+    qsizetype questions() const { return run.screen().count(QStringLiteral("password of ")); }
+
+    qsizetype m_questions = 0;
 };
 
 } // namespace
@@ -107,9 +124,10 @@ void TestConsole::lettersAreShownAsTheyAreMeant()
 
 void TestConsole::theWizardsOwnLettersAreShownAsTheyAreMeant()
 {
-    const QString argument = QString::fromUtf8("--Größe-Łódź");
-    ConsoleRun run(wizard, {QStringLiteral("-N:1"), argument}, streamsOf(wizard));
-    QVERIFY2(run.hasShown(QStringLiteral("tessel: argument ignored: ") + argument),
+    const QString log = QString::fromUtf8("no folder/Größe Łódź.log");
+    ConsoleRun run(wizard, {QStringLiteral("-N:1"), QStringLiteral("--log"), log},
+                   streamsOf(wizard));
+    QVERIFY2(run.hasShown(QStringLiteral("tessel: cannot write the log ") + log),
              run.screen().toUtf8().constData());
 }
 
@@ -140,33 +158,32 @@ void TestConsole::aTakenAddressIsTold()
 void TestConsole::passwordsAreTypedUnseen()
 {
     Installation installation;
-    for (const QString& hub : {QStringLiteral("Stage"), QStringLiteral("Gallery")}) {
-        QVERIFY2(installation.isAsked(hub), installation.shown().constData());
+    for (int hub = 1; hub <= 2; ++hub) {
+        QVERIFY2(installation.isAsked(), installation.shown().constData());
         installation.run.type(quickPassword() + u'\r');
     }
     QCOMPARE(installation.run.ended(), 0);
     QVERIFY2(!installation.run.screen().contains(quickPassword()),
              installation.shown().constData());
     QVERIFY(installation.run.isEchoing());
-    QCOMPARE(installation.hall.hub(hubAddress)->recalledPreset(), 1);
+    QCOMPARE(installation.installedHubs(), 2);
 }
 
 void TestConsole::theKeyThatClosesLeavesAHubOut()
 {
     Installation installation;
-    QVERIFY2(installation.isAsked(QStringLiteral("Stage")), installation.shown().constData());
+    QVERIFY2(installation.isAsked(), installation.shown().constData());
     installation.run.type(QStringLiteral("\x04\r"));
-    QVERIFY2(installation.isAsked(QStringLiteral("Gallery")), installation.shown().constData());
+    QVERIFY2(installation.isAsked(), installation.shown().constData());
     installation.run.type(quickPassword() + u'\r');
     QCOMPARE(installation.run.ended(), 1);
-    QCOMPARE(installation.hall.hub(hubAddress)->recalledPreset(), 0);
-    QCOMPARE(installation.hall.hub(QStringLiteral("127.35.1.2"))->recalledPreset(), 1);
+    QCOMPARE(installation.installedHubs(), 1);
 }
 
 void TestConsole::ctrlCAtThePromptShowsAgainWhatIsTyped()
 {
     Installation installation;
-    QVERIFY2(installation.isAsked(QStringLiteral("Stage")), installation.shown().constData());
+    QVERIFY2(installation.isAsked(), installation.shown().constData());
     ConsoleRun::pressCtrlC();
     QCOMPARE(installation.run.ended(), 1);
     QVERIFY2(installation.run.screen().contains(QStringLiteral("interrupted")),

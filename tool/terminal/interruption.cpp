@@ -69,6 +69,7 @@ Interruption::~Interruption()
 namespace {
 
 std::atomic<Interruption*> listener = nullptr;
+HANDLE listeningThread = nullptr;
 
 // Runs in a thread of the system's own; what it does not take, ends the program.
 BOOL WINAPI noteInterruption(DWORD event)
@@ -78,6 +79,10 @@ BOOL WINAPI noteInterruption(DWORD event)
     Interruption* const first = isMeant ? listener.exchange(nullptr) : nullptr;
     const bool isTaken =
         first != nullptr && QMetaObject::invokeMethod(first, "note", Qt::QueuedConnection);
+    if (isTaken) {
+        // It may be waiting for a line of the console, and hears of nothing else meanwhile.
+        ::CancelSynchronousIo(listeningThread);
+    }
     if (isClosing) {
         // The program ends when this returns. So it ends by itself, or when the system has waited
         // long enough.
@@ -91,6 +96,8 @@ BOOL WINAPI noteInterruption(DWORD event)
 Interruption::Interruption(QObject* parent)
     : QObject(parent)
 {
+    ::DuplicateHandle(::GetCurrentProcess(), ::GetCurrentThread(), ::GetCurrentProcess(),
+                      &listeningThread, 0, FALSE, DUPLICATE_SAME_ACCESS);
     listener = this;
     ::SetConsoleCtrlHandler(noteInterruption, TRUE);
 }
@@ -99,6 +106,7 @@ Interruption::~Interruption()
 {
     ::SetConsoleCtrlHandler(noteInterruption, FALSE);
     listener = nullptr;
+    ::CloseHandle(listeningThread);
 }
 
 #endif

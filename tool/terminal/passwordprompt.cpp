@@ -160,7 +160,8 @@ void PasswordPrompt::takeLine()
     stop();
     // A terminal that is gone has an end of input too, which nobody typed.
     if (!line || (line->isEmpty() && !isPossible())) {
-        Q_EMIT lost();
+        // An interruption that ended the reading is told first.
+        QMetaObject::invokeMethod(this, "lost", Qt::QueuedConnection);
     } else if (line->isEmpty()) {
         Q_EMIT closed();
     } else {
