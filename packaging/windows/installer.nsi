@@ -4,7 +4,8 @@
 ;   STAGED             the folder with all that is installed
 ;   REMOVAL            a file of instructions that remove exactly that again
 ;   KILOBYTES          its size
-;   ICON, OUTPUT       what their names say
+;   ICON, SIDE         its pictures: the icon, and the one beside the first and the last page
+;   OUTPUT             the installer
 ;
 ; On the command line it takes /S (asks nothing), /CurrentUser or /AllUsers, and /D=FOLDER as the
 ; last. Exit codes beside those of every NSIS installer, 1 cancelled and 2 ended half-way: 3 a program
@@ -58,6 +59,7 @@ VIAddVersionKey "LegalCopyright" "Copyright 2026 its owner. No licence has been 
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDE}"
 !define MUI_WELCOMEPAGE_TITLE "Tessel ${VERSION}"
 !define MUI_WELCOMEPAGE_TEXT "This installs the Divide / Combine Room Wizard, its field kit (tesselctl), a simulated hall for training (tessel-hall), and the guide.$\r$\n$\r$\nA version that is installed already is replaced. Halls and work that you saved stay as they are.$\r$\n$\r$\n$_CLICK"
 !define MUI_FINISHPAGE_RUN "$INSTDIR\tessel.exe"
@@ -155,7 +157,7 @@ Function requireOnlyCopy
     ${AndIf} $MultiUser.InstallMode == "CurrentUser"
     ${AndIf} $R1 == ""
     ${AndIf} $R2 != ""
-    ${AndIf} ${Cmd} `MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 "Tessel is installed for all users of this computer, in $R2. An administrator can replace that.$\r$\n$\r$\nInstall a second copy, for you alone?" /SD IDNO IDNO`
+    ${AndIf} ${Cmd} `MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 "Tessel is installed for all users of this computer:$\r$\n$R2$\r$\n$\r$\nAn administrator can replace that. Install a second copy, for you alone?" /SD IDNO IDNO`
         SetErrorLevel 5
         Quit
     ${EndIf}
