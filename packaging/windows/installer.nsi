@@ -52,6 +52,7 @@ VIAddVersionKey "LegalCopyright" "Copyright 2026 its owner. No licence has been 
 !include WinCore.nsh
 !include Integration.nsh
 
+Var folder ; that /D= names
 !define OPEN_EXISTING 3 ; of CreateFile
 !define KIND "Tessel.Hall" ; of files that end in .tessel
 !define FORMER "FormerKind" ; where the kind is kept that they had before
@@ -60,6 +61,7 @@ VIAddVersionKey "LegalCopyright" "Copyright 2026 its owner. No licence has been 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
 !define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDE}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP_STRETCH AspectFitHeight
 !define MUI_WELCOMEPAGE_TITLE "Tessel ${VERSION}"
 !define MUI_WELCOMEPAGE_TEXT "This installs the Divide / Combine Room Wizard, its field kit (tesselctl), a simulated hall for training (tessel-hall), and the guide.$\r$\n$\r$\nA version that is installed already is replaced. Halls and work that you saved stay as they are.$\r$\n$\r$\n$_CLICK"
 !define MUI_FINISHPAGE_RUN "$INSTDIR\tessel.exe"
@@ -68,6 +70,7 @@ VIAddVersionKey "LegalCopyright" "Copyright 2026 its owner. No licence has been 
 !define MUI_FINISHPAGE_SHOWREADME_TEXT "Open the guide"
 !define MUI_FINISHPAGE_SHOWREADME_NOTCHECKED
 !insertmacro MUI_PAGE_WELCOME
+!define MULTIUSER_PAGE_CUSTOMFUNCTION_LEAVE takeFolder
 !insertmacro MULTIUSER_PAGE_INSTALLMODE
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
@@ -129,16 +132,21 @@ VIAddVersionKey "LegalCopyright" "Copyright 2026 its owner. No licence has been 
     ${EndIf}
 !macroend
 
+; Choosing for whom it is installs it in the place that is usual for that.
+Function takeFolder
+    ${If} $folder != ""
+        StrCpy $INSTDIR $folder
+    ${EndIf}
+FunctionEnd
+
 Function .onInit
     ${IfNot} ${AtLeastWin10}
         !insertmacro GiveUp 6 "Tessel needs Windows 10 or later."
     ${EndIf}
     !insertmacro RequireRights
-    StrCpy $R0 $INSTDIR ; empty, unless there is /D=
+    StrCpy $folder $INSTDIR
     !insertmacro MULTIUSER_INIT
-    ${If} $R0 != ""
-        StrCpy $INSTDIR $R0
-    ${EndIf}
+    Call takeFolder
 FunctionEnd
 
 Function un.onInit
