@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr int retryMs = 500;
+
 bool holds(const QList<Fault>& faults, FaultKind kind)
 {
     return std::any_of(faults.begin(), faults.end(),
@@ -118,7 +120,10 @@ void SimulatedDevice::recordBrokenLine(const QString& difference)
 void SimulatedDevice::hearAgain()
 {
     m_isDeaf = false;
-    applyRefusals();
+    // A system may hold a port back for a moment after its last connection has gone.
+    if (!applyRefusals()) {
+        QTimer::singleShot(retryMs, this, SLOT(hearAgain()));
+    }
 }
 
 void SimulatedDevice::makeListeners()
@@ -152,10 +157,10 @@ void SimulatedDevice::closeListeners()
     }
 }
 
-void SimulatedDevice::applyRefusals()
+bool SimulatedDevice::applyRefusals()
 {
     if (!m_isRunning || m_isDeaf) {
-        return;
+        return true;
     }
     for (const TcpPort& port : m_tcpPorts) {
         if (m_faults.holds(port.refusal)) {
@@ -163,9 +168,11 @@ void SimulatedDevice::applyRefusals()
         }
     }
     QString error;
-    if (!openListeners(&error)) {
+    const bool isOpen = openListeners(&error);
+    if (!isOpen) {
         Q_EMIT noticed(address(), error);
     }
+    return isOpen;
 }
 
 bool SimulatedDevice::refuses(const QByteArray& line) const

@@ -111,7 +111,8 @@ private:
     void makeListeners();
     bool openListeners(QString* error);
     void closeListeners();
-    void applyRefusals();
+    /// Listens where no fault forbids it; false when the system does.
+    bool applyRefusals();
     bool refuses(const QByteArray& line) const;
     TextAnswer carryOut(const QByteArray& line, const QList<Fault>& faults);
     void tell(const JournalEntry& entry, const TextAnswer& answer);

@@ -5,6 +5,7 @@
 #include "testcase.h"
 
 #include <QSignalSpy>
+#include <QTcpServer>
 #include <QTest>
 
 namespace {
@@ -47,6 +48,7 @@ private Q_SLOTS:
     void faultsEndWhenTheyAreCleared();
     void refusedConnectionsAreTakenAgainAfterwards();
     void rebootDropsConnectionsAndTokens();
+    void aPortThatIsTakenAfterARebootIsUsedOnceItIsFree();
     void silenceKeepsTheConnection();
     void closingBeforeTheReplyAndInTheBody();
     void onePieceForEveryByte();
@@ -338,6 +340,22 @@ void TestSimulatedHub::rebootDropsConnectionsAndTokens()
     QTRY_VERIFY(peer.connectTo(address, SimulatedHub::httpPort));
     QCOMPARE(HubTexts::statusOf(ask(peer, HubTexts::startExport(host, token))), QByteArray("401"));
     QCOMPARE(hub->presets().size(), 1);
+}
+
+void TestSimulatedHub::aPortThatIsTakenAfterARebootIsUsedOnceItIsFree()
+{
+    START_HALL(secret);
+    const QSignalSpy noticed(&hall, SIGNAL(noticed(QString, QString)));
+    const QByteArray token = logIn(peer);
+    hub->setFault(
+        {.exchange = Exchange::StartExport, .kind = FaultKind::Reboot, .number = 50, .times = 1});
+    peer.send(HubTexts::startExport(host, token));
+    QTRY_VERIFY(!peer.isConnected());
+    QTcpServer occupant;
+    QVERIFY(occupant.listen(QHostAddress(address), SimulatedHub::httpPort));
+    QTRY_VERIFY(noticed.last().last().toString().startsWith(u"cannot listen on 127.10.1.1"));
+    occupant.close();
+    QTRY_VERIFY(peer.connectTo(address, SimulatedHub::httpPort));
 }
 
 void TestSimulatedHub::silenceKeepsTheConnection()
