@@ -45,7 +45,7 @@ private Q_SLOTS:
 namespace {
 
 const QString base = QStringLiteral("127.71.1.1");
-constexpr int slowMs = 150;
+constexpr int slowMs = 500;
 constexpr int installIndex = 7;
 
 HallDescription describe(Exchange exchange)

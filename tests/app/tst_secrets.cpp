@@ -143,6 +143,9 @@ void TestSecrets::nothingPrintedTellsAPassword()
 
 void TestSecrets::noFileLeftTellsAPassword()
 {
+#ifdef Q_OS_WIN
+    QSKIP("no variable makes another home folder here, and the own one is the person's");
+#endif
     const QStringList paths = filesBelow(m_home.path());
     for (const char* end :
          {"/resume-copy.dat", "/requests.jsonl", "/127.83.2.1/state.json", "/entry.json", ".xml"}) {

@@ -63,7 +63,7 @@ bool PasswordPrompt::isPossible() const
 
 QString PasswordPrompt::closingKeys()
 {
-    return QStringLiteral("Ctrl+D and Return");
+    return QStringLiteral("Ctrl+D followed by Return");
 }
 
 #else
