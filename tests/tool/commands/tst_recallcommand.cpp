@@ -1,5 +1,6 @@
 #include "followinghall.h"
 #include "livetoolrun.h"
+#include "shellword.h"
 #include "testcase.h"
 
 #include <QJsonArray>
@@ -147,7 +148,7 @@ void TestRecallCommand::operandsThatAreTurnedAreToldSo()
     QCOMPARE(run.exitCode, 2);
     QCOMPARE(run.errors, QStringLiteral("tesselctl: recall: the layout's number comes first: "
                                         "tesselctl recall 2 %1\n")
-                             .arg(file.path()));
+                             .arg(shellWord(file.path())));
 }
 
 void TestRecallCommand::wrongUsageIsOneLine_data()
