@@ -28,6 +28,4 @@ StandardStreams::~StandardStreams()
 
 StandardStreams::StandardStreams() = default;
 
-StandardStreams::~StandardStreams() = default;
-
 #endif

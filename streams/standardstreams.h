@@ -9,7 +9,9 @@ class StandardStreams
 {
 public:
     StandardStreams();
+#ifdef Q_OS_WIN
     ~StandardStreams();
+#endif
     Q_DISABLE_COPY_MOVE(StandardStreams)
 
 private:
