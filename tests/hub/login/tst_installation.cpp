@@ -9,6 +9,7 @@
 
 #include <QSet>
 #include <QSignalSpy>
+#include <QTcpSocket>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -188,6 +189,13 @@ private:
 const QString allDone = QStringLiteral("Done Done Done Done");
 const QString firstFails = QStringLiteral("Error Done Done Done");
 
+bool isListening(const QString& address)
+{
+    QTcpSocket socket;
+    socket.connectToHost(address, SimulatedHub::httpPort);
+    return socket.waitForConnected();
+}
+
 } // namespace
 
 void TestInstallation::everyHubHoldsWhatTheDocumentSays()
@@ -277,6 +285,7 @@ void TestInstallation::aHubThatRestartsBeforeTheTransferFailsAndCanBeRepeated()
     QTRY_VERIFY(std::any_of(noticed.begin(), noticed.end(), [](const QList<QVariant>& told) {
         return told.last().toString().startsWith(u"reboots");
     }));
+    QTRY_VERIFY(isListening(hub->address()));
     passSeconds(f.senders.value(hub->address()), 31);
     QVERIFY(f.waitForResults());
     QCOMPARE(f.statusTexts(), firstFails);
